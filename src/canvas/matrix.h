@@ -1,0 +1,46 @@
+// The matrices `Vettore` and `Vettore2`: colour values by column and row. Knows no effect.
+#pragma once
+
+#include "canvas/fault.h"
+#include "canvas/surface.h"
+
+#include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+namespace pixano {
+
+/// 1501 x 1501 colour values, first index the column, second the row. Cells survive from one effect
+/// to the next; a cell never written reads 0.
+class Matrix {
+  public:
+    static constexpr int LastIndex = 1500;
+
+    /// The cell at (column, row). Throws SubscriptOutOfRange outside 0 to 1500.
+    Colour& operator()(int column, int row)
+    {
+        if (static_cast<unsigned>(column) > LastIndex || static_cast<unsigned>(row) > LastIndex)
+            throw Fault(FaultKind::SubscriptOutOfRange);
+        return cells_[static_cast<std::size_t>(row) * Side + static_cast<std::size_t>(column)];
+    }
+
+  private:
+    static constexpr std::size_t Side = LastIndex + 1;
+
+    struct Free {
+        void operator()(Colour* cells) const { std::free(cells); }
+    };
+    /// Zeroed pages cost nothing until they are touched, so an unused matrix takes neither time nor
+    /// memory; a vector would write all nine megabytes.
+    static Colour* Zeroed()
+    {
+        void* cells = std::calloc(Side * Side, sizeof(Colour));
+        if (cells == nullptr) throw std::bad_alloc();
+        return static_cast<Colour*>(cells);
+    }
+
+    std::unique_ptr<Colour[], Free> cells_{Zeroed()};
+};
+
+}  // namespace pixano

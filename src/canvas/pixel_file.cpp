@@ -1,0 +1,58 @@
+#include "canvas/pixel_file.h"
+
+#include "canvas/fault.h"
+
+#include <utility>
+
+namespace pixano {
+
+void PixelFile::OpenForOutput()
+{
+    Abandon();
+    window_ = store_->Create();
+    next_ = window_.first;
+    mode_ = Mode::Output;
+    made_ = true;
+}
+
+void PixelFile::Close()
+{
+    const Mode mode = std::exchange(mode_, Mode::Closed);
+    Colour* const end = std::exchange(next_, nullptr);
+    window_ = {};
+    if (mode == Mode::Output) store_->Finish(end);
+    if (mode == Mode::Input) store_->Close();
+}
+
+void PixelFile::Abandon()
+{
+    if (std::exchange(mode_, Mode::Closed) != Mode::Closed) store_->Close();
+    window_ = {};
+    next_ = nullptr;
+}
+
+void PixelFile::Kill()
+{
+    Abandon();
+    if (std::exchange(made_, false)) store_->Kill();
+}
+
+void PixelFile::Flush()
+{
+    if (mode_ != Mode::Output) throw Fault(FaultKind::InvalidCall);
+    window_ = store_->Append(next_);
+    next_ = window_.first;
+}
+
+void PixelFile::Refill()
+{
+    if (mode_ == Mode::Output) throw Fault(FaultKind::InvalidCall);
+    if (mode_ == Mode::Closed) {
+        store_->Open();
+        mode_ = Mode::Input;
+    }
+    window_ = store_->Next();
+    next_ = window_.first;
+}
+
+}  // namespace pixano

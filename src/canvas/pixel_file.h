@@ -1,0 +1,88 @@
+// The pixel working file: colour values written one after another, then read in the same order.
+// Knows neither the canvas nor the order in which an effect walks it.
+#pragma once
+
+#include "canvas/surface.h"
+
+#include <memory>
+#include <string>
+
+namespace pixano {
+
+/// A sequence of colour values that an effect writes, reads back once and drops.
+///
+/// `Write` and `Input` work on a window of values; only when it is full or used up is a `Store`
+/// asked, which keeps the values in memory or as text on disk.
+class PixelFile {
+  public:
+    /// Where the values are kept. Each call hands over or back a window of values.
+    class Store {
+      public:
+        struct Window {
+            Colour* first = nullptr;
+            Colour* last = nullptr;
+        };
+        virtual ~Store() = default;
+        /// Starts an empty file, replacing an old one; gives the first window to be filled.
+        virtual Window Create() = 0;
+        /// Takes the values from the window's start up to `end`; gives the next window to be
+        /// filled.
+        virtual Window Append(Colour* end) = 0;
+        /// Takes the last values and closes the file.
+        virtual void Finish(Colour* end) = 0;
+        /// Opens the file at its first value.
+        virtual void Open() = 0;
+        /// The next values, at least one. Throws InputPastEnd, TypeMismatch or Overflow.
+        virtual Window Next() = 0;
+        /// Closes the file, whether it is being read or written.
+        virtual void Close() = 0;
+        /// Deletes the file.
+        virtual void Kill() = 0;
+    };
+
+    explicit PixelFile(std::unique_ptr<Store> store) : store_(std::move(store)) {}
+
+    /// Opens the file for writing, replacing an old one. Throws FileAccess.
+    void OpenForOutput();
+    /// Adds one value. Throws DiskFull.
+    void Write(Colour value)
+    {
+        if (next_ == window_.last) Flush();
+        *next_++ = value;
+    }
+    /// Reads the next value; the first call opens the file. Throws InputPastEnd, TypeMismatch,
+    /// Overflow, FileNotFound or FileAccess.
+    Colour Input()
+    {
+        if (next_ == window_.last) Refill();
+        return *next_++;
+    }
+    /// Closes the file; what was written is complete afterwards. Throws DiskFull.
+    void Close();
+    /// Closes the file and deletes it if it was made since the last call. Throws FileNotFound or
+    /// FileAccess.
+    void Kill();
+
+  private:
+    enum class Mode { Closed, Output, Input };
+
+    /// Closes the file without completing what was written: it is replaced or deleted next.
+    void Abandon();
+    void Flush();
+    void Refill();
+
+    std::unique_ptr<Store> store_;
+    Store::Window window_;
+    Colour* next_ = nullptr;
+    Mode mode_ = Mode::Closed;
+    bool made_ = false;
+};
+
+/// Values kept in memory, four bytes each. Nothing appears on disk.
+std::unique_ptr<PixelFile::Store> MemoryStore();
+
+/// Values kept as text in the file `name` (UTF-8; a bare name lies in the current folder): one
+/// signed decimal number a line, each line ended by CR LF.
+std::unique_ptr<PixelFile::Store> TextStore(std::string name);
+
+}  // namespace pixano

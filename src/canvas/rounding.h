@@ -1,0 +1,35 @@
+// How fractions become whole numbers: `Int` down, `CLng` to the nearest with halves to the even
+// one; and division that faults by zero.
+#pragma once
+
+#include "canvas/fault.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace pixano {
+
+/// The largest whole number that is not above `value`.
+inline double Int(double value)
+{
+    return std::floor(value);
+}
+
+/// `value` as a 32-bit integer, to nearest, halves to the even neighbour. Throws Overflow where it
+/// does not fit.
+inline std::int32_t CLng(double value)
+{
+    if (!(value > -2147483649.0 && value < 2147483648.0)) throw Fault(FaultKind::Overflow);
+    const long rounded = std::lrint(value);
+    if (rounded != static_cast<std::int32_t>(rounded)) throw Fault(FaultKind::Overflow);
+    return static_cast<std::int32_t>(rounded);
+}
+
+/// The quotient. Throws DivisionByZero.
+inline double Quotient(double dividend, double divisor)
+{
+    if (divisor == 0) throw Fault(FaultKind::DivisionByZero);
+    return dividend / divisor;
+}
+
+}  // namespace pixano

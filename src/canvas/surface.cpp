@@ -1,0 +1,20 @@
+#include "canvas/surface.h"
+
+#include <algorithm>
+
+namespace pixano {
+
+Surface::Surface(int width, int height, Colour colour)
+    : width_(width),
+      height_(height),
+      pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
+              static_cast<std::uint32_t>(colour) | Opaque)
+{
+}
+
+void Surface::Cls()
+{
+    std::fill(pixels_.begin(), pixels_.end(), static_cast<std::uint32_t>(Background) | Opaque);
+}
+
+}  // namespace pixano

@@ -1,0 +1,99 @@
+// The pixels of the canvas: point-read, point-set, clear. Knows no window and no file.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace pixano {
+
+/// A packed colour: red + 256 green + 65536 blue, 0 to &HFFFFFF; `Outside` where there is no pixel.
+using Colour = std::int32_t;
+
+/// What a point outside the picture reads as.
+inline constexpr Colour Outside = -1;
+/// What `Cls` paints, and what shows through the holes of a transparent picture.
+inline constexpr Colour Background = 0xC0C0C0;
+/// The three bytes of a colour that can be drawn.
+inline constexpr Colour White = 0xFFFFFF;
+
+/// The pixel surface that effects work on. Column 0 is the left edge, row 0 the top edge.
+///
+/// Coordinates are pixels. Single (float) coordinates mean the nearest pixel, a half going to the
+/// lower one (49.5 is pixel 49); there is no overload for double: the caller rounds to Single once.
+class Surface {
+  public:
+    Surface() = default;
+    /// A surface of `width` by `height` pixels (0 or more each), all of one colour.
+    Surface(int width, int height, Colour colour = Background);
+
+    int Width() const { return width_; }
+    int Height() const { return height_; }
+
+    /// The colour at (x, y), or `Outside`.
+    Colour Point(int x, int y) const
+    {
+        return Inside(x, y) ? static_cast<Colour>(pixels_[Offset(x, y)] & ColourMask) : Outside;
+    }
+    Colour Point(float x, float y) const { return Point(Nearest(x), Nearest(y)); }
+    Colour Point(double x, double y) const = delete;
+
+    /// Paints (x, y) with the low three bytes of `colour` (two's complement, so -1 is white).
+    /// A place outside the surface is ignored.
+    void PSet(int x, int y, Colour colour)
+    {
+        if (Inside(x, y)) pixels_[Offset(x, y)] = static_cast<std::uint32_t>(colour) | Opaque;
+    }
+    void PSet(float x, float y, Colour colour) { PSet(Nearest(x), Nearest(y), colour); }
+    void PSet(double x, double y, Colour colour) = delete;
+
+    /// Paints everything with `Background`.
+    void Cls();
+
+    /// Row `y` (0 to Height() - 1) as it lies in memory: one 32-bit word a pixel, the colour in the
+    /// low three bytes, &HFF in the high one.
+    std::span<std::uint32_t> Row(int y) { return {&pixels_[Offset(0, y)], RowLength()}; }
+    std::span<const std::uint32_t> Row(int y) const
+    {
+        return {&pixels_[Offset(0, y)], RowLength()};
+    }
+    /// The rows from the top, without gaps.
+    const std::uint32_t* Pixels() const { return pixels_.data(); }
+
+    /// Same size and same colours.
+    friend bool operator==(const Surface&, const Surface&) = default;
+
+  private:
+    static constexpr std::uint32_t ColourMask = 0x00FFFFFF;
+    static constexpr std::uint32_t Opaque = 0xFF000000;
+
+    bool Inside(int x, int y) const
+    {
+        // One unsigned comparison tells negative places too.
+        return static_cast<unsigned>(x) < static_cast<unsigned>(width_) &&
+               static_cast<unsigned>(y) < static_cast<unsigned>(height_);
+    }
+    std::size_t Offset(int x, int y) const
+    {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+               static_cast<std::size_t>(x);
+    }
+    std::size_t RowLength() const { return static_cast<std::size_t>(width_); }
+
+    /// The nearest whole number, a half going down; -1 (outside) where no pixel can be meant.
+    static int Nearest(float coordinate)
+    {
+        constexpr float Limit = 1 << 24;  // far outside any surface, still exact in an int
+        if (!(coordinate > -1.0F && coordinate < Limit)) return -1;
+        const double lowered = static_cast<double>(coordinate) - 0.5;
+        const int truncated = static_cast<int>(lowered);
+        return truncated + (lowered > truncated ? 1 : 0);
+    }
+
+    int width_ = 0;
+    int height_ = 0;
+    std::vector<std::uint32_t> pixels_;
+};
+
+}  // namespace pixano

@@ -1,0 +1,145 @@
+// The pixel working file as text on disk: one decimal number a line, lines ended by CR LF.
+#include "canvas/fault.h"
+#include "canvas/pixel_file.h"
+#include "canvas/value_text.h"
+
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <vector>
+
+namespace pixano {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Text : public PixelFile::Store {
+  public:
+    using Window = PixelFile::Store::Window;
+
+    explicit Text(std::string name) : name_(std::move(name)), path_(fs::path(name_)) {}
+
+    Window Create() override
+    {
+        file_.reset();
+        std::error_code error;
+        // Whatever bears the name is replaced, not followed: a link or a pipe goes like a file.
+        if (!fs::is_directory(fs::symlink_status(path_, error))) fs::remove(path_, error);
+        file_.reset(std::fopen(path_.c_str(), "wbx"));
+        if (!file_) throw Fault(FaultKind::FileAccess, name_);
+        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+        PrepareBuffers();
+        return {values_.data(), values_.data() + ValuesPerWindow};
+    }
+
+    Window Append(Colour* end) override
+    {
+        const char* textEnd = FormatLines({values_.data(), end}, text_.data());
+        const auto length = static_cast<std::size_t>(textEnd - text_.data());
+        if (std::fwrite(text_.data(), 1, length, file_.get()) != length)
+            throw Fault(FaultKind::DiskFull, name_);
+        return {values_.data(), values_.data() + ValuesPerWindow};
+    }
+
+    void Finish(Colour* end) override
+    {
+        Append(end);
+        if (std::fclose(file_.release()) != 0) throw Fault(FaultKind::DiskFull, name_);
+    }
+
+    void Open() override
+    {
+        std::error_code error;
+        const fs::file_status status = fs::symlink_status(path_, error);
+        if (!fs::exists(status)) throw Fault(FaultKind::FileNotFound, name_);
+        // Opening a pipe would wait for ever; a link may lead anywhere.
+        if (!fs::is_regular_file(status)) throw Fault(FaultKind::FileAccess, name_);
+        file_.reset(std::fopen(path_.c_str(), "rb"));
+        if (!file_) throw Fault(FaultKind::FileAccess, name_);
+        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+        PrepareBuffers();
+        unread_ = {};
+        atEnd_ = false;
+    }
+
+    Window Next() override
+    {
+        Colour* const first = values_.data();
+        Colour* last = first;
+        while (last == first) {
+            last = ParseLines(unread_, {first, ValuesPerWindow});
+            if (last == first) last = ReadAwkwardValue(first);
+        }
+        return {first, last};
+    }
+
+    void Close() override { file_.reset(); }
+
+    void Kill() override
+    {
+        std::error_code error;
+        if (!fs::remove(path_, error))
+            throw Fault(error ? FaultKind::FileAccess : FaultKind::FileNotFound, name_);
+    }
+
+  private:
+    static constexpr std::size_t ValuesPerWindow = 1 << 14;
+    static constexpr std::size_t TextLength = ValuesPerWindow * LongestLine;
+
+    struct CloseFile {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    void PrepareBuffers()
+    {
+        values_.resize(ValuesPerWindow);
+        text_.resize(TextLength);
+    }
+
+    /// The value at the start of the unread text, which is no plain line: read on, or read it by
+    /// the general rules. Gives the end of the values read, `first` when there is only more text
+    /// now.
+    Colour* ReadAwkwardValue(Colour* first)
+    {
+        if (!atEnd_ && unread_.size() < LongestLine) {
+            ReadMore();
+            return first;
+        }
+        std::optional<std::string_view> item = TakeItem(unread_, atEnd_);
+        if (!item && !atEnd_ && unread_.size() < TextLength) {
+            ReadMore();
+            return first;
+        }
+        if (!item && atEnd_) throw Fault(FaultKind::InputPastEnd, name_);
+        if (!item) throw Fault(FaultKind::TypeMismatch, name_);
+        *first = ValueOf(*item, name_);
+        return first + 1;
+    }
+
+    void ReadMore()
+    {
+        std::memmove(text_.data(), unread_.data(), unread_.size());
+        const std::size_t room = TextLength - unread_.size();
+        const std::size_t got = std::fread(text_.data() + unread_.size(), 1, room, file_.get());
+        if (std::ferror(file_.get()) != 0) throw Fault(FaultKind::FileAccess, name_);
+        atEnd_ = got == 0;
+        unread_ = {text_.data(), unread_.size() + got};
+    }
+
+    std::string name_;
+    fs::path path_;
+    std::unique_ptr<std::FILE, CloseFile> file_;
+    std::vector<Colour> values_;
+    std::vector<char> text_;
+    std::string_view unread_;
+    bool atEnd_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<PixelFile::Store> TextStore(std::string name)
+{
+    return std::make_unique<Text>(std::move(name));
+}
+
+}  // namespace pixano

@@ -1,0 +1,44 @@
+#include "effects/catalogue.h"
+
+#include "effects/geometry/geometry.h"
+
+#include <algorithm>
+#include <array>
+
+namespace pixano {
+namespace {
+
+constexpr auto Effects = std::to_array<Effect>({
+    // ---- geometry ----
+    {.name = "Capovolgi", .run = Capov, .family = Family::Geometry, .entry = 32},
+    {.name = "Specchio", .run = Specchio, .family = Family::Geometry, .entry = 31},
+    {.name = "Capovolgi a Specchio", .run = CapovSpec, .family = Family::Geometry},
+    {.name = "Rotazione -90°", .run = RotazMeno, .family = Family::Geometry},
+    {.name = "Rotazione +90°", .run = RotazPiu, .family = Family::Geometry},
+    // ---- colour ----
+
+    // ---- composite ----
+
+});
+
+}  // namespace
+
+std::span<const Effect> Catalogue()
+{
+    return Effects;
+}
+
+const Effect* FindEffect(std::string_view name)
+{
+    const auto* const found = std::ranges::find(Effects, name, &Effect::name);
+    return found == Effects.end() ? nullptr : found;
+}
+
+const Effect* EffectOfEntry(int index)
+{
+    if (index == 0) return nullptr;
+    const auto* const found = std::ranges::find(Effects, index, &Effect::entry);
+    return found == Effects.end() ? nullptr : found;
+}
+
+}  // namespace pixano

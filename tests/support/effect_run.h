@@ -1,0 +1,83 @@
+// Runs one effect on a small picture, without windows, and keeps what it told about its progress.
+#pragma once
+
+#include "canvas/work.h"
+#include "support/letters.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace pixano::test {
+
+/// Keeps every value handed to the progress routine, and where the progress window was shown.
+class RecordedProgress : public Progress {
+  public:
+    void Show() override { shownAfter = static_cast<int>(values.size()); }
+    void Avanzamento(double n, int alt) override
+    {
+        Progress::Avanzamento(n, alt);
+        values.push_back(n);
+    }
+
+    std::vector<double> values;
+    /// How many values had been told when the window was shown; -1 = never shown.
+    int shownAfter = -1;
+};
+
+/// A picture, the state that effects share, and a timer that counts from `seed`.
+class EffectRun {
+  public:
+    explicit EffectRun(Surface picture, std::uint64_t seed = 1)
+        : work(MemoryStore(), progress, Timer(seed))
+    {
+        Load(std::move(picture));
+    }
+    explicit EffectRun(const Letters& rows, std::uint64_t seed = 1) : EffectRun(Drawn(rows), seed)
+    {
+    }
+
+    /// Puts another picture on the canvas; matrices and random numbers live on.
+    void Load(Surface picture)
+    {
+        work.Picture1 = std::move(picture);
+        work.Larg = work.Picture1.Width();
+        work.Alt = work.Picture1.Height();
+    }
+
+    /// Runs the effect as its frame does, down to dropping the pixel working file.
+    EffectRun& Apply(void (*effect)(Work&))
+    {
+        progress.values.clear();
+        progress.shownAfter = -1;
+        effect(work);
+        work.ElabSer.Kill();
+        return *this;
+    }
+
+    Letters Result() const { return LettersOf(work.Picture1); }
+
+    RecordedProgress progress;
+    Work work;
+};
+
+/// A picture of that size in which no two neighbours, and hardly any two pixels, are alike.
+inline Surface Varied(int width, int height)
+{
+    Surface surface(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            surface.PSet(x, y, (x * 7919 + y * 104729 + 12345) & White);
+    return surface;
+}
+
+/// `first`, `first` + `step`, ... up to `last`.
+inline std::vector<double> Steps(double first, double last, double step = 1)
+{
+    std::vector<double> values;
+    for (double value = first; value <= last; value += step)
+        values.push_back(value);
+    return values;
+}
+
+}  // namespace pixano::test
