@@ -1,0 +1,60 @@
+// Runs the real batch tool in a folder of its own and keeps what it said.
+#pragma once
+
+#include "pictures/picture_files.h"
+#include "support/letters.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace pixano::batch::test {
+
+using pixano::test::ContentOf;
+using pixano::test::Drawn;
+using pixano::test::Letters;
+using pixano::test::LettersOf;
+using pixano::test::TemporaryFolder;
+using pixano::test::WriteFile;
+
+struct Ran {
+    int status = -1;  ///< the exit status; minus the signal's number when one ended it
+    std::string out;
+    std::string err;
+};
+
+/// Runs the program in `folder`; standard input is the file `input`.
+Ran RunProgram(const std::vector<std::string>& command, const std::string& folder,
+               const std::string& input = "/dev/null");
+
+/// A folder with the tool running in it.
+class Tool : public testing::Test {
+  protected:
+    Ran Run(std::vector<std::string> arguments, const std::string& input = "/dev/null") const
+    {
+        arguments.insert(arguments.begin(), program);
+        return RunProgram(arguments, folder.Path(), input);
+    }
+
+    void Draw(const std::string& name, const Letters& rows) const
+    {
+        SaveBitmap(Drawn(rows), folder.File(name));
+    }
+    Letters Result(const std::string& name) const
+    {
+        return LettersOf(ReadPicture(folder.File(name)).picture);
+    }
+    std::string Bytes(const std::string& name) const { return ContentOf(folder.File(name)); }
+    bool Exists(const std::string& name) const
+    {
+        return std::filesystem::exists(folder.File(name));
+    }
+
+    std::string program = PIXANO_BATCH;
+    TemporaryFolder folder;
+};
+
+}  // namespace pixano::batch::test
