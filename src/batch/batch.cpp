@@ -65,7 +65,8 @@ int RunPictures(const CommandLine& line, const std::string& ownFolder)
     if (line.output == StandardStream && ::isatty(STDOUT_FILENO) == 1)
         throw WrongCommandLine("Una figura non si scrive su un terminale: manca \"> FILE\"");
     const auto pictures = PlanPictures(line);
-    if (line.folder && !std::filesystem::is_directory(*line.folder))
+    std::error_code error;
+    if (line.folder && !std::filesystem::is_directory(*line.folder, error))
         return Complain("La cartella \"" + *line.folder + "\" non esiste", SomethingFailed);
     const Recipe recipe = RecipeOf(line, ownFolder);
     Console console(pictures, line.quiet);

@@ -63,7 +63,7 @@ TEST(CommandLine, TakesValuesWrittenInTheSameArgument)
     EXPECT_EQ(line.seed, 7U);
     EXPECT_EQ(line.jobs, 4U);
     EXPECT_EQ(line.folder, "f");
-    ASSERT_EQ(line.steps.size(), 2U);
+    ASSERT_EQ(line.steps.size(), 2);
     EXPECT_EQ(line.steps[1].effect->name, "Capovolgi");
 }
 

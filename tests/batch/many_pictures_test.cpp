@@ -28,7 +28,7 @@ class ManyPictures : public Tool {
     ManyPictures()
     {
         for (int i = 0; i < Count; ++i)
-            SaveBitmap(pixano::test::Varied(60 + 5 * i, 90 - 3 * i), folder.File(Name(i) + ".bmp"));
+            SaveBitmap(pixano::test::Varied(60 + 5 * i, 90 - 3 * i), File(Name(i) + ".bmp"));
     }
 
     static std::string Name(int i) { return "foto" + std::to_string(i); }
@@ -36,7 +36,7 @@ class ManyPictures : public Tool {
     /// The tool's arguments, with the pictures in the given order, into a new folder.
     Ran RunInto(const std::string& results, std::vector<std::string> arguments, bool reversed)
     {
-        std::filesystem::create_directory(folder.File(results));
+        std::filesystem::create_directory(File(results));
         const auto effects = RandomEffects();
         arguments.insert(arguments.end(), effects.begin(), effects.end());
         arguments.insert(arguments.end(), {"--seme", "5", "-d", results});
@@ -76,7 +76,7 @@ TEST_F(ManyPictures, AreToldInTheirOrder)
 
 TEST_F(ManyPictures, GoOnWhenOneFails)
 {
-    WriteFile(folder.File("foto3.bmp"), "spoilt");
+    WriteBytes(File("foto3.bmp"), "spoilt");
     const Ran ran = RunInto("results", {"-j", "3"}, false);
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err, HasSubstr("foto3.bmp"));
@@ -95,7 +95,7 @@ TEST_F(ManyPictures, NeedTheirFolder)
 
 TEST_F(ManyPictures, OfOneNameAreRefused)
 {
-    std::filesystem::create_directory(folder.File("other"));
+    std::filesystem::create_directory(File("other"));
     Draw("other/foto1.bmp", {"ab"});
     const Ran ran = Run({"-d", "other", "foto1.bmp", "other/foto1.bmp"});
     EXPECT_EQ(ran.status, 2);

@@ -15,7 +15,7 @@ TEST_F(Tool, WritesTheResultAndTellsItsCaption)
     EXPECT_EQ(ran.out, "b.bmp: Specchio   3x2\n");
     EXPECT_EQ(ran.err, "");
     EXPECT_EQ(Result("b.bmp"), (Letters{"cba", "fed"}));
-    EXPECT_EQ(folder.Count(), 2U);
+    EXPECT_EQ(FileCount(), 2);
 }
 
 TEST_F(Tool, RunsTheEffectsInOrder)
@@ -33,7 +33,7 @@ TEST_F(Tool, RunsTheEffectsInOrder)
 
 TEST_F(Tool, WithoutEffectsKeepsThePictureAndTellsItsName)
 {
-    std::filesystem::create_directory(folder.File("in"));
+    std::filesystem::create_directory(File("in"));
     Draw("in/a.bmp", {"abc"});
     EXPECT_EQ(Run({"-o", "b.bmp", "in/a.bmp"}).out, "b.bmp: a.bmp   3x1\n");
     EXPECT_EQ(Result("b.bmp"), (Letters{"abc"}));
@@ -42,15 +42,15 @@ TEST_F(Tool, WithoutEffectsKeepsThePictureAndTellsItsName)
 TEST_F(Tool, ReplacesAnOlderResult)
 {
     Draw("a.bmp", {"ab"});
-    WriteFile(folder.File("b.bmp"), "older");
+    WriteBytes(File("b.bmp"), "older");
     EXPECT_EQ(Run({"-e", "Specchio", "-o", "b.bmp", "a.bmp"}).status, 0);
     EXPECT_EQ(Result("b.bmp"), (Letters{"ba"}));
 }
 
 TEST_F(Tool, FailsOnAPictureThatCannotBeRead)
 {
-    WriteFile(folder.File("text.bmp"), "this is no picture");
-    WriteFile(folder.File("old.bmp"), "older");
+    WriteBytes(File("text.bmp"), "this is no picture");
+    WriteBytes(File("old.bmp"), "older");
     for (const auto* const name : {"text.bmp", "missing.bmp", "."}) {
         const Ran ran = Run({"-e", "Specchio", "-o", "old.bmp", name});
         EXPECT_EQ(ran.status, 1) << name;
@@ -70,7 +70,7 @@ TEST_F(Tool, FailsWhenAnEffectEndsInAFault)
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.out, "");
     EXPECT_THAT(ran.err, HasSubstr("a.bmp: Rotazione -90°: Indice fuori dalla matrice"));
-    EXPECT_EQ(folder.Count(), 1U);
+    EXPECT_EQ(FileCount(), 1);
 }
 
 TEST_F(Tool, FailsWhenTheResultCannotBeWritten)
@@ -80,27 +80,26 @@ TEST_F(Tool, FailsWhenTheResultCannotBeWritten)
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.out, "");
     EXPECT_THAT(ran.err, HasSubstr("missing/b.bmp"));
-    EXPECT_EQ(folder.Count(), 1U);
+    EXPECT_EQ(FileCount(), 1);
 }
 
 TEST_F(Tool, FailsWithoutATraceWhenTheDiskIsFull)
 {
     Draw("a.bmp", Letters(100, std::string(100, 'a')));
-    WriteFile(folder.File("b.bmp"), "older");
+    WriteBytes(File("b.bmp"), "older");
     const Ran ran =
-        RunProgram({"sh", "-c", "ulimit -f 8; exec \"$0\" -o b.bmp a.bmp", program}, folder.Path());
+        RunProgram({"sh", "-c", "ulimit -f 8; exec \"$0\" -o b.bmp a.bmp", program}, Folder());
     EXPECT_EQ(ran.status, 1) << ran.err;
     EXPECT_EQ(ran.out, "");
     EXPECT_NE(ran.err, "");
     EXPECT_EQ(Bytes("b.bmp"), "older");
-    EXPECT_EQ(folder.Count(), 2U);
+    EXPECT_EQ(FileCount(), 2);
 }
 
 TEST_F(Tool, FailsWhenItCannotTellTheCaption)
 {
     Draw("a.bmp", {"ab"});
-    const Ran ran =
-        RunProgram({"sh", "-c", "\"$0\" -o b.bmp a.bmp >/dev/full", program}, folder.Path());
+    const Ran ran = RunProgram({"sh", "-c", "\"$0\" -o b.bmp a.bmp >/dev/full", program}, Folder());
     EXPECT_EQ(ran.status, 1);
 }
 
@@ -114,7 +113,7 @@ TEST_F(Tool, RefusesAWrongCommandBeforeReadingAnything)
     EXPECT_THAT(ran.err, testing::Not(HasSubstr("missing.bmp")));
     EXPECT_EQ(Run({}).status, 2);
     EXPECT_EQ(Run({"-o", "b.gif", "missing.bmp"}).status, 2);
-    EXPECT_EQ(folder.Count(), 0U);
+    EXPECT_EQ(FileCount(), 0);
 }
 
 TEST_F(Tool, NeverReplacesThePictureThatItReads)
@@ -140,7 +139,7 @@ TEST_F(Tool, UsesAnIncompletePictureAndSaysSo)
 {
     Draw("a.bmp", {"abc", "def"});
     // 54 bytes of headers, then the bottom row of three pixels, padded to 12 bytes.
-    WriteFile(folder.File("cut.bmp"), Bytes("a.bmp").substr(0, 54 + 12));
+    WriteBytes(File("cut.bmp"), Bytes("a.bmp").substr(0, 54 + 12));
     const Ran ran = Run({"-e", "Specchio", "-o", "b.bmp", "cut.bmp"});
     EXPECT_EQ(ran.status, 0);
     EXPECT_EQ(ran.out, "b.bmp: Specchio   3x2\n");
@@ -152,11 +151,11 @@ TEST_F(Tool, ReadsStandardInputAndWritesStandardOutput)
 {
     Draw("a.bmp", {"abc", "def"});
     ASSERT_EQ(Run({"-e", "Specchio", "-o", "b.bmp", "a.bmp"}).status, 0);
-    const Ran ran = Run({"-e", "Specchio", "-o", "-", "-"}, folder.File("a.bmp"));
+    const Ran ran = Run({"-e", "Specchio", "-o", "-", "-"}, File("a.bmp"));
     EXPECT_EQ(ran.status, 0);
     EXPECT_EQ(ran.out, Bytes("b.bmp"));
     EXPECT_EQ(ran.err, "-: Specchio   3x2\n");
-    EXPECT_EQ(Run({"-o", "c.bmp", "-"}, folder.File("a.bmp")).out, "c.bmp: -   3x2\n");
+    EXPECT_EQ(Run({"-o", "c.bmp", "-"}, File("a.bmp")).out, "c.bmp: -   3x2\n");
     EXPECT_EQ(Run({"-o", "d.bmp", "-"}).status, 1);
     EXPECT_FALSE(Exists("d.bmp"));
 }
@@ -164,8 +163,7 @@ TEST_F(Tool, ReadsStandardInputAndWritesStandardOutput)
 TEST_F(Tool, FailsWhenStandardOutputTakesNoMore)
 {
     Draw("a.bmp", {"ab"});
-    const Ran ran =
-        RunProgram({"sh", "-c", "\"$0\" -o - a.bmp >/dev/full", program}, folder.Path());
+    const Ran ran = RunProgram({"sh", "-c", "\"$0\" -o - a.bmp >/dev/full", program}, Folder());
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err, StartsWith("pixano-batch: "));
 }

@@ -8,7 +8,7 @@ namespace pixano::batch::test {
 namespace {
 
 using pixano::test::TemporaryFolder;
-using pixano::test::WriteFile;
+using pixano::test::WriteBytes;
 namespace fs = std::filesystem;
 
 CommandLine Into(const std::string& folder, std::vector<std::string> inputs)
@@ -46,19 +46,21 @@ TEST(Plan, RefusesTwoResultsOfOneName)
 TEST(Plan, RefusesToReplaceAPictureThatIsRead)
 {
     const TemporaryFolder folder;
-    const std::string picture = folder.File("a.bmp");
-    WriteFile(picture, "x");
-    WriteFile(folder.File("b.jpg"), "x");
+    const std::string picture = folder.File("a.bmp").string();
+    WriteBytes(picture, "x");
+    WriteBytes(folder.File("b.jpg").string(), "x");
     fs::create_symlink(picture, folder.File("link.bmp"));
     fs::create_hard_link(picture, folder.File("twin.bmp"));
     EXPECT_THROW(PlanPictures(To(picture, picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(To(folder.Path() + "/./a.bmp", picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(To(folder.File("link.bmp"), picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(To(folder.File("twin.bmp"), picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(Into(folder.Path(), {folder.File("b.jpg"), picture})),
-                 WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder.File("./a.bmp").string(), picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder.File("link.bmp").string(), picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder.File("twin.bmp").string(), picture)), WrongCommandLine);
+    EXPECT_THROW(
+        PlanPictures(Into(folder.File("").string(), {folder.File("b.jpg").string(), picture})),
+        WrongCommandLine);
     // b.bmp does not exist, and would replace nothing.
-    EXPECT_EQ(PlanPictures(Into(folder.Path(), {folder.File("b.jpg")})).size(), 1U);
+    EXPECT_EQ(PlanPictures(Into(folder.File("").string(), {folder.File("b.jpg").string()})).size(),
+              1U);
 }
 
 TEST(Plan, RefusesFormatsThatAreNotWritten)

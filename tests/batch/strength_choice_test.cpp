@@ -11,10 +11,10 @@ class StrengthChoice : public Tool {
   protected:
     StrengthChoice()
     {
-        std::filesystem::copy(PIXANO_BATCH, folder.File("pixano-batch"));
-        program = folder.File("pixano-batch");
+        std::filesystem::copy(PIXANO_BATCH, File("pixano-batch"));
+        program = File("pixano-batch");
         SaveBitmap(Drawn({"abcdefgh", "ijklmnop", "qrstuvwx", "ABCDEFGH", "IJKLMNOP"}),
-                   folder.File("a.bmp"));
+                   File("a.bmp"));
     }
 
     std::string ResultOf(const std::string& effect)
@@ -27,7 +27,7 @@ class StrengthChoice : public Tool {
 
 TEST_F(StrengthChoice, TakesItFromTheFileBesideTheProgram)
 {
-    WriteFile(folder.File("valori.tip"), "1\r\n2\r\n3000\r\n4\r\n5\r\n");
+    WriteBytes(File("valori.tip"), "1\r\n2\r\n3000\r\n4\r\n5\r\n");
     const std::string third = ResultOf("Vetro");
     EXPECT_EQ(third, ResultOf("Vetro=3000"));
     EXPECT_NE(third, ResultOf("Vetro=9000"));
@@ -38,13 +38,13 @@ TEST_F(StrengthChoice, NeedsTheFileOnlyWhenNoStrengthIsGiven)
     EXPECT_EQ(Run({"-e", "Vetro=3000", "-e", "Specchio", "-o", "b.bmp", "a.bmp"}).status, 0);
     const Ran ran = Run({"-e", "Vetro=3000", "-e", "Vetro", "-o", "c.bmp", "a.bmp"});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err, HasSubstr("File non trovato: " + folder.File("valori.tip")));
+    EXPECT_THAT(ran.err, HasSubstr("File non trovato: " + File("valori.tip")));
     EXPECT_FALSE(Exists("c.bmp"));
 }
 
 TEST_F(StrengthChoice, FailsOnAFileThatIsTooShort)
 {
-    WriteFile(folder.File("valori.tip"), "1\r\n2\r\n3\r\n4\r\n");
+    WriteBytes(File("valori.tip"), "1\r\n2\r\n3\r\n4\r\n");
     const Ran ran = Run({"-e", "Vetro", "-o", "c.bmp", "a.bmp"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err, HasSubstr("Lettura oltre la fine del file"));
@@ -63,7 +63,7 @@ TEST_F(StrengthChoice, TakesAStrengthOutsideTheSliderAsItStands)
 TEST_F(Tool, IsShippedWithStrengths)
 {
     const std::string beside = std::filesystem::path(PIXANO_BATCH).parent_path() / "valori.tip";
-    EXPECT_EQ(ContentOf(beside), "1000\r\n5000\r\n5000\r\n5000\r\n5000\r\n");
+    EXPECT_EQ(BytesOf(beside), "1000\r\n5000\r\n5000\r\n5000\r\n5000\r\n");
 }
 
 }  // namespace

@@ -13,12 +13,12 @@
 
 namespace pixano::batch::test {
 
-using pixano::test::ContentOf;
+using pixano::test::BytesOf;
 using pixano::test::Drawn;
 using pixano::test::Letters;
 using pixano::test::LettersOf;
 using pixano::test::TemporaryFolder;
-using pixano::test::WriteFile;
+using pixano::test::WriteBytes;
 
 struct Ran {
     int status = -1;  ///< the exit status; minus the signal's number when one ended it
@@ -36,21 +36,26 @@ class Tool : public testing::Test {
     Ran Run(std::vector<std::string> arguments, const std::string& input = "/dev/null") const
     {
         arguments.insert(arguments.begin(), program);
-        return RunProgram(arguments, folder.Path(), input);
+        return RunProgram(arguments, Folder(), input);
     }
 
     void Draw(const std::string& name, const Letters& rows) const
     {
-        SaveBitmap(Drawn(rows), folder.File(name));
+        SaveBitmap(Drawn(rows), File(name));
     }
     Letters Result(const std::string& name) const
     {
-        return LettersOf(ReadPicture(folder.File(name)).picture);
+        return LettersOf(ReadPicture(File(name)).picture);
     }
-    std::string Bytes(const std::string& name) const { return ContentOf(folder.File(name)); }
-    bool Exists(const std::string& name) const
+    std::string Bytes(const std::string& name) const { return BytesOf(File(name)); }
+    bool Exists(const std::string& name) const { return std::filesystem::exists(File(name)); }
+
+    std::string Folder() const { return folder.File("").string(); }
+    std::string File(const std::string& name) const { return folder.File(name).string(); }
+    auto FileCount() const
     {
-        return std::filesystem::exists(folder.File(name));
+        using Entries = std::filesystem::directory_iterator;
+        return std::distance(Entries(Folder()), Entries());
     }
 
     std::string program = PIXANO_BATCH;

@@ -8,11 +8,13 @@
 namespace pixano::test {
 namespace {
 
+using Entries = std::filesystem::directory_iterator;
+
 class StrengthFile : public testing::Test {
   protected:
     Strengths Read(const std::string& content)
     {
-        WriteFile(path, content);
+        WriteBytes(path, content);
         Strengths valori{};
         LeggiValori(path, valori);
         return valori;
@@ -30,7 +32,7 @@ class StrengthFile : public testing::Test {
     }
 
     TemporaryFolder folder;
-    std::string path = folder.File("valori.tip");
+    std::string path = folder.File("valori.tip").string();
 };
 
 TEST_F(StrengthFile, HoldsFiveNumbersOneALine)
@@ -73,7 +75,7 @@ TEST_F(StrengthFile, MissingOrNoFileIsAFault)
         EXPECT_EQ(fault.Kind(), FaultKind::FileNotFound);
         EXPECT_NE(std::string(fault.what()).find(path), std::string::npos);
     }
-    EXPECT_THROW(LeggiValori(folder.Path(), valori), Fault);
+    EXPECT_THROW(LeggiValori(folder.File("").string(), valori), Fault);
 }
 
 TEST_F(StrengthFile, ANumberTooLargeIsAFault)
@@ -84,23 +86,23 @@ TEST_F(StrengthFile, ANumberTooLargeIsAFault)
 TEST_F(StrengthFile, IsWrittenAsPlainDigitsWithCrLf)
 {
     SalvaValori(path, {123, 1000, 0.25, -3, 1000000, 5000});
-    EXPECT_EQ(ContentOf(path), "1000\r\n0.25\r\n-3\r\n1000000\r\n5000\r\n");
+    EXPECT_EQ(BytesOf(path), "1000\r\n0.25\r\n-3\r\n1000000\r\n5000\r\n");
 }
 
 TEST_F(StrengthFile, ReplacesAnOldOneAndLeavesNothingBeside)
 {
-    WriteFile(path, "old, and longer than the new one will ever be: 0123456789 0123456789");
+    WriteBytes(path, "old, and longer than the new one will ever be: 0123456789 0123456789");
     SalvaValori(path, {0, 1, 2, 3, 4, 5});
-    EXPECT_EQ(ContentOf(path), "1\r\n2\r\n3\r\n4\r\n5\r\n");
-    EXPECT_EQ(folder.Count(), 1U);
+    EXPECT_EQ(BytesOf(path), "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    EXPECT_EQ(std::distance(Entries(folder.File("")), Entries()), 1);
 }
 
 TEST_F(StrengthFile, ThatCannotBeWrittenIsAFault)
 {
     std::filesystem::create_directory(path);
     EXPECT_THROW(SalvaValori(path, {}), Fault);
-    EXPECT_EQ(folder.Count(), 1U);
-    EXPECT_THROW(SalvaValori(folder.File("missing/valori.tip"), {}), Fault);
+    EXPECT_EQ(std::distance(Entries(folder.File("")), Entries()), 1);
+    EXPECT_THROW(SalvaValori(folder.File("missing/valori.tip").string(), {}), Fault);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A folder for the files of one test, gone when the test ends.
+// A folder of a test's own, gone with everything in it at the end.
 #pragma once
 
 #include <cstdlib>
@@ -13,40 +13,35 @@ namespace pixano::test {
 class TemporaryFolder {
   public:
     TemporaryFolder()
-        : path_((std::filesystem::temp_directory_path() / "pixano-test-XXXXXX").string())
     {
-        if (::mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
+        std::string name = (std::filesystem::temp_directory_path() / "pixano-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+        path_ = name;
     }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder()
     {
         std::error_code error;
         std::filesystem::remove_all(path_, error);
     }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    const std::string& Path() const { return path_; }
-    std::string File(const std::string& name) const { return path_ + "/" + name; }
-    /// The names in the folder.
-    std::size_t Count() const
-    {
-        using Entries = std::filesystem::directory_iterator;
-        return static_cast<std::size_t>(std::distance(Entries(path_), Entries()));
-    }
+    std::filesystem::path File(const std::string& name) const { return path_ / name; }
 
   private:
-    std::string path_;
+    std::filesystem::path path_;
 };
 
-inline std::string ContentOf(const std::string& path)
+/// The bytes of a file; empty when it cannot be read.
+inline std::string BytesOf(const std::filesystem::path& path)
 {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-inline void WriteFile(const std::string& path, const std::string& content)
+inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes)
 {
-    std::ofstream(path, std::ios::binary) << content;
+    std::ofstream(path, std::ios::binary) << bytes;
 }
 
 }  // namespace pixano::test
