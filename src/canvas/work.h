@@ -5,9 +5,9 @@
 #include "canvas/pixel_file.h"
 #include "canvas/progress.h"
 #include "canvas/random.h"
+#include "canvas/strengths.h"
 #include "canvas/surface.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
 
@@ -34,7 +34,7 @@ class Work {
     PixelFile ElabSer;
 
     /// The strengths of the five effects that take one, cells 1 to 5, and the cell in use.
-    std::array<double, 6> Valori{};
+    Strengths Valori{};
     std::int16_t IndValore = 0;
     /// The strength in use.
     double Strength() const { return Valori.at(static_cast<std::size_t>(IndValore)); }

@@ -1,0 +1,82 @@
+// One row for each effect of the catalogue, working file in memory, as a multiple of memcpy of the
+// same canvas.
+#include "canvas/work.h"
+#include "effects/catalogue.h"
+#include "measure.h"
+
+#include <array>
+#include <cstring>
+#include <string>
+
+namespace pixano::bench {
+namespace {
+
+constexpr Strengths ShippedStrengths{0, 1000, 5000, 5000, 5000, 5000};
+
+void Load(Work& w, const Surface& picture)
+{
+    w.Picture1 = picture;
+    w.Larg = picture.Width();
+    w.Alt = picture.Height();
+}
+
+void Run(Work& w, const Effect& effect)
+{
+    w.Valori = ShippedStrengths;
+    w.IndValore = static_cast<std::int16_t>(effect.selector);
+    effect.run(w);
+    w.ElabSer.Kill();
+}
+
+bool Faults(Work& w, const Effect& effect, const Surface& picture)
+{
+    Load(w, picture);
+    try {
+        Run(w, effect);
+        return false;
+    } catch (const Fault&) {
+        w.ElabSer.Kill();
+        return true;
+    }
+}
+
+/// The largest of these pictures that the effect takes: those that keep the picture in a matrix
+/// stop at 1500 a side, or one before when they look one place further.
+const Surface& LargestPicture(Work& w, const Effect& effect)
+{
+    static const std::array pictures{Photograph(4000, 3000), Photograph(1500, 1500),
+                                     Photograph(1499, 1499)};
+    return *std::ranges::find_if_not(
+        pictures, [&](const Surface& picture) { return Faults(w, effect, picture); });
+}
+
+void EffectRow(benchmark::State& state, const Effect& effect)
+{
+    Progress progress;
+    Work w(MemoryStore(), progress, Timer(1));
+    const Surface& picture = LargestPicture(w, effect);
+    const auto pixels = static_cast<std::size_t>(picture.Width() * picture.Height());
+    std::vector<std::uint32_t> copy(pixels);
+    const double seconds = Measure(
+        state, "x_memcpy", [&] { Load(w, picture); },
+        [&] {
+            std::memcpy(copy.data(), picture.Pixels(), pixels * sizeof(std::uint32_t));
+            benchmark::ClobberMemory();
+        },
+        [&] { Run(w, effect); });
+    state.counters["ns_pixel"] = seconds * 1e9 / static_cast<double>(pixels);
+    state.SetLabel(std::to_string(picture.Width()) + "x" + std::to_string(picture.Height()));
+}
+
+const bool registered = [] {
+    for (const Effect& effect : Catalogue())
+        benchmark::RegisterBenchmark(
+            ("Effetto/" + std::string(effect.name)).c_str(),
+            [&effect](benchmark::State& state) { EffectRow(state, effect); })
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    return true;
+}();
+
+}  // namespace
+}  // namespace pixano::bench

@@ -1,0 +1,168 @@
+// The pixel working file on disk and in memory, beside plain writing and reading of the same number
+// of bytes. Works in the current folder.
+#include "canvas/captures.h"
+#include "canvas/value_text.h"
+#include "measure.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+
+namespace pixano::bench {
+namespace {
+
+constexpr const char* WorkingFile = "pixano-bench.ser";
+constexpr const char* PlainFile = "pixano-bench.plain";
+
+const Surface& Picture()
+{
+    static const Surface picture = Photograph(4000, 3000);
+    return picture;
+}
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+OpenFile Open(const char* mode)
+{
+    OpenFile file(std::fopen(PlainFile, mode));
+    if (!file) throw std::runtime_error(PlainFile);
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    return file;
+}
+
+/// Bytes that are written or read at once, as the working file does.
+constexpr std::size_t BlockLength = 1 << 18;
+
+void WritePlain(std::size_t length)
+{
+    static const std::vector<char> block(BlockLength, '7');
+    std::filesystem::remove(PlainFile);
+    const OpenFile file = Open("wbx");
+    for (std::size_t left = length; left > 0;) {
+        const std::size_t now = std::min(left, BlockLength);
+        if (std::fwrite(block.data(), 1, now, file.get()) != now)
+            throw std::runtime_error(PlainFile);
+        left -= now;
+    }
+}
+
+void ReadPlain()
+{
+    static std::vector<char> block(BlockLength);
+    const OpenFile file = Open("rb");
+    while (std::fread(block.data(), 1, BlockLength, file.get()) == BlockLength)
+        benchmark::DoNotOptimize(block.data());
+}
+
+/// The canvas with its working file in `store`.
+struct Canvas {
+    explicit Canvas(std::unique_ptr<PixelFile::Store> store) : w(std::move(store), progress)
+    {
+        w.Picture1 = Picture();
+        w.Larg = w.Picture1.Width();
+        w.Alt = w.Picture1.Height();
+    }
+    ~Canvas()
+    {
+        w.ElabSer.Kill();
+        std::filesystem::remove(PlainFile);
+    }
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    void ReadBack()
+    {
+        for (int y = 0; y <= w.Alt; ++y)
+            for (int x = w.Larg; x >= 0; --x)
+                w.Picture1.PSet(x - 1, y, w.Input());
+    }
+
+    Progress progress;
+    Work w;
+};
+
+std::size_t TextLength()
+{
+    Canvas canvas(TextStore(WorkingFile));
+    Cattura(canvas.w);
+    return std::filesystem::file_size(WorkingFile);
+}
+
+void CaptureToDisk(benchmark::State& state)
+{
+    const std::size_t length = TextLength();
+    Canvas canvas(TextStore(WorkingFile));
+    Measure(
+        state, "x_plain_write", [&] { canvas.w.ElabSer.Kill(); }, [&] { WritePlain(length); },
+        [&] { Cattura(canvas.w); });
+}
+
+void ReadBackFromDisk(benchmark::State& state)
+{
+    Canvas canvas(TextStore(WorkingFile));
+    Measure(
+        state, "x_capture", [&] { canvas.w.ElabSer.Kill(); }, [&] { Cattura(canvas.w); },
+        [&] {
+            canvas.ReadBack();
+            canvas.w.ElabSer.Close();
+        });
+}
+
+void ReadBackBesidePlainRead(benchmark::State& state)
+{
+    WritePlain(TextLength());
+    Canvas canvas(TextStore(WorkingFile));
+    Cattura(canvas.w);
+    Measure(
+        state, "x_plain_read", [] {}, ReadPlain,
+        [&] {
+            canvas.ReadBack();
+            canvas.w.ElabSer.Close();
+        });
+}
+
+template <typename Measured>
+void BesideMemcpy(benchmark::State& state, Canvas& canvas, Measured measured)
+{
+    std::vector<std::uint32_t> copy(Picture().Row(0).size() * 3000);
+    Measure(
+        state, "x_memcpy", [&] { Cattura(canvas.w); },
+        [&] {
+            std::copy_n(Picture().Pixels(), copy.size(), copy.data());
+            benchmark::ClobberMemory();
+        },
+        measured);
+}
+
+void CaptureInMemory(benchmark::State& state)
+{
+    Canvas canvas(MemoryStore());
+    BesideMemcpy(state, canvas, [&] { Cattura(canvas.w); });
+}
+
+void ReadBackFromMemory(benchmark::State& state)
+{
+    Canvas canvas(MemoryStore());
+    BesideMemcpy(state, canvas, [&] {
+        canvas.ReadBack();
+        canvas.w.ElabSer.Close();
+    });
+}
+
+#define PIXANO_ROW(function, name)                                                                 \
+    BENCHMARK(function)->Name(name)->UseManualTime()->Unit(benchmark::kMillisecond)
+
+PIXANO_ROW(CaptureToDisk, "Disco/cattura");
+PIXANO_ROW(ReadBackFromDisk, "Disco/rilettura");
+PIXANO_ROW(ReadBackBesidePlainRead, "Disco/rilettura, accanto alla lettura");
+PIXANO_ROW(CaptureInMemory, "Memoria/cattura");
+PIXANO_ROW(ReadBackFromMemory, "Memoria/rilettura");
+
+}  // namespace
+}  // namespace pixano::bench
+
+BENCHMARK_MAIN();

@@ -1,0 +1,58 @@
+# Installs the Debian packages that are missing. Sourced by ./run and ./test, which use the lists.
+# shellcheck disable=SC2034
+
+# What building and running Pixano needs.
+run_packages=(
+    g++ cmake ninja-build
+    qt6-base-dev qt6-translations-l10n libgl1-mesa-dev
+    libjpeg62-turbo-dev libgif-dev libpng-dev
+    fonts-dejavu-core
+)
+# What checking it needs on top of that.
+test_packages=(
+    libgtest-dev libgmock-dev libbenchmark-dev
+    xvfb openbox xdotool imagemagick x11-utils
+    clang-format clang-tidy cppcheck
+)
+
+# Ends the script: says why.
+fail() {
+    printf '%s\n' "$@" >&2
+    exit 1
+}
+
+# Gives those of the named packages that are not installed, one a line.
+missing_packages() {
+    local installed
+    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
+    local package
+    for package in "$@"; do
+        grep -qxF "installed $package" <<<"$installed" || printf '%s\n' "$package"
+    done
+}
+
+# Installs those of the named packages that are not installed; says nothing when there is nothing
+# to do.
+install_missing() {
+    command -v dpkg-query >/dev/null ||
+        fail 'Questo non sembra un sistema Debian: i pacchetti che servono vanno installati a mano.' \
+            "Il loro elenco è in ${BASH_SOURCE[0]}"
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    ((${#missing[@]})) || return 0
+    local as_root=()
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null ||
+            fail 'Mancano dei pacchetti, e qui non ci sono i diritti per installarli (né root, né sudo).' \
+                'Chi amministra il sistema può farlo con questo comando:' \
+                "  apt-get install --no-install-recommends ${missing[*]}"
+        as_root=(sudo)
+    fi
+    printf 'Installo i pacchetti che mancano: %s\n' "${missing[*]}" >&2
+    local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0)
+    # Its chatter goes where messages go: standard output is for results.
+    "${apt[@]}" update >&2 ||
+        printf 'Gli elenchi dei pacchetti non si lasciano aggiornare: provo con quelli che ci sono.\n' >&2
+    "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >&2 ||
+        fail 'I pacchetti non si lasciano installare: il motivo è qui sopra. Senza rete non si può.'
+}

@@ -1,0 +1,110 @@
+#include "batch/batch.h"
+
+#include "batch/command_line.h"
+#include "batch/console.h"
+#include "batch/plan.h"
+#include "batch/pool.h"
+#include "batch/texts.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <thread>
+
+#include <unistd.h>
+
+namespace pixano::batch {
+namespace {
+
+/// Passes on to the console what the effects of one picture tell.
+class ConsoleProgress : public ChainProgress {
+  public:
+    explicit ConsoleProgress(Console& console) : console_(console) {}
+
+    void Begins(const Effect& effect) override { effect_ = effect.name; }
+    void Avanzamento(double n, int alt) override
+    {
+        constexpr int BarPerPercent = 4;
+        ChainProgress::Avanzamento(n, alt);
+        console_.Running(effect_, ValBarra() / BarPerPercent);
+    }
+
+  private:
+    Console& console_;
+    std::string_view effect_;
+};
+
+int Print(const std::string& text)
+{
+    const bool printed = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    return printed ? AllDone : SomethingFailed;
+}
+
+int Complain(const std::string& text, ExitStatus status)
+{
+    std::fprintf(stderr, "pixano-batch: %s\n", text.c_str());
+    return status;
+}
+
+Recipe RecipeOf(const CommandLine& line, const std::string& ownFolder)
+{
+    Recipe recipe{line.steps, {}, line.seed};
+    const bool needsFile = std::ranges::any_of(
+        line.steps, [](const Step& step) { return step.effect->selector != 0 && !step.strength; });
+    if (needsFile) LeggiValori(ownFolder + "/valori.tip", recipe.valori);
+    return recipe;
+}
+
+unsigned ThreadsOf(const CommandLine& line)
+{
+    return line.jobs.value_or(std::max(1U, std::thread::hardware_concurrency()));
+}
+
+int RunPictures(const CommandLine& line, const std::string& ownFolder)
+{
+    if (line.output == StandardStream && ::isatty(STDOUT_FILENO) == 1)
+        throw WrongCommandLine("Una figura non si scrive su un terminale: manca \"> FILE\"");
+    const auto pictures = PlanPictures(line);
+    std::error_code error;
+    if (line.folder && !std::filesystem::is_directory(*line.folder, error))
+        return Complain("La cartella \"" + *line.folder + "\" non esiste", SomethingFailed);
+    const Recipe recipe = RecipeOf(line, ownFolder);
+    Console console(pictures, line.quiet);
+    ForEachPlace(pictures.size(), ThreadsOf(line), [&](std::size_t place) {
+        ConsoleProgress progress(console);
+        console.Ended(place, RunPictureJob(pictures[place], recipe, progress));
+    });
+    return console.AllDone() ? AllDone : SomethingFailed;
+}
+
+int RunTask(const CommandLine& line, const std::string& ownFolder)
+{
+    switch (line.task) {
+    case Task::Help:
+        return Print(HelpText());
+    case Task::Version:
+        return Print(VersionText);
+    case Task::List:
+        return Print(EffectList());
+    case Task::Pictures:
+        break;
+    }
+    return RunPictures(line, ownFolder);
+}
+
+}  // namespace
+
+int RunBatch(std::span<const std::string_view> arguments, const std::string& ownFolder)
+{
+    try {
+        return RunTask(ParseCommandLine(arguments), ownFolder);
+    } catch (const WrongCommandLine& wrong) {
+        return Complain(std::string(wrong.what()) + "\nUso: pixano-batch [OPZIONI] -o USCITA "
+                                                    "INGRESSO (tutto il resto con --aiuto)",
+                        CommandWrong);
+    } catch (const Fault& fault) {
+        return Complain(fault.what(), SomethingFailed);
+    }
+}
+
+}  // namespace pixano::batch

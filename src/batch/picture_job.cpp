@@ -1,0 +1,65 @@
+#include "batch/picture_job.h"
+
+#include "batch/standard_streams.h"
+
+#include <filesystem>
+#include <new>
+
+namespace pixano::batch {
+namespace {
+
+PictureRead ReadInput(const std::string& name)
+{
+    return name == StandardStream ? ReadStandardInput() : ReadPicture(name);
+}
+
+void Save(const Surface& surface, const std::string& name)
+{
+    // A name without an extension asks for no other format.
+    if (std::filesystem::path(name).has_extension())
+        SavePicture(surface, name);
+    else
+        SaveBitmap(surface, name);
+}
+
+void WriteOutput(const Surface& surface, const std::string& name)
+{
+    if (name == StandardStream)
+        WriteStandardOutput(surface);
+    else
+        Save(surface, name);
+}
+
+Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
+{
+    PictureRead read = ReadInput(picture.input);
+    // A state of its own: no picture can tell which ones were done before it.
+    Work w(MemoryStore(), progress, recipe.seed ? Timer(*recipe.seed) : Timer());
+    PutOnCanvas(w, std::move(read.picture));
+    const std::string fileName = std::filesystem::path(picture.input).filename().string();
+    const std::string caption =
+        RunChain(w, recipe.steps, recipe.valori, Caption(fileName, w), progress);
+    WriteOutput(w.Picture1, picture.output);
+    return {true, picture.output + ": " + caption,
+            read.truncated
+                ? picture.input + ": attenzione, il file è incompleto; quel che manca resta grigio"
+                : "",
+            ""};
+}
+
+}  // namespace
+
+Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
+{
+    try {
+        return Done(picture, recipe, progress);
+    } catch (const PictureError& error) {
+        return {false, "", "", error.what()};  // which names the file
+    } catch (const std::bad_alloc&) {
+        return {false, "", "", picture.input + ": memoria insufficiente"};
+    } catch (const std::exception& error) {
+        return {false, "", "", picture.input + ": " + error.what()};
+    }
+}
+
+}  // namespace pixano::batch

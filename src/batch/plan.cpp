@@ -1,0 +1,81 @@
+#include "batch/plan.h"
+
+#include "pictures/picture_files.h"
+
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include <sys/stat.h>
+
+namespace pixano::batch {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string OutputOf(const CommandLine& line, const std::string& input)
+{
+    if (line.output) return *line.output;
+    return (fs::path(*line.folder) / fs::path(input).stem()).string() + ".bmp";
+}
+
+void RefuseUnknownFormat(const std::string& output)
+{
+    if (output == StandardStream || !fs::path(output).has_extension()) return;
+    try {
+        FormatOf(output);
+    } catch (const PictureError& error) {
+        throw WrongCommandLine(error.what());
+    }
+}
+
+void RefuseSharedResults(const std::vector<PlannedPicture>& pictures)
+{
+    std::map<std::string, std::string> inputOf;
+    for (const auto& [input, output] : pictures) {
+        const auto [other, isNew] = inputOf.emplace(output, input);
+        if (!isNew)
+            throw WrongCommandLine("Il risultato di \"" + input + "\" e quello di \"" +
+                                   other->second + "\" avrebbero lo stesso nome: \"" + output +
+                                   "\"");
+    }
+}
+
+/// What tells whether two names mean the same file, whatever the names are.
+using FileIdentity = std::pair<dev_t, ino_t>;
+
+std::optional<FileIdentity> IdentityOf(const std::string& name)
+{
+    struct stat found {};
+    if (name == StandardStream || ::stat(name.c_str(), &found) != 0) return std::nullopt;
+    return FileIdentity(found.st_dev, found.st_ino);
+}
+
+void RefuseOverwrittenInputs(const std::vector<PlannedPicture>& pictures)
+{
+    std::set<FileIdentity> read;
+    for (const auto& picture : pictures)
+        if (const auto identity = IdentityOf(picture.input)) read.insert(*identity);
+    for (const auto& picture : pictures) {
+        const auto identity = IdentityOf(picture.output);
+        if (identity && read.contains(*identity))
+            throw WrongCommandLine(
+                "Il risultato prenderebbe il posto di una figura da leggere: \"" + picture.output +
+                "\"");
+    }
+}
+
+}  // namespace
+
+std::vector<PlannedPicture> PlanPictures(const CommandLine& line)
+{
+    std::vector<PlannedPicture> pictures;
+    for (const std::string& input : line.inputs)
+        pictures.push_back({input, OutputOf(line, input)});
+    if (line.output) RefuseUnknownFormat(*line.output);
+    RefuseSharedResults(pictures);
+    RefuseOverwrittenInputs(pictures);
+    return pictures;
+}
+
+}  // namespace pixano::batch

@@ -1,0 +1,63 @@
+#include "batch/texts.h"
+
+#include "effects/catalogue.h"
+
+namespace pixano::batch {
+namespace {
+
+std::string_view FamilyName(Family family)
+{
+    switch (family) {
+    case Family::Geometry:
+        return "Geometria";
+    case Family::Colours:
+        return "Colori";
+    case Family::Composite:
+        return "Composizione";
+    }
+    return "";
+}
+
+}  // namespace
+
+std::string HelpText()
+{
+    return R"(Uso: pixano-batch [OPZIONI] -o USCITA INGRESSO
+     pixano-batch [OPZIONI] -d CARTELLA INGRESSO...
+
+Applica gli effetti di Pixano a una o più figure (BMP, JPEG o GIF), senza finestre.
+
+  -e, --effetto NOME[=FORZA]  applica l'effetto; ripetibile, nell'ordine dato.
+                              FORZA è un numero, per gli effetti che ne hanno una;
+                              senza, vale quella del file "valori.tip" accanto
+                              al programma
+  -o, --uscita FILE           scrive il risultato in FILE: PNG se finisce in .png,
+                              JPEG se finisce in .jpg o .jpeg, altrimenti BMP
+  -d, --cartella CARTELLA     scrive il risultato di NOME.* in CARTELLA/NOME.bmp
+  -j, --insieme N             elabora N figure alla volta (tutti i processori se manca)
+      --seme N                fa partire i numeri casuali da N, per ogni figura
+      --silenzioso            scrive soltanto errori e avvisi
+      --elenco                elenca gli effetti: nome, famiglia, valori della forza
+      --versione              scrive la versione
+  -h, --aiuto                 scrive questo testo
+
+Al posto di INGRESSO o di FILE, "-" è lo standard input o lo standard output.
+Per ogni figura scrive una riga con il nome del risultato e la didascalia;
+con -o - la riga va sullo standard error.
+
+Esce con 0 se tutto è riuscito, con 1 se una figura non è riuscita (nessun file
+viene allora scritto o cambiato per essa), con 2 se il comando è sbagliato.
+)";
+}
+
+std::string EffectList()
+{
+    std::string text;
+    for (const Effect& effect : Catalogue()) {
+        text.append(effect.name).append("\t").append(FamilyName(effect.family)).append("\t");
+        text.append(effect.selector != 0 ? "0-10000" : "").append("\n");
+    }
+    return text;
+}
+
+}  // namespace pixano::batch

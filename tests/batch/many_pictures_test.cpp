@@ -1,0 +1,132 @@
+// The tool on many pictures, and what it tells about itself.
+#include "batch/tool_run.h"
+
+#include "effects/catalogue.h"
+#include "support/effect_run.h"
+
+namespace pixano::batch::test {
+namespace {
+
+using testing::HasSubstr;
+
+/// The first effect that draws random numbers and takes no strength, after "Specchio".
+std::vector<std::string> RandomEffects()
+{
+    std::vector<std::string> arguments{"-e", "Specchio"};
+    for (const Effect& effect : Catalogue())
+        if (effect.reseed != Reseed::Never && effect.selector == 0) {
+            arguments.insert(arguments.end(), {"-e", std::string(effect.name)});
+            break;
+        }
+    return arguments;
+}
+
+class ManyPictures : public Tool {
+  protected:
+    static constexpr int Count = 12;
+
+    ManyPictures()
+    {
+        for (int i = 0; i < Count; ++i)
+            SaveBitmap(pixano::test::Varied(60 + 5 * i, 90 - 3 * i), File(Name(i) + ".bmp"));
+    }
+
+    static std::string Name(int i) { return "foto" + std::to_string(i); }
+
+    /// The tool's arguments, with the pictures in the given order, into a new folder.
+    Ran RunInto(const std::string& results, std::vector<std::string> arguments, bool reversed)
+    {
+        std::filesystem::create_directory(File(results));
+        const auto effects = RandomEffects();
+        arguments.insert(arguments.end(), effects.begin(), effects.end());
+        arguments.insert(arguments.end(), {"--seme", "5", "-d", results});
+        for (int i = 0; i < Count; ++i)
+            arguments.push_back(Name(reversed ? Count - 1 - i : i) + ".bmp");
+        return Run(arguments);
+    }
+};
+
+TEST_F(ManyPictures, ComeOutAlikeWhateverRunsBesideThem)
+{
+    EXPECT_EQ(RunInto("one", {"-j", "1"}, false).status, 0);
+    EXPECT_EQ(RunInto("five", {"-j5"}, true).status, 0);
+    EXPECT_EQ(RunInto("all", {}, false).status, 0);
+    for (int i = 0; i < Count; ++i) {
+        const std::string file = "/" + Name(i) + ".bmp";
+        EXPECT_EQ(Bytes("one" + file), Bytes("five" + file));
+        EXPECT_EQ(Bytes("one" + file), Bytes("all" + file));
+    }
+    auto alone = RandomEffects();
+    alone.insert(alone.end(), {"--seme", "5", "-o", "alone.bmp", Name(7) + ".bmp"});
+    EXPECT_EQ(Run(alone).status, 0);
+    EXPECT_EQ(Bytes("alone.bmp"), Bytes("one/" + Name(7) + ".bmp"));
+}
+
+TEST_F(ManyPictures, AreToldInTheirOrder)
+{
+    const std::string out = RunInto("results", {"-j", "4"}, false).out;
+    std::size_t last = 0;
+    for (int i = 0; i < Count; ++i) {
+        const std::size_t at = out.find("results/" + Name(i) + ".bmp: ");
+        ASSERT_NE(at, std::string::npos) << out;
+        EXPECT_TRUE(i == 0 || at > last);
+        last = at;
+    }
+}
+
+TEST_F(ManyPictures, GoOnWhenOneFails)
+{
+    WriteBytes(File("foto3.bmp"), "spoilt");
+    const Ran ran = RunInto("results", {"-j", "3"}, false);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("foto3.bmp"));
+    EXPECT_THAT(ran.out, testing::Not(HasSubstr("foto3.bmp")));
+    for (int i = 0; i < Count; ++i)
+        EXPECT_EQ(Exists("results/" + Name(i) + ".bmp"), i != 3) << i;
+}
+
+TEST_F(ManyPictures, NeedTheirFolder)
+{
+    const Ran ran = Run({"-d", "missing", "foto1.bmp", "foto2.bmp"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("missing"));
+    EXPECT_FALSE(Exists("missing"));
+}
+
+TEST_F(ManyPictures, OfOneNameAreRefused)
+{
+    std::filesystem::create_directory(File("other"));
+    Draw("other/foto1.bmp", {"ab"});
+    const Ran ran = Run({"-d", "other", "foto1.bmp", "other/foto1.bmp"});
+    EXPECT_EQ(ran.status, 2);
+    EXPECT_EQ(Result("other/foto1.bmp"), (Letters{"ab"}));
+}
+
+TEST_F(Tool, ListsEveryEffectWithFamilyAndStrength)
+{
+    const Ran ran = Run({"--elenco"});
+    EXPECT_EQ(ran.status, 0);
+    std::istringstream lines(ran.out);
+    std::string line;
+    for (const Effect& effect : Catalogue()) {
+        ASSERT_TRUE(std::getline(lines, line));
+        const std::size_t first = line.find('\t');
+        const std::size_t second = line.find('\t', first + 1);
+        EXPECT_EQ(line.substr(0, first), effect.name);
+        EXPECT_EQ(line.substr(second + 1), effect.selector != 0 ? "0-10000" : "") << line;
+    }
+    EXPECT_FALSE(std::getline(lines, line));
+    EXPECT_THAT(ran.out, HasSubstr("Specchio\tGeometria\t\n"));
+}
+
+TEST_F(Tool, TellsAboutItself)
+{
+    EXPECT_EQ(Run({"--versione"}).out, "Pixano 2.3\n");
+    const Ran help = Run({"--aiuto"});
+    EXPECT_EQ(help.status, 0);
+    for (const auto* const option : {"-e", "-o", "-d", "-j", "--seme", "--silenzioso", "--elenco"})
+        EXPECT_THAT(help.out, HasSubstr(option));
+}
+
+}  // namespace
+}  // namespace pixano::batch::test

@@ -1,0 +1,75 @@
+#include "batch/plan.h"
+
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace pixano::batch::test {
+namespace {
+
+using pixano::test::TemporaryFolder;
+using pixano::test::WriteBytes;
+namespace fs = std::filesystem;
+
+CommandLine Into(const std::string& folder, std::vector<std::string> inputs)
+{
+    CommandLine line;
+    line.folder = folder;
+    line.inputs = std::move(inputs);
+    return line;
+}
+
+CommandLine To(const std::string& output, const std::string& input)
+{
+    CommandLine line;
+    line.output = output;
+    line.inputs = {input};
+    return line;
+}
+
+TEST(Plan, NamesResultsAfterTheirPictures)
+{
+    const auto pictures = PlanPictures(Into("out", {"in/a.jpg", "b.tar.gif", "c"}));
+    ASSERT_EQ(pictures.size(), 3U);
+    EXPECT_EQ(pictures[0].output, "out/a.bmp");
+    EXPECT_EQ(pictures[1].output, "out/b.tar.bmp");
+    EXPECT_EQ(pictures[2].output, "out/c.bmp");
+    EXPECT_EQ(pictures[0].input, "in/a.jpg");
+}
+
+TEST(Plan, RefusesTwoResultsOfOneName)
+{
+    EXPECT_THROW(PlanPictures(Into("out", {"x/a.jpg", "y/a.gif"})), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(Into("out", {"a.jpg", "a.jpg"})), WrongCommandLine);
+}
+
+TEST(Plan, RefusesToReplaceAPictureThatIsRead)
+{
+    const TemporaryFolder folder;
+    const std::string picture = folder.File("a.bmp").string();
+    WriteBytes(picture, "x");
+    WriteBytes(folder.File("b.jpg").string(), "x");
+    fs::create_symlink(picture, folder.File("link.bmp"));
+    fs::create_hard_link(picture, folder.File("twin.bmp"));
+    EXPECT_THROW(PlanPictures(To(picture, picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder.File("./a.bmp").string(), picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder.File("link.bmp").string(), picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder.File("twin.bmp").string(), picture)), WrongCommandLine);
+    EXPECT_THROW(
+        PlanPictures(Into(folder.File("").string(), {folder.File("b.jpg").string(), picture})),
+        WrongCommandLine);
+    // b.bmp does not exist, and would replace nothing.
+    EXPECT_EQ(PlanPictures(Into(folder.File("").string(), {folder.File("b.jpg").string()})).size(),
+              1U);
+}
+
+TEST(Plan, RefusesFormatsThatAreNotWritten)
+{
+    EXPECT_THROW(PlanPictures(To("out.gif", "a")), WrongCommandLine);
+    for (const auto* const name :
+         {"out.bmp", "out.BMP", "out.png", "out.jpg", "out.Jpeg", "out", "-"})
+        EXPECT_EQ(PlanPictures(To(name, "a"))[0].output, name);
+}
+
+}  // namespace
+}  // namespace pixano::batch::test
