@@ -1,0 +1,35 @@
+// The slider window: one strength, moved by the user. Knows neither where it is kept nor what for.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QSlider>
+
+namespace pixano {
+
+class Form11 : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// Captioned with the effect's name; opens just below the title of `palette`.
+    Form11(const QString& effect, const QWidget& palette);
+
+    /// Shows the strength and puts the slider there, or to its nearer end.
+    void ShowStrength(double value);
+
+  signals:
+    /// The window got another size, or its first one.
+    void Resized();
+    /// The slider moved to that position, by whatever hand.
+    void Moved(int value);
+    void Confirmed();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    QSlider* slider1_;
+    QLabel* label1_;
+};
+
+}  // namespace pixano

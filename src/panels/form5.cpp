@@ -1,0 +1,32 @@
+#include "panels/form5.h"
+
+#include "panels/centred.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace pixano {
+
+Form5::Form5()
+{
+    setObjectName("Form5");
+    setWindowTitle("Informazioni");
+    setAccessibleName("Informazioni");
+    auto* const picture = new QLabel;
+    picture->setObjectName("Picture1");
+    picture->setAccessibleName("Emblema di Pixano");
+    picture->setPixmap(QPixmap(":/pixano/emblema.jpg"));
+    auto* const close = new QPushButton("OK");
+    close->setObjectName("Command1");
+    close->setAccessibleName("OK");
+    close->setDefault(true);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(picture);
+    layout->addWidget(close, 0, Qt::AlignHCenter);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    Centre(*this);
+}
+
+}  // namespace pixano

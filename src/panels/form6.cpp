@@ -1,0 +1,49 @@
+#include "panels/form6.h"
+
+#include "panels/centred.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace pixano {
+
+Form6::Form6()
+{
+    setObjectName("Form6");
+    setWindowTitle(QString());
+    setAccessibleName("Pixano");
+    setAccessibleDescription("Figura d'apertura: premi Invio per cominciare");
+    auto* const picture = new QLabel;
+    picture->setObjectName("Picture1");
+    picture->setAccessibleName("Figura d'apertura");
+    picture->setPixmap(QPixmap(":/pixano/apertura.jpg"));
+    picture->installEventFilter(this);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(picture);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    Centre(*this);
+}
+
+bool Form6::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) accept();
+    return QDialog::eventFilter(watched, event);
+}
+
+void Form6::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Escape:
+        accept();
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+    }
+}
+
+}  // namespace pixano

@@ -1,0 +1,15 @@
+// "?": what the program is for.
+#pragma once
+
+#include <QDialog>
+
+namespace pixano {
+
+class Form7 : public QDialog {
+    Q_OBJECT
+
+  public:
+    Form7();
+};
+
+}  // namespace pixano

@@ -1,0 +1,27 @@
+// Where an event becomes a command: one at a time, its run-time errors caught here and nowhere
+// else.
+#pragma once
+
+#include "effects/catalogue.h"
+#include "shell/session.h"
+
+#include <functional>
+
+namespace pixano {
+
+/// Runs `command`, called `name` before the user, unless another one is running. A run-time error
+/// ends it with one message box; with `ends` = Program it then ends the program too, and unsaved
+/// work is written to the data folder first.
+void Run(Session& s, const QString& name, FaultEnds ends, const std::function<void()>& command);
+
+/// The same for an event inside a command that is running already, as in a window that it shows.
+void RunInside(Session& s, const QString& name, FaultEnds ends,
+               const std::function<void()>& command);
+
+/// The command of the menu entry with that `Index`.
+void Click(Session& s, int index);
+
+/// Connects every event of the windows with its command.
+void ConnectEvents(Session& s);
+
+}  // namespace pixano

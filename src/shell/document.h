@@ -1,0 +1,34 @@
+// The variables that describe the open picture and its history. Plain data: no window, no file.
+#pragma once
+
+#include <QString>
+
+namespace pixano {
+
+/// All names are explained in docs/glossary.md. Paths are as the dialogs give them.
+struct Document {
+    QString NomeFile;
+    QString FileAperto;
+    QString NomeCorto;
+    QString Cartella;
+    QString CartellaAvvio;
+    QString NomeSalvato;
+    QString FileUndo;
+    QString Effetto;
+    int Modificato = 0;
+    int VoceAttiva = 0;
+    int NumEffetti = 0;
+    int NumEffettiSalvato = 0;
+    int InOriginale = 0;
+    int Annullato = 0;
+    double Zoom = 1;
+    /// Whether `NomeFile` is the picture on the canvas, and not only the path remembered from a
+    /// picture that has been closed since.
+    bool open = false;
+    /// Whether the preview's copy was written, and so has to be deleted at the end.
+    bool previewCopied = false;
+    /// Whether the slider window was confirmed.
+    int Confermato = 0;
+};
+
+}  // namespace pixano

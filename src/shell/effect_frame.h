@@ -1,0 +1,16 @@
+// What surrounds every effect: history, check mark, snapshot, progress window, captions.
+#pragma once
+
+#include "effects/catalogue.h"
+#include "shell/session.h"
+
+namespace pixano {
+
+/// Runs the effect on the canvas as its row says. Throws Fault; the canvas is then half drawn, and
+/// the progress window and the pixel working file are left as they were.
+void RunEffect(Session& s, const Effect& effect);
+
+/// The progress window goes: the preview follows the canvas, the palette is ready again.
+void Form4_Unload(Session& s);
+
+}  // namespace pixano

@@ -1,0 +1,106 @@
+#include "shell/form1.h"
+
+#include "shell/menu_table.h"
+#include "windows/dropped_file.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace pixano {
+namespace {
+
+bool HasChildren(int index)
+{
+    return std::ranges::count(MenuEntries(), index, &MenuEntry::parent) > 0;
+}
+
+}  // namespace
+
+Form1::Form1()
+{
+    setObjectName("Form1");
+    setWindowTitle("Pixano 2.3");
+    setAccessibleName("Pixano, finestra principale");
+    setAcceptDrops(true);
+    BuildMenus();
+    // The captions stay as they are: the keys are not shown beside them.
+    AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_O), entry::Apri);
+    AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), entry::Salva);
+    AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z), entry::Undo);
+    AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y), entry::Redo);
+    AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), entry::Orig);
+    constexpr int Width = 520;
+    setFixedSize(std::max(Width, menuBar()->sizeHint().width()), menuBar()->sizeHint().height());
+}
+
+void Form1::BuildMenus()
+{
+    menuBar()->setObjectName("MenuBar");
+    menuBar()->setNativeMenuBar(false);
+    const int count = static_cast<int>(MenuEntries().size());
+    for (int index = 1; index <= count; ++index)
+        controls_.push_back(AddEntry(index));
+}
+
+QAction* Form1::AddEntry(int index)
+{
+    const MenuEntry& row = MenuEntries()[static_cast<std::size_t>(index - 1)];
+    QWidget* parent = menuBar();
+    if (row.parent != 0) parent = Control(row.parent - 1).menu();
+    const QString caption = QString::fromUtf8(row.caption);
+    auto* const action = new QAction(this);
+    if (HasChildren(index)) {
+        auto* const menu = new QMenu(this);
+        menu->setObjectName(row.name);
+        action->setMenu(menu);
+    }
+    action->setObjectName(row.name);
+    action->setText(caption);
+    action->setSeparator(caption == "-");
+    action->setEnabled(!row.designedOff);
+    parent->addAction(action);
+    connect(action, &QAction::triggered, this, [this, index, action] {
+        // A click must not toggle the mark: only the commands move it.
+        if (action->isCheckable()) action->setChecked(true);
+        emit Clicked(index);
+    });
+    return action;
+}
+
+void Form1::AddShortcut(const QKeySequence& keys, int index)
+{
+    auto* const shortcut = new QShortcut(keys, this);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, index] {
+        if (Control(index - 1).isEnabled()) emit Clicked(index);
+    });
+}
+
+void Form1::Check(int position, bool checked)
+{
+    // An entry can be marked only while it is checkable, so that the others show no empty box.
+    QAction& action = Control(position);
+    action.setCheckable(checked);
+    action.setChecked(checked);
+}
+
+void Form1::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayClose());
+}
+
+void Form1::dragEnterEvent(QDragEnterEvent* event)
+{
+    AcceptPictureDrag(*event);
+}
+
+void Form1::dropEvent(QDropEvent* event)
+{
+    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
+}
+
+}  // namespace pixano

@@ -1,0 +1,128 @@
+#include "shell/history.h"
+
+#include "canvas/fault.h"
+#include "pictures/picture_files.h"
+#include "shell/captions.h"
+#include "shell/menu_table.h"
+#include "shell/opening.h"
+#include "shell/places.h"
+#include "shell/working_pictures.h"
+
+namespace pixano {
+namespace {
+
+/// A step whose errors are passed over, as the history's steps ask. False when there was one.
+template <typename Step>
+bool PassingOverErrors(Step step)
+{
+    try {
+        step();
+        return true;
+    } catch (const Fault&) {
+        return false;
+    }
+}
+
+void Show(Session& s, Surface picture)
+{
+    s.form9.Image1().SetPicture(picture);
+    s.work.Picture1 = std::move(picture);
+    s.form2.Picture1().FitPicture();
+}
+
+void ShowWorkingPicture(Session& s, const QString& name)
+{
+    Show(s, LoadWorkingPicture(name, s.work.Picture1));
+}
+
+}  // namespace
+
+void Abil(Session& s)
+{
+    Document& d = s.doc;
+    d.NumEffetti += 1;
+    d.NumEffettiSalvato = d.NumEffetti;
+    s.form1.Enable(entry::Salva, true);
+    if (d.NumEffetti > 1) s.form1.Enable(entry::Undo, true);
+    s.form1.Enable(entry::Orig, true);
+    s.form1.Enable(entry::Redo, false);
+    s.form10.ShowHourglass(true);
+    d.InOriginale = 0;
+    d.Annullato = 0;
+}
+
+void Undo_Click(Session& s)
+{
+    Document& d = s.doc;
+    d.NumEffetti = d.NumEffettiSalvato;
+    d.Modificato = 1;
+    s.form1.Enable(entry::Salva, true);
+    s.form1.Enable(entry::Undo, false);
+    s.form1.Enable(entry::Orig, true);
+    s.form1.Enable(entry::Redo, true);
+    s.form10.EnableHistory({.annulla = false, .originale = true, .ripristina = true});
+    PassingOverErrors([&] {
+        if (d.InOriginale == 0) SaveWorkingPicture(s.work.Picture1, file::Redo);
+    });
+    d.InOriginale = 0;
+    d.Annullato = 1;
+    PassingOverErrors([&] { ShowWorkingPicture(s, d.FileUndo); });
+    s.form2.setWindowTitle(EffectCaption(s));
+    d.NomeSalvato.clear();
+}
+
+void Redo_Click(Session& s)
+{
+    Document& d = s.doc;
+    d.NumEffetti = d.NumEffettiSalvato;
+    d.Modificato = 1;
+    s.form1.Enable(entry::Salva, true);
+    if (d.NumEffetti > 1) s.form1.Enable(entry::Undo, true);
+    s.form1.Enable(entry::Orig, true);
+    s.form1.Enable(entry::Redo, false);
+    s.form10.EnableHistory({.annulla = d.NumEffetti > 1 ? Switch(true) : std::nullopt,
+                            .originale = true,
+                            .ripristina = false});
+    ShowWorkingPicture(s, file::Redo);
+    s.form2.setWindowTitle(EffectCaption(s));
+    d.InOriginale = 0;
+    d.Annullato = 0;
+}
+
+void Orig_Click(Session& s)
+{
+    Document& d = s.doc;
+    d.NomeSalvato.clear();
+    s.form1.Enable(entry::Salva, false);
+    if (d.NumEffetti > 1) s.form1.Enable(entry::Undo, true);
+    s.form1.Enable(entry::Orig, false);
+    s.form1.Enable(entry::Redo, true);
+    s.form10.EnableHistory({.annulla = d.NumEffetti > 1 ? Switch(true) : std::nullopt,
+                            .originale = false,
+                            .ripristina = true});
+    PassingOverErrors([&] {
+        if (d.Annullato == 0) SaveWorkingPicture(s.work.Picture1, file::Redo);
+    });
+    d.InOriginale = 1;
+    d.Annullato = 0;
+    d.NumEffettiSalvato = d.NumEffetti;
+    d.NumEffetti = 0;
+    QString unreadable;
+    try {
+        // After the same picture was chosen again `NomeFile` is empty; the picture is still open.
+        const QString& name = d.NomeFile.isEmpty() ? d.FileAperto : d.NomeFile;
+        Surface picture = ReadPicture(name.toStdString()).picture;
+        Show(s, picture);
+        Estrai(s, d.FileAperto,
+               d.Modificato == 0 ? std::optional(std::move(picture)) : std::nullopt);
+    } catch (const PictureError& error) {
+        unreadable = QString::fromUtf8(error.what());
+    }
+    s.form2.setWindowTitle(PictureCaption(s));
+    if (unreadable.isEmpty())
+        d.Modificato = 0;
+    else
+        s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, unreadable + '.');
+}
+
+}  // namespace pixano

@@ -1,0 +1,26 @@
+// Where the program's files lie on this platform.
+#pragma once
+
+#include <QString>
+
+namespace pixano {
+
+/// The private folder of this user's working files, made (mode 0700) when it is not there. Throws
+/// Fault FileAccess when it cannot be made.
+QString DataFolder();
+
+/// The native path of a name as the program uses it: "c:\name" lies in the data folder, every other
+/// name is already native.
+QString NativePath(const QString& name);
+
+/// The snapshots for undo and redo, and the preview's copy in the current folder.
+namespace file {
+inline const QString Undo = QStringLiteral("c:\\temp.bml");
+inline const QString Redo = QStringLiteral("c:\\temp2.bml");
+inline const QString PreviewCopy = QStringLiteral("elabor.tmp");
+inline const QString Pixels = QStringLiteral("elab.ser");
+inline const QString Remembered = QStringLiteral("percors.dat");
+inline const QString Strengths = QStringLiteral("valori.tip");
+}  // namespace file
+
+}  // namespace pixano

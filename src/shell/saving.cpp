@@ -1,0 +1,67 @@
+#include "shell/saving.h"
+
+#include "pictures/picture_files.h"
+#include "shell/opening.h"
+
+#include <QFileInfo>
+
+namespace pixano {
+namespace {
+
+/// The name that the picture is saved under: its last four characters give way to ".bmp", whatever
+/// they are.
+QString WithBitmapExtension(const QString& chosen)
+{
+    constexpr qsizetype ExtensionLength = 4;
+    return chosen.left(std::max<qsizetype>(chosen.size() - ExtensionLength, 0)) + ".bmp";
+}
+
+bool MayReplace(Session& s, const QString& name)
+{
+    return s.dialogs.Ask(BoxIcon::Exclamation, title::Warning,
+                         "File " + name + " già esistente, sostituire i file?");
+}
+
+/// The name chosen in the save dialog, asked again as long as a file of that name may not be
+/// replaced.
+std::optional<QString> AskName(Session& s)
+{
+    const QString folder = s.doc.Cartella.isEmpty() ? s.doc.CartellaAvvio : s.doc.Cartella;
+    for (;;) {
+        const std::optional<QString> chosen = s.dialogs.AskSaveName(folder);
+        if (!chosen) return std::nullopt;
+        const QString name = WithBitmapExtension(*chosen);
+        if (!QFileInfo::exists(name) || MayReplace(s, name)) return name;
+    }
+}
+
+}  // namespace
+
+bool SaveCanvas(Session& s, const QString& name)
+{
+    try {
+        SaveBitmap(s.work.Picture1, name.toStdString());
+        return true;
+    } catch (const PictureError& error) {
+        s.dialogs.Tell(BoxIcon::Critical, title::Warning,
+                       "Il file " + name + " non è stato salvato.\n" +
+                           QString::fromUtf8(error.what()) + '.');
+        return false;
+    }
+}
+
+SaveOutcome SalvaFile(Session& s)
+{
+    const std::optional<QString> name = AskName(s);
+    if (!name) return SaveOutcome::Cancelled;
+    if (!SaveCanvas(s, *name)) {
+        s.doc.Modificato = 1;
+        return SaveOutcome::Failed;
+    }
+    Estrai(s, *name, std::nullopt);
+    s.doc.NomeSalvato = *name;
+    s.doc.Modificato = 0;
+    return SaveOutcome::Saved;
+}
+
+}  // namespace pixano

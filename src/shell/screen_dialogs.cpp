@@ -1,0 +1,106 @@
+#include "shell/screen_dialogs.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+namespace pixano {
+namespace {
+
+QMessageBox::Icon IconOf(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::None:
+        return QMessageBox::NoIcon;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// A question with the answers yes and no. Escape and the close button are no answers: "no" throws
+/// work away, so it has to be said.
+class YesNoBox : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (clickedButton() == nullptr)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+};
+
+void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)
+{
+    box.setObjectName("MsgBox");
+    box.setIcon(IconOf(icon));
+    box.setWindowTitle(title);
+    // A file's name must not be taken for markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+}
+
+std::optional<QString> Chosen(QFileDialog& dialog)
+{
+    dialog.setObjectName("CommonDialog1");
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    const QStringList names = dialog.selectedFiles();
+    if (names.isEmpty()) return std::nullopt;
+    return names.front();
+}
+
+}  // namespace
+
+bool ScreenDialogs::Ask(BoxIcon icon, const QString& title, const QString& text)
+{
+    YesNoBox box(QApplication::activeWindow());
+    Fill(box, icon, title, text);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}
+
+void ScreenDialogs::Tell(BoxIcon icon, const QString& title, const QString& text)
+{
+    QMessageBox box(QApplication::activeWindow());
+    Fill(box, icon, title, text);
+    box.exec();
+}
+
+std::optional<QString> ScreenDialogs::AskOpenName(const QString& folder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), "Apri", folder);
+    // A name that does not exist may be typed: the program has its own message for it.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter("(*.Bmp) (*.Jpg) (*.Gif) (*.bmp *.jpg *.gif)");
+    return Chosen(dialog);
+}
+
+std::optional<QString> ScreenDialogs::AskSaveName(const QString& folder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), "Salva con nome", folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter("Bitmap (*.bmp)");
+    dialog.setDefaultSuffix("bmp");
+    // The program asks for itself whether a file may be replaced.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return Chosen(dialog);
+}
+
+}  // namespace pixano

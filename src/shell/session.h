@@ -1,0 +1,42 @@
+// The one owner: the document, the canvas with its matrices, and the windows. Commands get it
+// handed down; nothing in the program is global.
+#pragma once
+
+#include "canvas/work.h"
+#include "panels/form10.h"
+#include "shell/dialogs.h"
+#include "shell/document.h"
+#include "shell/form1.h"
+#include "windows/form2.h"
+#include "windows/form4.h"
+#include "windows/form9.h"
+
+#include <optional>
+
+namespace pixano {
+
+struct Session {
+    /// `dialogs` outlives the session; `timer` seeds the random numbers.
+    explicit Session(Dialogs& dialogBoxes, Timer timer = {});
+
+    Dialogs& dialogs;
+    Document doc;
+
+    Form1 form1;
+    Form4 form4;
+    ShownProgress progress;
+    Work work;
+    Form2 form2;
+    Form9 form9;
+    Form10 form10;
+
+    /// A command is running: whatever else the user starts meanwhile is ignored.
+    bool busy = false;
+    /// The status that the program ends with, once it is to end.
+    std::optional<int> ending;
+};
+
+/// Ends the program with that status: closes all windows and leaves every event loop.
+void EndProgram(Session& s, int status);
+
+}  // namespace pixano

@@ -1,0 +1,88 @@
+#include "shell/start_end.h"
+
+#include "panels/form6.h"
+#include "shell/enabling.h"
+#include "shell/places.h"
+#include "shell/questions.h"
+#include "shell/saving.h"
+#include "shell/working_pictures.h"
+#include "windows/twips.h"
+
+#include <QDir>
+#include <QScreen>
+
+namespace pixano {
+namespace {
+
+void PlaceMainWindow(Form1& window)
+{
+    constexpr double AboveTheMiddle = 3200;
+    const QSize screen = window.screen()->size();
+    const double left = (screen.width() - window.width()) / 2.0;
+    const double top =
+        screen.height() / 2.0 - window.height() / 2.0 - AboveTheMiddle / TwipsPerPixel;
+    window.move(qRound(left), qRound(top));
+}
+
+bool CloseDocument(Session& s)
+{
+    if (s.doc.Modificato == 1) {
+        const bool save = AskToSave(s, BoxIcon::None, QString());
+        s.doc.Modificato = 0;
+        if (save && SalvaFile(s) == SaveOutcome::Failed) return false;
+    }
+    s.doc.open = false;
+    DisableHistory(s);
+    Disabil(s);
+    return true;
+}
+
+/// Saves under the name used last, or asks for one. False when saving failed.
+bool SaveBeforeTheEnd(Session& s)
+{
+    if (s.doc.NomeSalvato.isEmpty()) return SalvaFile(s) != SaveOutcome::Failed;
+    return SaveCanvas(s, s.doc.NomeSalvato);
+}
+
+}  // namespace
+
+void Form_Load(Session& s)
+{
+    PlaceMainWindow(s.form1);
+    s.doc.CartellaAvvio = QDir::currentPath();
+    s.form1.show();
+    Form6 opening;
+    opening.exec();
+    Disabil(s);
+}
+
+bool Form_Unload(Session& s)
+{
+    if (s.doc.Modificato == 1) {
+        const bool save = AskToSave(s, BoxIcon::Exclamation, title::Notice);
+        if (save && !SaveBeforeTheEnd(s)) return false;
+        s.doc.Modificato = 0;
+    }
+    // Only now is it certain that the history is needed no more.
+    KillWorkingPicture(file::Undo);
+    KillWorkingPicture(file::Redo);
+    if (s.doc.previewCopied) KillWorkingPicture(file::PreviewCopy);
+    EndProgram(s, 0);
+    return true;
+}
+
+bool Form2_Unload(Session& s)
+{
+    if (!CloseDocument(s)) return false;
+    if (Form9_Unload(s)) s.form9.hide();
+    return true;
+}
+
+bool Form9_Unload(Session& s)
+{
+    if (!CloseDocument(s)) return false;
+    s.form10.hide();
+    return true;
+}
+
+}  // namespace pixano

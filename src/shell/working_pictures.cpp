@@ -1,0 +1,45 @@
+#include "shell/working_pictures.h"
+
+#include "canvas/fault.h"
+#include "pictures/picture_files.h"
+#include "shell/places.h"
+
+#include <QFileInfo>
+
+#include <filesystem>
+
+namespace pixano {
+
+void SaveWorkingPicture(const Surface& surface, const QString& name)
+{
+    try {
+        WriteBitmap(surface, NativePath(name).toStdString());
+    } catch (const PictureError& error) {
+        throw Fault(FaultKind::FileAccess, error.what());
+    }
+}
+
+Surface LoadWorkingPicture(const QString& name, const Surface& like)
+{
+    const QString path = NativePath(name);
+    if (!QFileInfo::exists(path)) throw Fault(FaultKind::FileNotFound, path.toStdString());
+    try {
+        PictureRead read = ReadWorkingPicture(path.toStdString());
+        const bool ours = !read.truncated && read.picture.Width() == like.Width() &&
+                          read.picture.Height() == like.Height();
+        if (ours) return std::move(read.picture);
+    } catch (const PictureError& error) {
+        throw Fault(FaultKind::FileAccess, error.what());
+    }
+    throw Fault(FaultKind::FileAccess, path.toStdString());
+}
+
+void KillWorkingPicture(const QString& name)
+{
+    const QString path = NativePath(name);
+    std::error_code error;
+    std::filesystem::remove(path.toStdString(), error);
+    if (error) throw Fault(FaultKind::FileAccess, path.toStdString());
+}
+
+}  // namespace pixano

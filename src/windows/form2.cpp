@@ -1,0 +1,59 @@
+#include "windows/form2.h"
+
+#include "windows/dropped_file.h"
+#include "windows/surface_image.h"
+#include "windows/window_operation.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace pixano {
+
+PictureBox::PictureBox(const Surface& surface) : surface_(surface)
+{
+    setObjectName("Picture1");
+    setAccessibleName("Figura");
+    setFrameStyle(static_cast<int>(QFrame::WinPanel) | static_cast<int>(QFrame::Sunken));
+    setAcceptDrops(true);
+    FitPicture();
+}
+
+void PictureBox::FitPicture()
+{
+    setFixedSize(surface_.Width() + 2 * Border, surface_.Height() + 2 * Border);
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    const QRect shown = contentsRect() & event->rect();
+    painter.drawImage(shown.topLeft(), ImageOf(surface_), shown.translated(-Border, -Border));
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* /*event*/)
+{
+    emit Clicked();
+}
+
+void PictureBox::dragEnterEvent(QDragEnterEvent* event)
+{
+    AcceptPictureDrag(*event);
+}
+
+void PictureBox::dropEvent(QDropEvent* event)
+{
+    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
+}
+
+Form2::Form2(const Surface& surface) : HeldWindow(new PictureBox(surface))
+{
+    picture1_ = static_cast<PictureBox*>(widget());
+    setObjectName("Form2");
+    setAccessibleName("Figura elaborata");
+    connect(picture1_, &PictureBox::Clicked, this, [this] { BringForward(*this); });
+}
+
+}  // namespace pixano

@@ -1,0 +1,86 @@
+#include "windows/form4.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace pixano {
+namespace {
+
+constexpr int MillisecondsPerRepaint = 40;
+
+/// A window paints nothing before its first expose. Waits for it, but not for ever; what the user
+/// clicks meanwhile stays queued.
+void WaitForExpose(const QWidget& widget)
+{
+    constexpr int Patience = 300;
+    QElapsedTimer waited;
+    waited.start();
+    while (!widget.windowHandle()->isExposed() && waited.elapsed() < Patience)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, MillisecondsPerRepaint);
+}
+
+}  // namespace
+
+Form4::Form4() : bar_(new QProgressBar)
+{
+    constexpr int BarMaximum = 400;
+    constexpr QSize Inside(380, 44);
+    setObjectName("Form4");
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAccessibleName("Avanzamento dell'elaborazione");
+    bar_->setObjectName("ProgressBar1");
+    bar_->setAccessibleName("Avanzamento");
+    bar_->setRange(0, BarMaximum);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(bar_);
+    setFixedSize(Inside.expandedTo(layout->sizeHint()));
+}
+
+void Form4::Show()
+{
+    SetCaption("Elab. " + effectName().toStdString());
+    bar_->setValue(0);
+    if (!isVisible()) {
+        const QRect free = screen()->availableGeometry();
+        move(free.center() - rect().center());
+        show();
+        WaitForExpose(*this);
+    }
+    repaint();
+    sinceRepaint_.start();
+}
+
+void Form4::SetBar(float value)
+{
+    // The bar would repaint itself at every step otherwise.
+    bar_->setUpdatesEnabled(false);
+    bar_->setValue(static_cast<int>(value));
+    bar_->setUpdatesEnabled(true);
+}
+
+void Form4::SetCaption(const std::string& caption)
+{
+    if (const QString text = QString::fromStdString(caption); text != windowTitle())
+        setWindowTitle(text);
+    RepaintNowAndThen();
+}
+
+void Form4::RepaintNowAndThen()
+{
+    if (!sinceRepaint_.isValid() || sinceRepaint_.elapsed() < MillisecondsPerRepaint) return;
+    bar_->repaint();
+    sinceRepaint_.start();
+}
+
+void Form4::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    emit Closed();
+}
+
+}  // namespace pixano

@@ -1,0 +1,45 @@
+// The progress window. Knows nothing of effects; whoever runs one names it.
+#pragma once
+
+#include "canvas/progress.h"
+
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QWidget>
+
+#include <functional>
+
+namespace pixano {
+
+class Form4 : public QWidget, public ProgressWindow {
+    Q_OBJECT
+
+  public:
+    Form4();
+
+    /// The effect's name, asked when the window is shown.
+    std::function<QString()> effectName = [] { return QString(); };
+
+    void Show() override;
+    void SetBar(float value) override;
+    float Bar() const override { return static_cast<float>(bar_->value()); }
+    void SetCaption(const std::string& caption) override;
+    std::string Caption() const override { return windowTitle().toStdString(); }
+
+  signals:
+    /// The user closed the window.
+    void Closed();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    /// An effect holds the event loop, so the window paints itself; not so often that it costs
+    /// time.
+    void RepaintNowAndThen();
+
+    QProgressBar* bar_;
+    QElapsedTimer sinceRepaint_;
+};
+
+}  // namespace pixano

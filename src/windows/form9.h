@@ -1,0 +1,44 @@
+// The preview window: a copy of the picture at the preview's scale. Knows neither canvas nor files.
+#pragma once
+
+#include "canvas/surface.h"
+#include "windows/held_window.h"
+
+#include <QWidget>
+
+namespace pixano {
+
+/// An image that is shown as it is, or stretched to the widget.
+class ImageControl : public QWidget {
+    Q_OBJECT
+
+  public:
+    ImageControl();
+
+    /// Shows another picture. Unless it stretches, the control takes the picture's size.
+    void SetPicture(Surface picture);
+    void SetStretch(bool stretch);
+    const Surface& Picture() const { return picture_; }
+    bool Stretch() const { return stretch_; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    Surface picture_;
+    bool stretch_ = false;
+};
+
+class Form9 : public HeldWindow {
+    Q_OBJECT
+
+  public:
+    Form9();
+
+    ImageControl& Image1() { return *image1_; }
+
+  private:
+    ImageControl* image1_;
+};
+
+}  // namespace pixano

@@ -1,0 +1,115 @@
+# A virtual screen with a window manager, and what a person does on it. Sourced by the journeys.
+#
+# Starts Xvfb and openbox on a free display, makes an empty home and working folder, and takes all of it
+# down again at the end. On failure a screenshot stays in $EVIDENCE.
+
+set -euo pipefail
+
+EVIDENCE=${EVIDENCE:-$PWD/e2e}
+SCREEN_SIZE=${SCREEN_SIZE:-1280x960}
+
+sandbox=$(mktemp -d)
+mkdir -p "$EVIDENCE" "$sandbox/home" "$sandbox/work"
+export HOME=$sandbox/home XDG_DATA_HOME=$sandbox/home/data XDG_RUNTIME_DIR=$sandbox/home
+export QT_QPA_PLATFORM=xcb NO_AT_BRIDGE=1
+unset QT_SCALE_FACTOR WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME
+
+program=
+cleanup() {
+    status=$?
+    if [ "$status" -ne 0 ] && [ -n "${DISPLAY:-}" ]; then
+        import -window root "$EVIDENCE/failure.png" 2>/dev/null &&
+            echo "The screen as it was: $EVIDENCE/failure.png" >&2
+    fi
+    [ -z "$program" ] || kill "$program" 2>/dev/null || true
+    [ -z "${manager:-}" ] || kill "$manager" 2>/dev/null || true
+    [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$sandbox"
+    exit "$status"
+}
+trap cleanup EXIT
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+# Waits up to 20 seconds until the command succeeds.
+wait_for() {
+    local _
+    for _ in $(seq 200); do
+        "$@" >/dev/null 2>&1 && return 0
+        sleep 0.1
+    done
+    return 1
+}
+
+start_screen() {
+    local number=$sandbox/display
+    Xvfb -displayfd 3 -screen 0 "${SCREEN_SIZE}x24" -nolisten tcp 3>"$number" 2>/dev/null &
+    screen=$!
+    wait_for test -s "$number" || fail "Xvfb does not start"
+    DISPLAY=:$(cat "$number")
+    export DISPLAY
+    openbox >/dev/null 2>&1 &
+    manager=$!
+    wait_for xprop -root _NET_SUPPORTING_WM_CHECK || fail "openbox does not start"
+}
+
+# Starts the program in the working folder.
+start_program() {
+    cd "$sandbox/work"
+    "$@" 2>"$sandbox/errors" &
+    program=$!
+}
+
+shot() {
+    import -window root "$EVIDENCE/$1.png"
+}
+
+# The title of some visible window is exactly this text.
+titled() {
+    local id
+    for id in $(xdotool search --onlyvisible --name '.*' 2>/dev/null); do
+        [ "$(xdotool getwindowname "$id" 2>/dev/null)" = "$1" ] && return 0
+    done
+    return 1
+}
+
+expect_title() {
+    wait_for titled "$1" || fail "no window is titled \"$1\""
+}
+
+window_titled() {
+    local id
+    for id in $(xdotool search --onlyvisible --name '.*' 2>/dev/null); do
+        if [ "$(xdotool getwindowname "$id" 2>/dev/null)" = "$1" ]; then
+            echo "$id"
+            return 0
+        fi
+    done
+    return 1
+}
+
+# Brings the window of that title to the front and gives it the keyboard.
+focus() {
+    expect_title "$1"
+    xdotool windowactivate --sync "$(window_titled "$1")"
+}
+
+active_title() {
+    xdotool getactivewindow getwindowname 2>/dev/null
+}
+
+is_active() {
+    [ "$(active_title)" = "$1" ]
+}
+
+keys() {
+    local key
+    for key in "$@"; do
+        xdotool key --clearmodifiers "$key"
+        sleep 0.15
+    done
+}
