@@ -5,7 +5,9 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextStream>
 
+#include <cmath>
 #include <vector>
 
 namespace pixano::art {
@@ -114,17 +116,37 @@ Layout Large()
             {{0, 96}, {34, 92}, {66, 106}, {92, 128}, {0, 128}}};
 }
 
-/// For small sides: edges on whole pixels of a 16 x 16 grid, no detail that would blur.
-Layout Small()
+/// For small sides: every edge on a whole pixel, and no detail that would blur.
+Layout Small(int side)
 {
-    return {16, 0, 3, 0.5, 2.5, 1, {{0, 8}, {0, 6}, {3, 3}, {8, 8}}, {}, {}};
+    const double unit = side / 16.0;
+    const double foot = side / 2.0;
+    const double peak = std::round(3 * unit);
+    const QPolygonF mountain{
+        {0, foot}, {0, peak + 2 * unit}, {2 * unit, peak}, {3 * unit, peak}, {foot, foot}};
+    return {static_cast<double>(side), 0, 3 * unit, 1, 2 * unit, 1, mountain, {}, {}};
+}
+
+/// A path as the `d` of an SVG path.
+QString Outline(const QPainterPath& path)
+{
+    const char* const commands[] = {"M", "L", "C", ""};
+    QStringList words;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        const auto number = [](double value) {
+            return QString::number(std::round(value * 100) / 100);
+        };
+        words << commands[element.type] + number(element.x) + "," + number(element.y);
+    }
+    return words.join(' ') + " Z";
 }
 
 }  // namespace
 
 QImage ApplicationIcon(int side)
 {
-    const Layout layout = side <= 24 ? Small() : Large();
+    const Layout layout = side <= 24 ? Small(side) : Large();
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -133,6 +155,22 @@ QImage ApplicationIcon(int side)
     for (const Shape& shape : Draw(layout))
         painter.fillPath(shape.outline, shape.colour);
     return picture;
+}
+
+QByteArray ApplicationIconSvg()
+{
+    QByteArray document;
+    QTextStream text(&document);
+    const Layout layout = Large();
+    const double side = layout.side;
+    text << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << side << "\" height=\"" << side
+         << "\" viewBox=\"0 0 " << side << ' ' << side << "\">\n  <title>Pixano</title>\n";
+    for (const Shape& shape : Draw(layout))
+        text << "  <path fill=\"" << shape.colour.name() << "\" d=\"" << Outline(shape.outline)
+             << "\"/>\n";
+    text << "</svg>\n";
+    text.flush();
+    return document;
 }
 
 }  // namespace pixano::art
