@@ -124,7 +124,7 @@ Layout Small(int side)
     const double peak = std::round(3 * unit);
     const QPolygonF mountain{
         {0, foot}, {0, peak + 2 * unit}, {2 * unit, peak}, {3 * unit, peak}, {foot, foot}};
-    return {static_cast<double>(side), 0, 3 * unit, 1, 2 * unit, 1, mountain, {}, {}};
+    return {static_cast<double>(side), 0, 3 * unit, 0, 3 * unit, 1, mountain, {}, {}};
 }
 
 /// A path as the `d` of an SVG path.
