@@ -5,8 +5,10 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -102,18 +104,17 @@ Shapes Draw(const Layout& layout)
     return shapes;
 }
 
-/// The icon in full.
-Layout Large()
+/// The icon in full on a square of 256, its straight edges on whole pixels of a picture of
+/// `pixels`.
+Layout Large(int pixels)
 {
-    return {256,
-            8,
-            52,
-            3,
-            44,
-            10,
-            {{0, 116}, {62, 36}, {92, 72}, {128, 128}, {0, 128}},
-            {{38, 67}, {62, 36}, {88, 67}, {74, 78}, {62, 66}, {50, 80}},
-            {{0, 96}, {34, 92}, {66, 106}, {92, 128}, {0, 128}}};
+    const double pixel = 256.0 / pixels;
+    const double margin = std::round(8 / pixel) * pixel;
+    const double gap = std::max(1.0, std::round(3.5 / pixel)) * pixel;
+    const QPolygonF mountain{{0, 116}, {62, 36}, {92, 72}, {128, 128}, {0, 128}};
+    const QPolygonF snow{{38, 67}, {62, 36}, {88, 67}, {74, 78}, {62, 66}, {50, 80}};
+    const QPolygonF wood{{0, 96}, {34, 92}, {66, 106}, {92, 128}, {0, 128}};
+    return {256, margin, 52, gap, 44, 10, mountain, snow, wood};
 }
 
 /// For small sides: every edge on a whole pixel, and no detail that would blur.
@@ -146,7 +147,7 @@ QString Outline(const QPainterPath& path)
 
 QImage ApplicationIcon(int side)
 {
-    const Layout layout = side <= 24 ? Small(side) : Large();
+    const Layout layout = side <= 24 ? Small(side) : Large(side);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -161,7 +162,7 @@ QByteArray ApplicationIconSvg()
 {
     QByteArray document;
     QTextStream text(&document);
-    const Layout layout = Large();
+    const Layout layout = Large(256);
     const double side = layout.side;
     text << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << side << "\" height=\"" << side
          << "\" viewBox=\"0 0 " << side << ' ' << side << "\">\n  <title>Pixano</title>\n";

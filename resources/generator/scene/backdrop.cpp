@@ -13,6 +13,21 @@ constexpr double Focus = 900;
 constexpr double Farthest = 900;
 constexpr Triple Eye{0, 13, 0};
 
+/// Ripples are finer than the points, so each point of the sea is the mean of a few places.
+Triple MeanSea(const Triple& direction)
+{
+    constexpr int Samples = 4;
+    Triple sum{0, 0, 0};
+    for (int i = 0; i < Samples; ++i) {
+        const double aside = ((i * 2) % Samples + i / 2 - 1.5) / Samples / Focus;
+        const double down = (i - 1.5) / Samples / Focus;
+        const Triple ray = Unit(direction + Triple{aside, std::min(down, -direction.y * 0.5), 0});
+        const double distance = Eye.y / -ray.y;
+        sum = sum + SeaColour(Eye + ray * distance, ray, distance);
+    }
+    return sum * (1.0 / Samples);
+}
+
 Triple Seen(double column, double row)
 {
     const Triple direction = Unit({(column - Width / 2.0) / Focus, (Horizon - row) / Focus, 1});
@@ -20,7 +35,7 @@ Triple Seen(double column, double row)
     const double toLand = DistanceToLand(Eye, direction, std::min(toSea, Farthest));
     if (toLand > 0) return LandColour(Eye + direction * toLand, toLand);
     if (direction.y >= 0) return SkyColour(direction);
-    const Triple sea = SeaColour(Eye + direction * toSea, direction, toSea);
+    const Triple sea = MeanSea(direction);
     // Far out, the water fades into the haze above it.
     const Triple above = SkyColour(Unit({direction.x, 0, direction.z}));
     return Mix(sea, above, 0.75 * Step(600, 6000, toSea));

@@ -88,7 +88,7 @@ void PaintFlower(QPainter& painter, const Flower& flower)
     PaintStem(painter, flower, 9 * size);
     switch (flower.kind) {
     case Kind::Poppy:
-        return PaintPoppy(painter, flower, size * 1.15);
+        return PaintPoppy(painter, flower, size);
     case Kind::Daisy:
         return PaintPetals(painter, flower, size, 9, {0xfd, 0xfa, 0xf2}, {0xf4, 0xc0, 0x2c});
     case Kind::Cornflower:
@@ -96,7 +96,7 @@ void PaintFlower(QPainter& painter, const Flower& flower)
     case Kind::Buttercup:
         return PaintPetals(painter, flower, size * 0.8, 5, {0xff, 0xd4, 0x1e}, {0xe0, 0x96, 0x10});
     case Kind::Lavender:
-        return PaintLavender(painter, flower, size);
+        return PaintLavender(painter, flower, size * 1.25);
     }
 }
 
@@ -128,10 +128,11 @@ void Sow(std::vector<Flower>& flowers, const Bed& bed, std::uint64_t start)
 void PlantRows(std::vector<Flower>& flowers)
 {
     Dice dice(57);
-    for (double y = 352; y < 486; y += 0.7) {
+    for (double y = 352; y < 486; y += 0.8) {
         const double near = (y - 330) / 150;
         for (int row = 0; row < 7; ++row) {
-            const double x = 566 + (row * 34 - 50) * near + 10 * row + dice.Between(-5, 5) * near;
+            const double x = 566 + (row * 34 - 50) * near + 10 * row +
+                             (dice.Between(-5, 5) + dice.Between(-5, 5)) * near;
             if (x > 645 || y < MeadowEdge(x) + 6 || OnPath(x - 8, y)) continue;
             flowers.push_back({Kind::Lavender, x, y, dice.Between(0, 1)});
         }
@@ -143,7 +144,7 @@ void PlantRows(std::vector<Flower>& flowers)
 void PaintFlowers(QPainter& painter)
 {
     std::vector<Flower> flowers;
-    Sow(flowers, {Kind::Poppy, 620, -5, 300, 0.47}, 51);
+    Sow(flowers, {Kind::Poppy, 520, -5, 310, 0.455}, 51);
     Sow(flowers, {Kind::Daisy, 420, 120, 480, 0.50}, 52);
     Sow(flowers, {Kind::Cornflower, 300, 200, 470, 0.52}, 53);
     Sow(flowers, {Kind::Buttercup, 520, 0, 560, 0.46}, 54);

@@ -12,7 +12,7 @@ namespace {
 constexpr double Width = 640;
 constexpr double Height = 480;
 constexpr double DoorX = 526;
-constexpr double DoorY = 342;
+constexpr double DoorY = 337;
 
 /// 0 at the meadow's upper edge, 1 at the picture's foot.
 double Nearness(double x, double y)
@@ -97,6 +97,20 @@ void PaintGrass(QPainter& painter)
     }
 }
 
+/// What the house and the tall cypresses keep the light from.
+void PaintShade(QPainter& painter)
+{
+    for (int layer = 0; layer < 6; ++layer) {
+        const double wider = layer * 1.1;
+        QPainterPath shade(QPointF(541 - wider, 339));
+        shade.lineTo(606, 335);
+        shade.lineTo(641, 337);
+        shade.lineTo(641, 351 + wider);
+        shade.lineTo(588 - wider, 350 + wider);
+        painter.fillPath(shade, QColor(10, 26, 34, 17));
+    }
+}
+
 }  // namespace
 
 double MeadowEdge(double x)
@@ -117,6 +131,7 @@ void PaintMeadow(QPainter& painter)
     PaintGround(painter);
     PaintPath(painter);
     PaintGrass(painter);
+    PaintShade(painter);
 }
 
 }  // namespace pixano::art

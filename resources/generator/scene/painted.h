@@ -10,7 +10,7 @@ void PaintBalloon(QPainter& painter);
 void PaintGulls(QPainter& painter);
 /// The sailing boat and its mirror image in the water.
 void PaintBoat(QPainter& painter);
-/// The house on the hill with its cypresses.
+/// The house on the hill.
 void PaintHouse(QPainter& painter);
 void PaintCypresses(QPainter& painter);
 /// The meadow's grass and flowers and the path to the house.

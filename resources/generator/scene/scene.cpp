@@ -5,6 +5,9 @@
 #include "scene/noise.h"
 #include "scene/painted.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace pixano::art {
 
 namespace {

@@ -34,15 +34,15 @@ Triple WithSun(const Triple& colour, double sunward)
 
 double CloudDepth(double x, double y)
 {
-    return Step(0.43, 0.72, Clouded(x, y, 6));
+    return Step(0.43, 0.70, Clouded(x, y, 7));
 }
 
 Triple WithClouds(const Triple& colour, const Triple& direction, double sunward)
 {
     const double height = direction.y + 0.09;
     if (height < 0.10) return colour;
-    const double x = direction.x / height * 1.05 + 8.4;
-    const double y = direction.z / height * 1.25 + 3.1;
+    const double x = direction.x / height * 1.35 + 3.9;
+    const double y = direction.z / height * 1.45 + 6.2;
     const double depth = CloudDepth(x, y);
     const double towardsLight = CloudDepth(x - 0.16, y + 0.10);
     const double lit = std::clamp(0.62 + 0.9 * (depth - towardsLight), 0.0, 1.0);
