@@ -53,8 +53,9 @@ void PaintHull(QPainter& painter)
     side.setColorAt(0, QColor(0xc9, 0x2f, 0x34));
     side.setColorAt(1, QColor(0x6e, 0x16, 0x2a));
     painter.fillPath(hull, side);
-    painter.strokePath(hull.intersected(hull.translated(0, -11)),
-                       QPen(QColor(0xff, 0xf1, 0xdc), 1.2));
+    QPainterPath gunwale(QPointF(12, 97.8));
+    gunwale.quadTo(50, 102.8, 87, 96.8);
+    painter.strokePath(gunwale, QPen(QColor(0xff, 0xf1, 0xdc), 1.3));
     QPainterPath cabin;
     cabin.addRoundedRect(QRectF(42, 92, 26, 7), 2, 2);
     painter.fillPath(cabin, QColor(0xf3, 0xe6, 0xd0));

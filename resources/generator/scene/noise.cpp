@@ -21,10 +21,10 @@ double Share(std::uint64_t n)
 
 double AtCorner(double x, double y)
 {
-    const auto column = static_cast<std::int64_t>(x);
-    const auto row = static_cast<std::int64_t>(y);
-    return Share(Scrambled(static_cast<std::uint64_t>(column * 0x1F123BB5 + row * 0x5851F42D4C95) +
-                           0x9E3779B97F4A7C15u));
+    // Unsigned numbers may wrap around.
+    const auto column = static_cast<std::uint64_t>(static_cast<std::int64_t>(x));
+    const auto row = static_cast<std::uint64_t>(static_cast<std::int64_t>(y));
+    return Share(Scrambled(column * 0x1F123BB5u + row * 0x5851F42D4C95u + 0x9E3779B97F4A7C15u));
 }
 
 }  // namespace
