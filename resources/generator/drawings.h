@@ -1,6 +1,7 @@
 // Every drawing of the project, one function a picture. Knows no file.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 
 namespace pixano::art {
@@ -9,6 +10,8 @@ namespace pixano::art {
 QImage Emblem();
 /// The picture that greets at the start.
 QImage StartPicture();
+/// The sample picture: a bay at the end of the day, exactly 640 x 480.
+QImage Scene();
 
 enum class Zooming { Enlarge, Reduce };
 /// The palette's picture for a change of the preview's scale, at twice its size on the button.
@@ -20,5 +23,7 @@ QImage Reflection(KeptHalf half);
 
 /// The program's icon, `side` x `side`; small sides get a drawing made for them.
 QImage ApplicationIcon(int side);
+/// The same icon as an SVG document.
+QByteArray ApplicationIconSvg();
 
 }  // namespace pixano::art

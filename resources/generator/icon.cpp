@@ -5,7 +5,11 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
+#include <QTextStream>
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace pixano::art {
@@ -100,31 +104,50 @@ Shapes Draw(const Layout& layout)
     return shapes;
 }
 
-/// The icon in full.
-Layout Large()
+/// The icon in full on a square of 256, its straight edges on whole pixels of a picture of
+/// `pixels`.
+Layout Large(int pixels)
 {
-    return {256,
-            8,
-            52,
-            3,
-            44,
-            10,
-            {{0, 116}, {62, 36}, {92, 72}, {128, 128}, {0, 128}},
-            {{38, 67}, {62, 36}, {88, 67}, {74, 78}, {62, 66}, {50, 80}},
-            {{0, 96}, {34, 92}, {66, 106}, {92, 128}, {0, 128}}};
+    const double pixel = 256.0 / pixels;
+    const double margin = std::round(8 / pixel) * pixel;
+    const double gap = std::max(1.0, std::round(3.5 / pixel)) * pixel;
+    const QPolygonF mountain{{0, 116}, {62, 36}, {92, 72}, {128, 128}, {0, 128}};
+    const QPolygonF snow{{38, 67}, {62, 36}, {88, 67}, {74, 78}, {62, 66}, {50, 80}};
+    const QPolygonF wood{{0, 96}, {34, 92}, {66, 106}, {92, 128}, {0, 128}};
+    return {256, margin, 52, gap, 44, 10, mountain, snow, wood};
 }
 
-/// For small sides: edges on whole pixels of a 16 x 16 grid, no detail that would blur.
-Layout Small()
+/// For small sides: every edge on a whole pixel, and no detail that would blur.
+Layout Small(int side)
 {
-    return {16, 0, 3, 0.5, 2.5, 1, {{0, 8}, {0, 6}, {3, 3}, {8, 8}}, {}, {}};
+    const double unit = side / 16.0;
+    const double foot = side / 2.0;
+    const double peak = std::round(3 * unit);
+    const QPolygonF mountain{
+        {0, foot}, {0, peak + 2 * unit}, {2 * unit, peak}, {3 * unit, peak}, {foot, foot}};
+    return {static_cast<double>(side), 0, 3 * unit, 0, 3 * unit, 1, mountain, {}, {}};
+}
+
+/// A path as the `d` of an SVG path.
+QString Outline(const QPainterPath& path)
+{
+    const char* const commands[] = {"M", "L", "C", ""};
+    QStringList words;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        const auto number = [](double value) {
+            return QString::number(std::round(value * 100) / 100);
+        };
+        words << commands[element.type] + number(element.x) + "," + number(element.y);
+    }
+    return words.join(' ') + " Z";
 }
 
 }  // namespace
 
 QImage ApplicationIcon(int side)
 {
-    const Layout layout = side <= 24 ? Small() : Large();
+    const Layout layout = side <= 24 ? Small(side) : Large(side);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -133,6 +156,22 @@ QImage ApplicationIcon(int side)
     for (const Shape& shape : Draw(layout))
         painter.fillPath(shape.outline, shape.colour);
     return picture;
+}
+
+QByteArray ApplicationIconSvg()
+{
+    QByteArray document;
+    QTextStream text(&document);
+    const Layout layout = Large(256);
+    const double side = layout.side;
+    text << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << side << "\" height=\"" << side
+         << "\" viewBox=\"0 0 " << side << ' ' << side << "\">\n  <title>Pixano</title>\n";
+    for (const Shape& shape : Draw(layout))
+        text << "  <path fill=\"" << shape.colour.name() << "\" d=\"" << Outline(shape.outline)
+             << "\"/>\n";
+    text << "</svg>\n";
+    text.flush();
+    return document;
 }
 
 }  // namespace pixano::art

@@ -42,12 +42,16 @@ void LetterP(QPainterPath& path, double x)
     path.lineTo(x, waist);
 }
 
-void LetterX(QPainterPath& path, double x)
+/// Two bars cut off level with the other letters.
+void LetterX(QPainterPath& path, double left)
 {
-    path.moveTo(x, 0);
-    path.lineTo(x + 72, -Small);
-    path.moveTo(x, -Small);
-    path.lineTo(x + 72, 0);
+    constexpr double Breadth = 92;
+    constexpr double Cut = Thickness * 1.22;  // of a slanting bar, measured level
+    const double right = left + Breadth;
+    path.addPolygon(QPolygonF{
+        {left, -Small}, {left + Cut, -Small}, {right, 0}, {right - Cut, 0}, {left, -Small}});
+    path.addPolygon(QPolygonF{
+        {right - Cut, -Small}, {right, -Small}, {left + Cut, 0}, {left, 0}, {right - Cut, -Small}});
 }
 
 void LetterN(QPainterPath& path, double x)
@@ -65,12 +69,23 @@ QPainterPath Skeleton()
     QPainterPath path;
     LetterP(path, 0);
     Stem(path, 112, Small);
-    LetterX(path, 150);
     Bowl(path, 254);
     Stem(path, 254 + Small - Thickness, Small);
     LetterN(path, 380);
     Bowl(path, 487);
     return path;
+}
+
+/// The stroker flattens curves by a fixed measure, so it is given large ones.
+QPainterPath Stroked(const QPainterPath& skeleton)
+{
+    constexpr double Large = 32;
+    QPainterPathStroker pen;
+    pen.setWidth(Thickness * Large);
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setJoinStyle(Qt::MiterJoin);
+    const QPainterPath stroke = pen.createStroke(QTransform::fromScale(Large, Large).map(skeleton));
+    return QTransform::fromScale(1 / Large, 1 / Large).map(stroke);
 }
 
 QPainterPath CentredOn(const QPainterPath& path, double left, double width, double scale)
@@ -82,12 +97,8 @@ QPainterPath CentredOn(const QPainterPath& path, double left, double width, doub
 
 Wordmark Name(double width)
 {
-    QPainterPathStroker pen;
-    pen.setWidth(Thickness);
-    pen.setCapStyle(Qt::FlatCap);
-    pen.setJoinStyle(Qt::MiterJoin);
-    pen.setCurveThreshold(0.05);
-    const QPainterPath letters = pen.createStroke(Skeleton());
+    QPainterPath letters = Stroked(Skeleton());
+    LetterX(letters, 140);
     QPainterPath dot;
     const double side = Thickness * 1.25;
     dot.addRect(QRectF(112 - side / 2, -Capital, side, side));

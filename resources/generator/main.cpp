@@ -16,6 +16,7 @@ void DrawWindowPictures(const QDir& folder)
 {
     WriteJpeg(Emblem(), folder.filePath("emblema.jpg"), 95);
     WriteJpeg(StartPicture(), folder.filePath("apertura.jpg"), 95);
+    WriteJpeg(Scene(), folder.filePath("scena.jpg"), 94);
 }
 
 void DrawPalettePictures(const QDir& folder)
@@ -31,6 +32,7 @@ void DrawIcons(const QDir& folder)
     folder.mkpath("icons");
     for (const int side : {16, 24, 32, 48, 64, 128, 256})
         WritePng(ApplicationIcon(side), folder.filePath(QString("icons/pixano-%1.png").arg(side)));
+    WriteBytes(ApplicationIconSvg(), folder.filePath("pixano.svg"));
 }
 
 }  // namespace

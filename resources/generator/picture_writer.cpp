@@ -6,6 +6,7 @@
 
 #include <gif_lib.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <stdexcept>

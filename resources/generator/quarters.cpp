@@ -7,7 +7,9 @@
 #include <QPainterPath>
 #include <QTransform>
 
+#include <algorithm>
 #include <initializer_list>
+#include <tuple>
 #include <utility>
 
 namespace pixano::art {

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <utility>
+
 namespace pixano::art {
 
 namespace {
