@@ -108,7 +108,7 @@ TEST(DoppiaFotoOrizzontale, PutsTheSamplesOfAPictureAHundredHigh)
     EXPECT_EQ(result.Point(2, 51), old.Point(2, 99));
 }
 
-TEST(DoubleFoto, MakesTheSizeInUseEvenForGoodAndKeepsTheCanvas)
+TEST(DoublePhoto, MakesTheSizeInUseEvenForGoodAndKeepsTheCanvas)
 {
     for (auto* const effect : {Vertdop, Orizdop}) {
         EffectRun run(Varied(101, 51));
@@ -120,7 +120,7 @@ TEST(DoubleFoto, MakesTheSizeInUseEvenForGoodAndKeepsTheCanvas)
     }
 }
 
-TEST(DoubleFoto, LeavesAPictureOfOnePixelAloneAndTellsNothing)
+TEST(DoublePhoto, LeavesAPictureOfOnePixelAloneAndTellsNothing)
 {
     for (auto* const effect : {Vertdop, Orizdop}) {
         EffectRun run({"a"});
@@ -146,7 +146,7 @@ TEST(DoppiaFotoOrizzontale, TellsEverySecondRow)
     EXPECT_EQ(run.progress.shownAfter, 0);
 }
 
-TEST(DoubleFoto, CapturesBeforeTheWindowIsShown)
+TEST(DoublePhoto, CapturesBeforeTheWindowIsShown)
 {
     for (auto* const effect : {Vertdop, Orizdop})
         EXPECT_EQ(JournalRun(Varied(5, 5)).Apply(effect).diary,
