@@ -1,0 +1,263 @@
+#include "effects/geometry/mapped.h"
+#include "support/journal_store.h"
+
+namespace pixano::test {
+namespace {
+
+struct Enlarged {
+    const char* name;
+    void (*effect)(Work&);
+    Letters even;  ///< of abcd efgh ijkl mnop
+    Letters odd;   ///< of abcde fghij klmno pqrst uvwxy
+};
+
+// Of the odd picture the second halves start at 2.5, which reads pixel 2. "Centro" reads 1 to 3 of
+// both: Int(4 / 4) to Int(4 - 1), Int(5 / 4) to Int(5 - 1.25).
+const std::vector<Enlarged> All{
+    {"Top", Top, {"abcd", "abcd", "efgh", "efgh"}, {"abcde", "abcde", "fghij", "fghij", "klmno"}},
+    {"Bottom",
+     Bottom,
+     {"ijkl", "ijkl", "mnop", "mnop"},
+     {"klmno", "klmno", "pqrst", "pqrst", "uvwxy"}},
+    {"Sinistro",
+     Sini,
+     {"aabb", "eeff", "iijj", "mmnn"},
+     {"aabbc", "ffggh", "kkllm", "ppqqr", "uuvvw"}},
+    {"Destro",
+     Destro,
+     {"ccdd", "gghh", "kkll", "oopp"},
+     {"ccdde", "hhiij", "mmnno", "rrsst", "wwxxy"}},
+    {"Top Sinistro",
+     Sintop,
+     {"aabb", "aabb", "eeff", "eeff"},
+     {"aabbc", "aabbc", "ffggh", "ffggh", "kkllm"}},
+    {"Top Destro",
+     Destop,
+     {"ccdd", "ccdd", "gghh", "gghh"},
+     {"ccdde", "ccdde", "hhiij", "hhiij", "mmnno"}},
+    {"Bottom Sinistro",
+     Sinbot,
+     {"iijj", "iijj", "mmnn", "mmnn"},
+     {"kkllm", "kkllm", "ppqqr", "ppqqr", "uuvvw"}},
+    {"Bottom Destro",
+     Desbot,
+     {"kkll", "kkll", "oopp", "oopp"},
+     {"mmnno", "mmnno", "rrsst", "rrsst", "wwxxy"}},
+    {"Centro",
+     Incentro,
+     {"ffgg", "ffgg", "jjkk", "jjkk"},
+     {"gghhi", "gghhi", "llmmn", "llmmn", "qqrrs"}},
+};
+
+TEST(Enlargements, FillTheCanvasWithTheRegionDoubled)
+{
+    for (const Enlarged& enlarged : All) {
+        SCOPED_TRACE(enlarged.name);
+        EffectRun run({"abcd", "efgh", "ijkl", "mnop"});
+        EXPECT_EQ(run.Apply(enlarged.effect).Result(), enlarged.even);
+        run.Load(Drawn({"abcde", "fghij", "klmno", "pqrst", "uvwxy"}));
+        EXPECT_EQ(run.Apply(enlarged.effect).Result(), enlarged.odd);
+    }
+}
+
+/// Where the place `at` of the result comes from, along one side.
+using Along = int (*)(int at, int side);
+
+int Same(int at, int /*side*/)
+{
+    return at;
+}
+int FromFirst(int at, int /*side*/)
+{
+    return at / 2;
+}
+int FromSecond(int at, int side)
+{
+    return side / 2 + at / 2;
+}
+
+struct Mapping {
+    const char* name;
+    void (*effect)(Work&);
+    Along column;
+    Along row;
+};
+
+const std::vector<Mapping> Mappings{
+    {"Top", Top, Same, FromFirst},
+    {"Bottom", Bottom, Same, FromSecond},
+    {"Sinistro", Sini, FromFirst, Same},
+    {"Destro", Destro, FromSecond, Same},
+    {"Top Sinistro", Sintop, FromFirst, FromFirst},
+    {"Top Destro", Destop, FromSecond, FromFirst},
+    {"Bottom Sinistro", Sinbot, FromFirst, FromSecond},
+    {"Bottom Destro", Desbot, FromSecond, FromSecond},
+};
+
+TEST(Enlargements, OfHalvesAndQuartersTakeEveryPixelFromItsPlace)
+{
+    for (const Mapping& mapping : Mappings) {
+        SCOPED_TRACE(mapping.name);
+        ExpectOnAllSizes(mapping.effect, [&](const Surface& old, int column, int row) {
+            return old.Point(mapping.column(column, old.Width()), mapping.row(row, old.Height()));
+        });
+    }
+}
+
+/// The first place of the middle, and how many there are: Int(side / 4) to Int(side - side / 4).
+struct Part {
+    int first;
+    int count;
+};
+Part MiddleOf(int side)
+{
+    const int first = side / 4;
+    const int last = side - (side + 3) / 4;
+    return {first, last - first + 1};
+}
+
+TEST(IngrCentro, TakesTheValuesOfTheMiddleStrictlyInSequence)
+{
+    ExpectOnAllSizes(Incentro, [](const Surface& old, int column, int row) {
+        const int index = row / 2 * (old.Width() / 2 + 1) + column / 2;
+        const Part columns = MiddleOf(old.Width());
+        return old.Point(columns.first + index % columns.count,
+                         MiddleOf(old.Height()).first + index / columns.count);
+    });
+}
+
+// Five values a row are captured, columns 1 to 5, and four taken: i j k l, m p q r, s t w x, y z A
+// D.
+TEST(IngrCentro, ShearsAPictureWhoseWidthLeavesThree)
+{
+    EffectRun run({"abcdefg", "hijklmn", "opqrstu", "vwxyzAB", "CDEFGHI", "JKLMNOP", "QRSTUVW"});
+    EXPECT_EQ(run.Apply(Incentro).Result(), (Letters{"iijjkkl", "iijjkkl", "mmppqqr", "mmppqqr",
+                                                     "ssttwwx", "ssttwwx", "yyzzAAD"}));
+}
+
+TEST(IngrCentro, CapturesTheMiddle)
+{
+    JournalRun run({"abcdefg", "hijklmn", "opqrstu", "vwxyzAB", "CDEFGHI", "JKLMNOP", "QRSTUVW"});
+    EXPECT_EQ(run.Apply(Incentro).written, ColoursOf("ijklmpqrstwxyzADEFGHKLMNO"));
+}
+
+TEST(Enlargements, CaptureTheRegionWithTheOutsideItReaches)
+{
+    const Letters rows{"abc", "def"};  // rows 0 to 1, 1 to 2; columns 0 to 1.5, 1.5 to 3
+    const auto captured = [&rows](void (*effect)(Work&)) {
+        return JournalRun(rows).Apply(effect).written;
+    };
+    EXPECT_EQ(captured(Top), ColoursOf("abc!def!!!!!"));
+    EXPECT_EQ(captured(Bottom), ColoursOf("def!!!!!"));
+    EXPECT_EQ(captured(Sini), ColoursOf("abde!!"));
+    EXPECT_EQ(captured(Destro), ColoursOf("bcef!!"));
+    EXPECT_EQ(captured(Sintop), ColoursOf("abde"));
+    EXPECT_EQ(captured(Destop), ColoursOf("bcef"));
+    EXPECT_EQ(captured(Sinbot), ColoursOf("de!!"));
+    EXPECT_EQ(captured(Desbot), ColoursOf("ef!!"));
+}
+
+TEST(IngrDestro, ReadsFiftyColumnsOfAPictureNinetyNineWide)
+{
+    const Surface old = Varied(99, 99);
+    JournalRun run(old);
+    run.Apply(Destro);
+    ASSERT_EQ(run.written.size(), 100U * 50);
+    for (int k = 0; k < 50; ++k) {
+        EXPECT_EQ(run.written[static_cast<std::size_t>(k)], old.Point(49 + k, 0));
+        EXPECT_EQ(run.work.Picture1.Point(2 * k, 98), old.Point(49 + k, 98));
+    }
+}
+
+TEST(IngrBottom, ReadsFiftyRowsOfAPictureNinetyNineHigh)
+{
+    const Surface old = Varied(99, 99);
+    JournalRun run(old);
+    run.Apply(Bottom);
+    ASSERT_EQ(run.written.size(), 50U * 100);
+    EXPECT_EQ(run.written[0], old.Point(0, 49));
+    EXPECT_EQ(run.written[49 * 100], old.Point(0, 98));
+    for (int y = 0; y < 98; y += 2)
+        EXPECT_EQ(run.work.Picture1.Point(7, y), run.work.Picture1.Point(7, y + 1));
+}
+
+TEST(IngrTopSinistro, ReadsFiftyOneBySideOfAPictureAHundredBySide)
+{
+    const Surface old = Varied(100, 100);
+    JournalRun run(old);
+    run.Apply(Sintop);
+    ASSERT_EQ(run.written.size(), 51U * 51);
+    EXPECT_EQ(run.written[50], old.Point(50, 0));
+    EXPECT_EQ(run.work.Picture1.Point(99, 99), old.Point(49, 49));
+}
+
+// Every row is told while it is captured; all of that is over when the window appears.
+TEST(IngrSinistro, TellsItsCaptureBeforeTheWindowIsShownAndNothingAfterwards)
+{
+    for (const int height : {1, 4, 5}) {
+        EffectRun run(Varied(6, height));
+        EXPECT_EQ(run.Apply(Sini).progress.values, Steps(0, height));
+        EXPECT_EQ(run.progress.shownAfter, height + 1);
+    }
+}
+
+TEST(IngrDestro, TellsEveryRow)
+{
+    EffectRun run(Varied(6, 5));
+    EXPECT_EQ(run.Apply(Destro).progress.values, Steps(0, 5));
+    EXPECT_EQ(run.progress.shownAfter, 0);
+}
+
+TEST(Enlargements, ThatDoubleRowsTellEverySecondRow)
+{
+    for (auto* const effect : {Top, Bottom, Sintop, Destop, Sinbot, Desbot, Incentro})
+        for (const int height : {4, 5}) {
+            EffectRun run(Varied(6, height));
+            EXPECT_EQ(run.Apply(effect).progress.values, Steps(0, 4, 2));
+            EXPECT_EQ(run.progress.shownAfter, 0);
+        }
+}
+
+TEST(Enlargements, CaptureBeforeTheWindowIsShown)
+{
+    for (const Enlarged& enlarged : All)
+        EXPECT_EQ(JournalRun(Varied(7, 5)).Apply(enlarged.effect).diary,
+                  (Diary{"create", "finish", "show", "open", "close", "kill"}))
+            << enlarged.name;
+}
+
+TEST(Enlargements, KeepAPictureOfOneColour)
+{
+    for (const Enlarged& enlarged : All) {
+        const Surface plain(11, 8, 0x336699);
+        EXPECT_EQ(EffectRun(plain).Apply(enlarged.effect).work.Picture1, plain) << enlarged.name;
+    }
+}
+
+TEST(Enlargements, KeepTheSizeInUse)
+{
+    for (const Enlarged& enlarged : All) {
+        EffectRun run(Varied(7, 5));
+        run.Apply(enlarged.effect);
+        EXPECT_EQ(run.work.Larg, 7);
+        EXPECT_EQ(run.work.Alt, 5);
+    }
+}
+
+// Larg = Alt = 4 on a canvas of 5 x 5: the last column and row captured lie inside it, and so does
+// the first of the last doubled pair.
+TEST(Enlargements, ReachTheCanvasBeyondTheSizeInUse)
+{
+    const auto enlarged = [](void (*effect)(Work&)) {
+        EffectRun run({"abcde", "fghij", "klmno", "pqrst", "uvwxy"});
+        run.work.Larg = 4;
+        run.work.Alt = 4;
+        return run.Apply(effect).Result();
+    };
+    EXPECT_EQ(enlarged(Desbot), (Letters{"mmnno", "mmnno", "rrsst", "rrsst", "wwxxy"}));
+    EXPECT_EQ(enlarged(Top), (Letters{"abcde", "abcde", "fghij", "fghij", "klmno"}));
+    EXPECT_EQ(enlarged(Incentro), (Letters{"gghhi", "gghhi", "llmmn", "llmmn", "qqrrs"}));
+}
+
+}  // namespace
+}  // namespace pixano::test
