@@ -1,5 +1,6 @@
 #include "effects/catalogue.h"
 
+#include "effects/colour/colour.h"
 #include "effects/geometry/geometry.h"
 
 #include <algorithm>
@@ -88,7 +89,31 @@ constexpr auto Effects = std::to_array<Effect>({
      .entry = 33,
      .closing = Closing::ModifiedUnloadCaption},
     // ---- colour ----
-
+    {.name = "Distorsione 1",
+     .run = DisUno,
+     .family = Family::Colours,
+     .entry = 43,
+     .reseed = Reseed::BeforeEffect},
+    {.name = "Distorsione 2",
+     .run = DisDue,
+     .family = Family::Colours,
+     .entry = 44,
+     .reseed = Reseed::BeforeEffect},
+    {.name = "Empireo 1", .run = EmpUno, .family = Family::Colours, .entry = 46},
+    {.name = "Empireo 2", .run = EmpDue, .family = Family::Colours, .entry = 47},
+    {.name = "Fantastic 1", .run = FantUno, .family = Family::Colours, .entry = 49},
+    {.name = "Fantastic 2", .run = FantDue, .family = Family::Colours, .entry = 50},
+    {.name = "Artistico 1", .run = ArtUno, .family = Family::Colours, .entry = 52},
+    {.name = "Artistico 2", .run = ArtDue, .family = Family::Colours, .entry = 53},
+    {.name = "Artistico 3", .run = ArTre, .family = Family::Colours, .entry = 54},
+    {.name = "Artistico 4", .run = ArtQuat, .family = Family::Colours, .entry = 55},
+    {.name = "Artistico 5", .run = ArtCinq, .family = Family::Colours, .entry = 56},
+    {.name = "Artistico 6", .run = ArtSei, .family = Family::Colours, .entry = 57},
+    {.name = "Negativo Artistico", .run = Negativo, .family = Family::Colours, .selector = 1},
+    {.name = "Colorazione", .run = Colorazione, .family = Family::Colours, .selector = 2},
+    {.name = "Vetro", .run = Vetro, .family = Family::Colours, .selector = 3},
+    {.name = "Foto Color Rnd", .run = ColorRnd, .family = Family::Colours, .selector = 4},
+    {.name = "Forbici", .run = Forbici, .family = Family::Colours, .selector = 5},
     // ---- composite ----
 
 });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "canvas/work.h"
+#include "effects/catalogue.h"
 #include "support/letters.h"
 
 #include <cstdint>
@@ -53,6 +54,12 @@ class EffectRun {
         effect(work);
         work.ElabSer.Kill();
         return *this;
+    }
+    /// Runs a row of the catalogue: reseeds first where its frame does.
+    EffectRun& Apply(const Effect& effect)
+    {
+        if (effect.reseed != Reseed::Never) work.Randomize();
+        return Apply(effect.run);
     }
 
     Letters Result() const { return LettersOf(work.Picture1); }
