@@ -12,8 +12,8 @@ void MixVert(Work& w)
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
-        for (int x = 0; x <= w.Larg; ++x)
-            if (x % 2 != 0) w.Picture1.PSet(x, y, w.Vettore(w.Larg - x, y));
+        for (int x = 1; x <= w.Larg; x += 2)
+            w.Picture1.PSet(x, y, w.Vettore(w.Larg - x, y));
     }
 }
 
@@ -24,8 +24,9 @@ void MixOriz(Work& w)
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
+        if (y % 2 == 0) continue;
         for (int x = 0; x <= w.Larg; ++x)
-            if (y % 2 != 0) w.Picture1.PSet(x, y, w.Vettore(x, w.Alt - y));
+            w.Picture1.PSet(x, y, w.Vettore(x, w.Alt - y));
     }
 }
 

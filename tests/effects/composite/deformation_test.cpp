@@ -207,6 +207,24 @@ TEST(DeformazioneCasuale, KeepsWhatLiesBehindTheLastCells)
     EXPECT_EQ(run.progress.values, Steps(0, 27));
 }
 
+// R1 = 26, R3 = 2, Larg = 48: columns 0 to 25, 27 to 47 by 2 are C = 37 cells and FX = 47 / 10
+// / 4.7 is exactly 1. R2 = 14, R4 = 2, Alt = 28: rows 0 to 13, 15 to 27 by 2 are T = 21 cells and
+// FY = 27 / 6 / 4.5 is exactly 1. Only beyond C and T the picture is kept: the cells 37 and 21,
+// which the squeeze did not write, are painted.
+TEST(DeformazioneCasuale, GoesOnWherePositionAndCountAreEqual)
+{
+    const Surface before = Varied(48, 28);
+    EffectRun run(before, SeedFor({26, 14, 2, 2}));
+    const Surface after = run.Apply(MulStepRnd).work.Picture1;
+    EXPECT_EQ(after.Point(36, 0), before.Point(47, 0));
+    EXPECT_EQ(after.Point(37, 0), 0);
+    EXPECT_EQ(after.Point(38, 0), before.Point(38, 0));
+    EXPECT_EQ(after.Point(0, 20), before.Point(0, 27));
+    EXPECT_EQ(after.Point(0, 21), 0);
+    EXPECT_EQ(after.Point(0, 22), before.Point(0, 22));
+    EXPECT_EQ(run.progress.values, Steps(0, 21));
+}
+
 TEST(DeformazioneCasuale, PaintsAsItsDescriptionSaysAtManySizes)
 {
     int compared = 0;

@@ -101,6 +101,22 @@ TEST(Mixes, PaintColumnLargAndRowAltWhereTheCanvasHasThem)
     EXPECT_EQ(vert.Apply(MixVert).Result(), (Letters{"adcbe", "fihgj", "knmlo"}));
 }
 
+// The rows that are exchanged come with column Larg; in even rows it stays, as 4 is even.
+TEST(MixMultifoto, PaintsColumnLargWhereTheCanvasHasIt)
+{
+    EffectRun run({"abcde", "fghij", "klmno", "pqrst"});
+    run.work.Larg = 4;
+    EXPECT_EQ(run.Apply(MixMultif).Result(), (Letters{"adcbe", "pqrst", "knmlo", "fghij"}));
+}
+
+// Columns 1 and 3, which is column Larg, take columns 2 and 0.
+TEST(MixVerticale, PaintsAnOddColumnLargWhereTheCanvasHasIt)
+{
+    EffectRun run({"abcd"});
+    run.work.Larg = 3;
+    EXPECT_EQ(run.Apply(MixVert).Result(), (Letters{"acca"}));
+}
+
 TEST(Mixes, TellOneProgressValueARowAfterTheCapture)
 {
     for (auto* const effect : {MixVert, MixOriz, MixMultif}) {
