@@ -1,6 +1,7 @@
 #include "effects/catalogue.h"
 
 #include "effects/colour/colour.h"
+#include "effects/composite/composite.h"
 #include "effects/geometry/geometry.h"
 
 #include <algorithm>
@@ -115,7 +116,47 @@ constexpr auto Effects = std::to_array<Effect>({
     {.name = "Foto Color Rnd", .run = ColorRnd, .family = Family::Colours, .selector = 4},
     {.name = "Forbici", .run = Forbici, .family = Family::Colours, .selector = 5},
     // ---- composite ----
-
+    {.name = "Mini Foto Rnd",
+     .run = MiniRnd,
+     .family = Family::Composite,
+     .entry = 37,
+     .closing = Closing::ModifiedUnload,
+     .faultEnds = FaultEnds::Program},
+    {.name = "Multi Step Verticale",
+     .run = Vertstep,
+     .family = Family::Composite,
+     .entry = 39,
+     .faultEnds = FaultEnds::Program},
+    {.name = "Multi Step Orizzontale",
+     .run = Orizstep,
+     .family = Family::Composite,
+     .entry = 40,
+     .faultEnds = FaultEnds::Program},
+    {.name = "MultiFoto Step",
+     .run = MultiFotoStep,
+     .family = Family::Composite,
+     .faultEnds = FaultEnds::Program},
+    {.name = "Deformazione Casuale",
+     .run = MulStepRnd,
+     .family = Family::Composite,
+     .entry = 41,
+     .reseed = Reseed::AfterAbil,
+     .faultEnds = FaultEnds::Program},
+    {.name = "Mix Verticale",
+     .run = MixVert,
+     .family = Family::Composite,
+     .closing = Closing::ModifiedUnloadCaption,
+     .faultEnds = FaultEnds::Program},
+    {.name = "Mix Orizzontale",
+     .run = MixOriz,
+     .family = Family::Composite,
+     .closing = Closing::ModifiedUnloadCaption,
+     .faultEnds = FaultEnds::Program},
+    {.name = "Mix Multifoto",
+     .run = MixMultif,
+     .family = Family::Composite,
+     .closing = Closing::ModifiedUnloadCaption,
+     .faultEnds = FaultEnds::Program},
 });
 
 }  // namespace

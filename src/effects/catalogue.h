@@ -24,7 +24,8 @@ enum class Closing {
     ModifiedUnload,         ///< the same without a new caption
 };
 
-/// What a run-time error in the effect ends.
+/// What a run-time error in the effect ends. An effect that refuses a picture with InvalidCall has
+/// changed nothing that is seen: that ends the command alone, whatever stands here.
 enum class FaultEnds { Command, Program };
 
 struct Effect {

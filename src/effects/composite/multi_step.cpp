@@ -1,0 +1,142 @@
+// The picture squeezed more and more towards one edge, then again from the start.
+#include "canvas/rounding.h"
+#include "effects/composite/composite.h"
+
+#include <algorithm>
+
+namespace pixano {
+namespace {
+
+/// How many lines a pass reads before its step changes; 0 for a picture of less than 6 pixels. The
+/// two divisors differ: kept exactly.
+int ColumnBand(const Work& w)
+{
+    return CLng(Int(w.Larg / 5.9));
+}
+
+int RowBand(const Work& w)
+{
+    return CLng(Int(w.Alt / 5.8));
+}
+
+/// Which lines of `lines` a pass reads, one after another: ever wider apart up to the last one,
+/// then from the first one again with a step that shrinks, turns negative and leads out at the
+/// start. With a `band` of 0 there is no end.
+class Stride {
+  public:
+    Stride(int lines, int band) : last_(lines - 1), band_(band) {}
+
+    int Position() const { return position_; }
+
+    /// Goes to the next line. False when there is none.
+    bool Advance()
+    {
+        if (++count_ == band_) {
+            count_ = 0;
+            step_ += change_;
+        }
+        position_ += step_;
+        if (position_ < 0) return false;
+        if (position_ > last_) {
+            count_ = 0;
+            change_ = -1;
+            position_ = 0;
+        }
+        return true;
+    }
+
+  private:
+    int last_;
+    int band_;
+    int position_ = 0;
+    int step_ = 1;
+    int count_ = 0;
+    int change_ = 1;
+};
+
+/// Squeezes every row from `source` (column, row) into `target`. What is left over when column
+/// `Larg` is reached piles up there, in a column that is never painted.
+template <typename Source>
+void ColumnPass(const Work& w, Source source, Matrix& target)
+{
+    const int larg = w.Larg;
+    const int band = ColumnBand(w);
+    for (int y = 0; y < w.Alt; ++y) {
+        Stride column(larg, band);
+        int t = 0;
+        do {
+            target(t, y) = source(column.Position(), y);
+            t = std::min(t + 1, larg);
+        } while (column.Advance());
+    }
+}
+
+/// The same with all rows of the canvas, down to row `Alt` of `Vettore`.
+void RowPass(Work& w)
+{
+    Stride row(w.Alt, RowBand(w));
+    int t = 0;
+    do {
+        for (int x = 0; x < w.Larg; ++x)
+            w.Vettore(x, t) = w.Picture1.Point(x, row.Position());
+        t = std::min(t + 1, w.Alt);
+    } while (row.Advance());
+}
+
+/// Throws InvalidCall where a column pass would never end; a pass without rows ends at once.
+void RefuseEndlessColumnPass(const Work& w)
+{
+    if (w.Alt > 0 && ColumnBand(w) == 0)
+        throw Fault(FaultKind::InvalidCall, "la figura è larga meno di 6 pixel");
+}
+
+/// Throws InvalidCall where a row pass would never end. One that is too wide for the matrix ends in
+/// its first row, with the fault that this is.
+void RefuseEndlessRowPass(const Work& w)
+{
+    if (w.Larg - 1 <= Matrix::LastIndex && RowBand(w) == 0)
+        throw Fault(FaultKind::InvalidCall, "la figura è alta meno di 6 pixel");
+}
+
+void Paint(Work& w, Matrix& cells)
+{
+    w.ShowProgress();
+    for (int y = 0; y < w.Alt; ++y) {
+        w.Avanzamento(y);
+        for (int x = 0; x < w.Larg; ++x)
+            w.Picture1.PSet(x, y, cells(x, y));
+    }
+}
+
+}  // namespace
+
+/// "Multi Step Verticale": the columns squeezed. Throws InvalidCall below 6 pixels of width.
+void Vertstep(Work& w)
+{
+    RefuseEndlessColumnPass(w);
+    ColumnPass(
+        w, [&](int x, int y) { return w.Picture1.Point(x, y); }, w.Vettore);
+    Paint(w, w.Vettore);
+}
+
+/// "Multi Step Orizzontale": the rows squeezed. Throws InvalidCall below 6 pixels of height.
+void Orizstep(Work& w)
+{
+    RefuseEndlessRowPass(w);
+    RowPass(w);
+    Paint(w, w.Vettore);
+}
+
+/// "MultiFoto Step": the rows squeezed, then the columns of that. Throws InvalidCall below 6 pixels
+/// of either side, before anything is painted.
+void MultiFotoStep(Work& w)
+{
+    RefuseEndlessRowPass(w);
+    RowPass(w);
+    RefuseEndlessColumnPass(w);
+    ColumnPass(
+        w, [&](int x, int y) { return w.Vettore(x, y); }, w.Vettore2);
+    Paint(w, w.Vettore2);
+}
+
+}  // namespace pixano
