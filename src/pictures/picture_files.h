@@ -1,15 +1,18 @@
-// Files of pictures: BMP, JPEG and GIF in, BMP out. Knows pixels, no window.
+// Files of pictures: BMP, JPEG and GIF in; BMP, PNG and JPEG out. Knows pixels, no window.
 #pragma once
 
 #include "canvas/surface.h"
+#include "pictures/byte_sink.h"
 
+#include <cstddef>
+#include <span>
 #include <stdexcept>
 #include <string>
 
 namespace pixano {
 
 /// A picture file cannot be read or written. `what()` is one Italian sentence without a full stop,
-/// UTF-8, that says why.
+/// UTF-8, that names the file and says why.
 class PictureError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -23,13 +26,40 @@ struct PictureRead {
 
 /// The picture in the file `path` (UTF-8). The format is told by the content, not by the name:
 /// BMP, JPEG (turned upright by its Exif orientation) or GIF (its first frame; `Background` shows
-/// through where it is transparent). Only regular files are read, of 1 to 32767 pixels a side and at
-/// most 256 Mpixel. Every pixel of the result is defined by the file alone. Throws PictureError.
+/// through where it is transparent). Only regular files are read, of 1 to 32767 pixels a side and
+/// at most 256 Mpixel. Every pixel of the result is defined by the file alone. Throws PictureError.
 PictureRead ReadPicture(const std::string& path);
 
+/// The same for a file that this program wrote for itself: a link with that name is refused, not
+/// followed. Throws PictureError.
+PictureRead ReadWorkingPicture(const std::string& path);
+
+/// The same for a file's content that is already in memory; `name` stands for the file in messages.
+/// Throws PictureError.
+PictureRead ReadPictureFrom(std::span<const std::byte> content, const std::string& name);
+
 /// Writes the surface as an uncompressed 24-bit BMP, bottom-up with a 40-byte header, to the file
-/// `path` (UTF-8). The file appears, or replaces an old one, only when it is complete and on disk; when
-/// anything fails the old file is untouched and no new one is left. Throws PictureError.
+/// `path` (UTF-8). The file appears, or replaces an old one, only when it is complete and on disk;
+/// when anything fails the old file is untouched and no new one is left. A link stays, and the file
+/// that it leads to is replaced. Throws PictureError.
 void SaveBitmap(const Surface& surface, const std::string& path);
+
+/// The same bytes for a file that the program writes for itself and deletes when it ends: whatever
+/// has that name is replaced when the new file is complete, links are not followed, only the user
+/// may read it, and nothing waits for the disk. Throws PictureError.
+void WriteBitmap(const Surface& surface, const std::string& path);
+
+enum class PictureFormat { Bmp, Png, Jpeg };
+
+/// The format that a file name's extension asks for: ".bmp", ".png", ".jpg" or ".jpeg", in capitals
+/// or not. Throws PictureError for every other.
+PictureFormat FormatOf(const std::string& path);
+
+/// As `SaveBitmap`, in the format that the name's extension asks for. Throws PictureError.
+void SavePicture(const Surface& surface, const std::string& path);
+
+/// Gives the surface, as a complete file of that format, to the sink; `name` stands for where it
+/// goes in messages. Throws PictureError.
+void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name);
 
 }  // namespace pixano

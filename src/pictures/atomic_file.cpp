@@ -1,0 +1,123 @@
+#include "pictures/atomic_file.h"
+
+#include "pictures/refusal.h"
+#include "pictures/regular_file.h"
+#include "pictures/system_reason.h"
+
+#include <climits>
+#include <cstdio>
+#include <random>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace pixano {
+namespace {
+
+struct Place {
+    std::string folder;
+    std::string name;
+};
+
+Place PlaceOf(const std::string& path)
+{
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos) return {".", path};
+    return {path.substr(0, slash + 1), path.substr(slash + 1)};
+}
+
+/// The path that a chain of links leads to, whether there is a file or not.
+std::string WithoutLinks(std::string path)
+{
+    constexpr int LongestChain = 40;  // as many as the system itself follows
+    for (int i = 0; i < LongestChain; ++i) {
+        char target[PATH_MAX];
+        const ssize_t length = readlink(path.c_str(), target, sizeof target);
+        if (length < 0) return path;
+        const std::string text(target, static_cast<std::size_t>(length));
+        path = text.starts_with('/') ? text : PlaceOf(path).folder + "/" + text;
+    }
+    throw Refusal(SystemReason(ELOOP));
+}
+
+std::string TemporaryName()
+{
+    std::random_device device;
+    char name[40];
+    std::snprintf(name, sizeof name, ".pixano-%08x%08x.tmp", device(), device());
+    return name;
+}
+
+/// Some folders cannot be opened or synchronised; the file itself is already safe.
+void SyncFolder(int folder)
+{
+    const Descriptor readable(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (readable) fsync(readable.Number());
+}
+
+}  // namespace
+
+AtomicFile::AtomicFile(const std::string& path, Purpose purpose) : purpose_(purpose)
+{
+    const bool document = purpose == Purpose::Document;
+    const Place place = PlaceOf(document ? WithoutLinks(path) : path);
+    name_ = place.name;
+    if (name_.empty()) throw Refusal("manca il nome del file");
+    folder_ = Descriptor(open(place.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (!folder_) throw Refusal(errno == ENOENT ? "la cartella non esiste" : SystemReason(errno));
+    struct stat old {};
+    const bool exists = fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
+    if (!exists && errno != ENOENT) throw Refusal(SystemReason(errno));
+    if (exists && S_ISDIR(old.st_mode)) throw Refusal("è una cartella");
+    if (exists && document) {
+        RequireRegular(old.st_mode);
+        if (faccessat(folder_.Number(), name_.c_str(), W_OK, AT_EACCESS) != 0)
+            throw Refusal("il file è protetto da scrittura");
+    }
+    MakeTemporary(document && !exists ? 0666 : 0600);
+    if (exists && document) KeepOwnerAndPermissions();
+}
+
+AtomicFile::~AtomicFile()
+{
+    if (!temporary_.empty()) unlinkat(folder_.Number(), temporary_.c_str(), 0);
+}
+
+void AtomicFile::MakeTemporary(unsigned permissions)
+{
+    constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    do {
+        temporary_ = TemporaryName();
+        file_ = Descriptor(openat(folder_.Number(), temporary_.c_str(), Flags, permissions));
+    } while (!file_ && errno == EEXIST);
+    if (!file_) {
+        temporary_.clear();
+        const bool forbidden = errno == EACCES || errno == EPERM;
+        throw Refusal(forbidden ? "manca il permesso di scrivere nella cartella"
+                                : SystemReason(errno));
+    }
+    sink_.emplace(file_.Number());
+}
+
+void AtomicFile::KeepOwnerAndPermissions()
+{
+    struct stat old {};
+    if (fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) != 0) return;
+    // Only the system's administrator can give a file away; everybody else's copy stays his own.
+    [[maybe_unused]] const int given = fchown(file_.Number(), old.st_uid, old.st_gid);
+    fchmod(file_.Number(), old.st_mode & 0777);
+}
+
+void AtomicFile::Commit()
+{
+    const bool document = purpose_ == Purpose::Document;
+    if (document && fsync(file_.Number()) != 0) throw Refusal(SystemReason(errno));
+    if (!file_.Close()) throw Refusal(SystemReason(errno));
+    const int folder = folder_.Number();
+    if (renameat(folder, temporary_.c_str(), folder, name_.c_str()) != 0)
+        throw Refusal(SystemReason(errno));
+    temporary_.clear();
+    if (document) SyncFolder(folder);
+}
+
+}  // namespace pixano

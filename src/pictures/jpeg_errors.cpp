@@ -1,0 +1,53 @@
+#include "pictures/jpeg_errors.h"
+
+#include <jerror.h>
+
+namespace pixano {
+
+JpegErrors::JpegErrors() : jpeg_error_mgr{}
+{
+    jpeg_std_error(this);
+    error_exit = Exit;
+    emit_message = Emit;
+    output_message = [](j_common_ptr) {};
+}
+
+void JpegErrors::Fail(const char* reason)
+{
+    reason_ = reason;
+    calls_.Leave();
+}
+
+std::string JpegErrors::Reason() const
+{
+    if (reason_ != nullptr) return reason_;
+    switch (msg_code) {
+    case JERR_OUT_OF_MEMORY:
+        return "la memoria non basta";
+    case JERR_IMAGE_TOO_BIG:
+        return "la figura è troppo grande";
+    case JERR_EMPTY_IMAGE:
+        return "le dimensioni della figura non sono valide";
+    case JERR_BAD_PRECISION:
+    case JERR_SOF_UNSUPPORTED:
+    case JERR_CONVERSION_NOTIMPL:
+    case JERR_NOT_COMPILED:
+    case JERR_ARITH_NOTIMPL:
+        return "questo tipo di JPEG non è previsto";
+    default:
+        return "il file JPEG è danneggiato";
+    }
+}
+
+void JpegErrors::Exit(j_common_ptr jpeg)
+{
+    Of(jpeg).calls_.Leave();
+}
+
+void JpegErrors::Emit(j_common_ptr jpeg, int level)
+{
+    JpegErrors& errors = Of(jpeg);
+    if (level < 0 && errors.onWarning != nullptr) errors.onWarning(jpeg, errors.msg_code);
+}
+
+}  // namespace pixano

@@ -1,0 +1,140 @@
+// JPEG files, decoded by libjpeg straight into the picture's rows.
+#include "pictures/decoders.h"
+#include "pictures/exif_orientation.h"
+#include "pictures/jpeg_errors.h"
+#include "pictures/jpeg_source.h"
+#include "pictures/picture_size.h"
+#include "pictures/refusal.h"
+#include "pictures/upright_canvas.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+
+#include <jerror.h>
+
+namespace pixano {
+namespace {
+
+/// A progressive file has about ten scans. Each may cost the work of a whole picture and only a few
+/// bytes of the file, so a small file could keep the program busy for hours.
+constexpr int MostScans = 500;
+constexpr std::int64_t MostScannedPixels = std::int64_t{8} << 30;
+
+/// The layout of a surface's pixels: red in the lowest byte of a word, &HFF in the highest.
+constexpr J_COLOR_SPACE SurfaceLayout =
+    std::endian::native == std::endian::little ? JCS_EXT_RGBA : JCS_EXT_ABGR;
+
+bool HasInks(const jpeg_decompress_struct& jpeg)
+{
+    return jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
+}
+
+/// Turns a row of inks (cyan, magenta, yellow, black; 255 is none of it where `inverted`) into a
+/// row of a surface, in place.
+void InksToPixels(std::span<std::uint32_t> row, bool inverted)
+{
+    const unsigned flip = inverted ? 0 : 255;
+    for (std::uint32_t& pixel : row) {
+        const auto inks = std::bit_cast<std::array<std::uint8_t, 4>>(pixel);
+        const unsigned light = inks[3] ^ flip;
+        const auto shade = [&](unsigned ink) { return ((ink ^ flip) * light + 127) / 255; };
+        pixel = 0xFF000000 | shade(inks[0]) | shade(inks[1]) << 8 | shade(inks[2]) << 16;
+    }
+}
+
+class JpegReader {
+  public:
+    explicit JpegReader(ByteSource& bytes) : source_(bytes)
+    {
+        jpeg_.err = &errors_;
+        jpeg_.client_data = this;
+        errors_.onWarning = NoteWarning;
+        progress_.progress_monitor = CheckWork;
+        Run([this] { jpeg_create_decompress(&jpeg_); });
+        jpeg_.progress = &progress_;
+        source_.AttachTo(jpeg_);
+    }
+    JpegReader(const JpegReader&) = delete;
+    JpegReader& operator=(const JpegReader&) = delete;
+    ~JpegReader() { jpeg_destroy_decompress(&jpeg_); }
+
+    PictureRead Read()
+    {
+        Run([this] { jpeg_read_header(&jpeg_, TRUE); });
+        CheckSize(jpeg_.image_width, jpeg_.image_height);
+        const auto width = static_cast<int>(jpeg_.image_width);
+        const auto height = static_cast<int>(jpeg_.image_height);
+        UprightCanvas canvas(width, height, ExifOrientation(source_.Exif()));
+        jpeg_.out_color_space = HasInks(jpeg_) ? JCS_CMYK : SurfaceLayout;
+        present_ = height;
+        Run([this] { jpeg_start_decompress(&jpeg_); });
+        Run([this, &canvas] { ReadRows(canvas); });
+        const bool truncated =
+            present_ < height || (source_.Ended() && jpeg_has_multiple_scans(&jpeg_));
+        return {canvas.Finish(present_), truncated};
+    }
+
+  private:
+    static JpegReader& Of(j_common_ptr jpeg)
+    {
+        return *static_cast<JpegReader*>(jpeg->client_data);
+    }
+
+    template <class Step>
+    void Run(Step&& step)
+    {
+        if (!errors_.Run(step)) throw Refusal(errors_.Reason());
+    }
+
+    void ReadRows(UprightCanvas& canvas)
+    {
+        const std::size_t width = jpeg_.output_width;
+        const bool inks = HasInks(jpeg_);
+        while (static_cast<int>(jpeg_.output_scanline) < present_) {
+            std::uint32_t* const row = canvas.Row(static_cast<int>(jpeg_.output_scanline));
+            auto* samples = reinterpret_cast<JSAMPROW>(row);
+            jpeg_read_scanlines(&jpeg_, &samples, 1);
+            // Only Adobe's programs write inks, and they write them inverted.
+            if (inks) InksToPixels({row, width}, jpeg_.saw_Adobe_marker != FALSE);
+        }
+    }
+
+    /// The file's end cuts the first scan: below the row of blocks that is being read nothing is
+    /// known.
+    static void NoteWarning(j_common_ptr common, int code)
+    {
+        JpegReader& reader = Of(common);
+        const jpeg_decompress_struct& jpeg = reader.jpeg_;
+        if (code != JWRN_HIT_MARKER || !reader.source_.Ended() || jpeg.input_scan_number > 1)
+            return;
+        const int blockRow = jpeg.max_v_samp_factor * DCTSIZE;
+        const int begun = (static_cast<int>(jpeg.input_iMCU_row) + 1) * blockRow;
+        reader.present_ = std::min(reader.present_, begun);
+    }
+
+    static void CheckWork(j_common_ptr common)
+    {
+        const jpeg_decompress_struct& jpeg = Of(common).jpeg_;
+        const std::int64_t pixels = std::int64_t{jpeg.image_width} * jpeg.image_height;
+        if (jpeg.input_scan_number > MostScans ||
+            jpeg.input_scan_number * pixels > MostScannedPixels)
+            JpegErrors::Of(common).Fail("il file JPEG è fatto di troppi strati");
+    }
+
+    JpegErrors errors_;
+    JpegSource source_;
+    jpeg_progress_mgr progress_{};
+    jpeg_decompress_struct jpeg_{};
+    /// How many rows the file has data for.
+    int present_ = 0;
+};
+
+}  // namespace
+
+PictureRead DecodeJpeg(ByteSource& source)
+{
+    return JpegReader(source).Read();
+}
+
+}  // namespace pixano

@@ -1,0 +1,142 @@
+#include "pictures/picture_files.h"
+
+#include "pictures/atomic_file.h"
+#include "pictures/decoders.h"
+#include "pictures/encoders.h"
+#include "pictures/refusal.h"
+#include "pictures/regular_file.h"
+#include "pictures/system_reason.h"
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <string_view>
+
+namespace pixano {
+namespace {
+
+/// Runs `step`; what it refuses becomes a sentence about the file `name`.
+template <class Step>
+auto Telling(const std::string& verb, const std::string& name, Step step)
+{
+    const std::string beginning = "Impossibile " + verb + " «" + name + "»: ";
+    try {
+        return step();
+    } catch (const Refusal& refusal) {
+        throw PictureError(beginning + refusal.what());
+    } catch (const std::bad_alloc&) {
+        throw PictureError(beginning + "la memoria non basta");
+    }
+}
+
+PictureRead DecodeByContent(ByteSource& source)
+{
+    std::array<char, 4> start{};
+    const std::size_t got = source.Read(std::as_writable_bytes(std::span(start)));
+    source.Seek(0);
+    const std::string_view magic(start.data(), got);
+    if (magic.starts_with("BM")) return DecodeBmp(source);
+    if (magic.starts_with("\xFF\xD8\xFF")) return DecodeJpeg(source);
+    if (magic.starts_with("GIF8")) return DecodeGif(source);
+    throw Refusal("non è una figura BMP, JPEG o GIF");
+}
+
+PictureRead Decode(ByteSource& source)
+{
+    try {
+        PictureRead read = DecodeByContent(source);
+        if (source.Error() == 0) return read;
+    } catch (const Refusal&) {
+        // A file that could not be read to its end looks damaged: the cause is what counts.
+        if (source.Error() == 0) throw;
+    }
+    throw Refusal(SystemReason(source.Error()));
+}
+
+PictureRead ReadFile(const std::string& path, Links links)
+{
+    return Telling("leggere", path, [&] {
+        const RegularFile file = OpenRegularFile(path, links);
+        ByteSource source(file.descriptor.Number(), file.size);
+        return Decode(source);
+    });
+}
+
+void EncodeAs(const Surface& surface, PictureFormat format, ByteSink& sink)
+{
+    if (surface.Width() == 0 || surface.Height() == 0)
+        throw Refusal("non c'è nessuna figura da scrivere");
+    switch (format) {
+    case PictureFormat::Bmp:
+        return EncodeBmp(surface, sink);
+    case PictureFormat::Png:
+        return EncodePng(surface, sink);
+    case PictureFormat::Jpeg:
+        return EncodeJpeg(surface, sink);
+    }
+}
+
+void WriteFile(const Surface& surface, const std::string& path, PictureFormat format,
+               AtomicFile::Purpose purpose)
+{
+    Telling("salvare", path, [&] {
+        AtomicFile file(path, purpose);
+        EncodeAs(surface, format, file);
+        file.Commit();
+    });
+}
+
+}  // namespace
+
+PictureRead ReadPicture(const std::string& path)
+{
+    return ReadFile(path, Links::Followed);
+}
+
+PictureRead ReadWorkingPicture(const std::string& path)
+{
+    return ReadFile(path, Links::Refused);
+}
+
+PictureRead ReadPictureFrom(std::span<const std::byte> content, const std::string& name)
+{
+    return Telling("leggere", name, [&] {
+        if (content.empty()) throw Refusal("il file è vuoto");
+        ByteSource source(content);
+        return Decode(source);
+    });
+}
+
+void SaveBitmap(const Surface& surface, const std::string& path)
+{
+    WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Document);
+}
+
+void WriteBitmap(const Surface& surface, const std::string& path)
+{
+    WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Working);
+}
+
+PictureFormat FormatOf(const std::string& path)
+{
+    std::string name = path.substr(path.rfind('/') + 1);
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    if (name.ends_with(".bmp")) return PictureFormat::Bmp;
+    if (name.ends_with(".png")) return PictureFormat::Png;
+    if (name.ends_with(".jpg") || name.ends_with(".jpeg")) return PictureFormat::Jpeg;
+    throw PictureError("Impossibile salvare «" + path +
+                       "»: il nome deve finire in .bmp, .png, .jpg o .jpeg");
+}
+
+void SavePicture(const Surface& surface, const std::string& path)
+{
+    WriteFile(surface, path, FormatOf(path), AtomicFile::Purpose::Document);
+}
+
+void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name)
+{
+    Telling("scrivere", name, [&] { EncodeAs(surface, format, sink); });
+}
+
+}  // namespace pixano

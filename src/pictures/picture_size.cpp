@@ -1,0 +1,22 @@
+#include "pictures/picture_size.h"
+
+#include "pictures/refusal.h"
+
+#include <string>
+
+namespace pixano {
+
+void CheckSize(std::int64_t width, std::int64_t height)
+{
+    const std::string size = std::to_string(width) + " x " + std::to_string(height);
+    if (width <= 0 || height <= 0)
+        throw Refusal("le dimensioni della figura non sono valide (" + size + ")");
+    if (width > LongestSide || height > LongestSide)
+        throw Refusal("la figura è troppo grande (" + size + "): i lati possono avere al massimo " +
+                      std::to_string(LongestSide) + " pixel");
+    if (width * height > MostPixels)
+        throw Refusal("la figura è troppo grande (" + size +
+                      "): può avere al massimo 256 milioni di pixel");
+}
+
+}  // namespace pixano
