@@ -52,9 +52,9 @@ TEST_F(ManyPictures, ComeOutAlikeWhateverRunsBesideThem)
     EXPECT_EQ(RunInto("five", {"-j5"}, true).status, 0);
     EXPECT_EQ(RunInto("all", {}, false).status, 0);
     for (int i = 0; i < Count; ++i) {
-        const std::string file = "/" + Name(i) + ".bmp";
-        EXPECT_EQ(Bytes("one" + file), Bytes("five" + file));
-        EXPECT_EQ(Bytes("one" + file), Bytes("all" + file));
+        const std::string file = Name(i) + ".bmp";
+        EXPECT_EQ(Bytes("one/" + file), Bytes("five/" + file));
+        EXPECT_EQ(Bytes("one/" + file), Bytes("all/" + file));
     }
     auto alone = RandomEffects();
     alone.insert(alone.end(), {"--seme", "5", "-o", "alone.bmp", Name(7) + ".bmp"});

@@ -47,6 +47,7 @@ TEST_F(ShownProgressTest, GoesFromNothingToAllAndNotBeyond)
     ExpectTold(0, 480, 0, "Elab. Capovolgi  (0%)");
     ExpectTold(480, 480, 400, "Elab. Capovolgi  (100%)");
     ExpectTold(481, 480, 400, "Elab. Capovolgi  (100%)");
+    ExpectTold(4, 3, 400, "Elab. Capovolgi  (100%)");  // 533 without the limit
     EXPECT_EQ(progress.ValBarra(), 400);
     EXPECT_EQ(progress.Percento(), 100);
 }

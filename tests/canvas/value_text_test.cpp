@@ -129,19 +129,21 @@ TEST_F(ValueText, MayBeCutAnywhereByTheReading)
     }
 }
 
-// The same for lines that are no plain whole numbers.
-TEST_F(ValueText, WithFractionsMayBeCutAnywhereByTheReading)
+// The same for lines that are no plain whole numbers, too long to be looked at in one piece: blanks
+// before the first one push the border through all of a line and of the empty one after it.
+TEST_F(ValueText, OfALongLineMayBeCutAnywhereByTheReading)
 {
-    for (std::size_t digits = 1; digits <= 6; ++digits) {
-        std::string text = std::string(digits, '1') + "\r\n";
-        constexpr std::size_t Count = 100000;
-        for (std::size_t i = 0; i < Count; ++i)
-            text += "7.4\r\n\r\n";  // seven characters, two values
+    const std::string lines = "7.4" + std::string(20, '0') + "\r\n\r\n";
+    const std::size_t count = 270000 / lines.size();
+    for (std::size_t blanks = 0; blanks <= lines.size(); ++blanks) {
+        std::string text(blanks, ' ');
+        for (std::size_t i = 0; i < count; ++i)
+            text += lines;
         const Values values = ReadAll(text);
-        ASSERT_EQ(values.size(), 2 * Count + 1);
-        for (std::size_t i = 0; i < Count; ++i) {
-            ASSERT_EQ(values[2 * i + 1], 7);
-            ASSERT_EQ(values[2 * i + 2], 0);
+        ASSERT_EQ(values.size(), 2 * count) << blanks;
+        for (std::size_t i = 0; i < count; ++i) {
+            ASSERT_EQ(values[2 * i], 7);
+            ASSERT_EQ(values[2 * i + 1], 0);
         }
     }
 }

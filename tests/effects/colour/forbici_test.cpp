@@ -121,6 +121,22 @@ TEST(Forbici, EveryRowOnAllSizes)
             }
 }
 
+// At a stretch of 26 / 2 / 200 = 0.065 row 4, added up, passes column 59 at 19.49999999999998 and
+// reads column 19; 60 steps of 0.325 would be 19.5 and read column 20. At 35 / 2 / 200 it is the
+// order of product and quotient that decides about column 23.
+TEST(Forbici, AddsUpStepsAndPlaces)
+{
+    const Surface picture = Varied(101, 81);
+    EffectRun run(picture, SeedOfOneHalf());
+    Use(run, Selector, 5000).Apply(Forbici);
+    EXPECT_EQ(run.work.Picture1.Point(59, 4), picture.Point(19, 4));
+    EXPECT_TRUE(Cut(picture, StretchOf(26, SeedOfOneHalf())).Shows(run.work.Picture1));
+
+    EffectRun other(picture, SeedOfOneHalf());
+    Use(other, Selector, 3200).Apply(Forbici);
+    EXPECT_TRUE(Cut(picture, StretchOf(35, SeedOfOneHalf())).Shows(other.work.Picture1));
+}
+
 // From 10200 on nothing is stretched: every place takes column 0, the lower row of two wins, and
 // the row outside paints row 0 white.
 TEST(Forbici, DrawsTheFirstColumnAlongTheRowsWithoutStretch)

@@ -81,6 +81,22 @@ TEST(Vetro, RoundsEachPlaceToASingleOnce)
     EXPECT_EQ(run.work.Picture1.Point(1001, 1), 0xFFFFFF);
 }
 
+// P = -27990 makes Q = 16000; 8000001 moves by 0.5000000625. From column 1 that is 1.5000000625, in
+// Single 1.50000012 and so pixel 2; the way made Single first would end on 1.5 and pixel 1.
+TEST(Vetro, AddsTheWayBeforeItIsMadeSingle)
+{
+    EXPECT_EQ(After(-27990, {{0, 8000001, 0}, {0, 0, 0xFFFFFF}}),
+              (Values{{0, 8000001, 0}, {0, 0, 8000001}}));
+}
+
+// This strength puts 8388609 / Q / 1000 a last bit above the double that a Single would round down
+// to one half; divided by 1000 Q at once it would be that double.
+TEST(Vetro, DividesTwice)
+{
+    EXPECT_EQ(After(-29933.042499999843, {{8388609, 0}, {0, 0xFFFFFF}}),
+              (Values{{8388609, 0}, {0, 8388609}}));
+}
+
 // P = 14510 makes Q = -1000.
 TEST(Vetro, MovesUpAndLeftBeyondTheStrengthOf12010)
 {
