@@ -1,8 +1,9 @@
-// Placing a window in the middle of the screen.
+// What the information windows share: their place in the middle of the screen, their empty titles.
 #pragma once
 
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 namespace pixano {
 
@@ -13,6 +14,13 @@ inline void Centre(QWidget& window)
     const QSize screen = window.screen()->size();
     window.move(qRound((screen.width() - window.width()) / 2.0),
                 qRound((screen.height() - window.height()) / 2.0));
+}
+
+/// Keeps the title bar of a window without a caption empty, where the desktop would put the
+/// program's name. To be called once the window is shown.
+inline void ShowNoTitle(QWidget& window)
+{
+    window.windowHandle()->setTitle(QStringLiteral(" "));
 }
 
 }  // namespace pixano

@@ -14,6 +14,8 @@ namespace {
 
 /// The palette stands this far from the right edge of the screen, and is no wider.
 constexpr double FromRightEdge = 3250;
+/// What a window manager's border is taken to be, left and right together.
+constexpr int Borders = 8;
 constexpr int Margin = 4;
 constexpr int Spacing = 3;
 
@@ -38,7 +40,7 @@ Form10::Form10()
     layout->addWidget(BuildFrame(PaletteFrame::Riflessi, "Riflessi ", 3));
     layout->addWidget(BuildFrame(PaletteFrame::Effetti, "Effetti ", 1));
     layout->addWidget(BuildZoomButtons());
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    setFixedSize(Pixels(FromRightEdge) - Borders, layout->sizeHint().height());
     move(screen()->size().width() - Pixels(FromRightEdge), 0);
 }
 
@@ -70,13 +72,14 @@ QWidget* Form10::BuildZoomButtons()
 
 QPushButton* Form10::BuildButton(const PaletteButton& row)
 {
-    constexpr QSize ButtonSize(58, 25);
-    constexpr QSize PictureSize(24, 24);
+    constexpr QSize ButtonSize(20, 26);
+    constexpr QSize PictureSize(22, 22);
     auto* const button = new QPushButton(QString::fromUtf8(row.caption));
     button->setObjectName(row.name);
     button->setToolTip(QString::fromUtf8(row.toolTip));
     button->setAccessibleName(QString::fromUtf8(row.accessible));
     button->setMinimumSize(ButtonSize);
+    button->setFixedHeight(ButtonSize.height());
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     if (row.picture != nullptr) {
         button->setIcon(QIcon(QString(":/pixano/") + row.picture));

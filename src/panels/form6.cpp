@@ -46,4 +46,10 @@ void Form6::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void Form6::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    ShowNoTitle(*this);
+}
+
 }  // namespace pixano

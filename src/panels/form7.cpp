@@ -41,4 +41,10 @@ Form7::Form7()
     Centre(*this);
 }
 
+void Form7::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    ShowNoTitle(*this);
+}
+
 }  // namespace pixano

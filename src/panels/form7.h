@@ -10,6 +10,9 @@ class Form7 : public QDialog {
 
   public:
     Form7();
+
+  protected:
+    void showEvent(QShowEvent* event) override;
 };
 
 }  // namespace pixano

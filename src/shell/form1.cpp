@@ -59,8 +59,10 @@ QAction* Form1::AddEntry(int index)
         action->setMenu(menu);
     }
     action->setObjectName(row.name);
-    action->setText(caption);
-    action->setSeparator(caption == "-");
+    if (caption == "-")
+        action->setSeparator(true);
+    else
+        action->setText(caption);
     action->setEnabled(!row.designedOff);
     parent->addAction(action);
     connect(action, &QAction::triggered, this, [this, index, action] {

@@ -5,11 +5,12 @@
 
 set -euo pipefail
 
-EVIDENCE=${EVIDENCE:-$PWD/e2e}
+EVIDENCE=${EVIDENCE:-$PWD/build/e2e}
 SCREEN_SIZE=${SCREEN_SIZE:-1280x960}
 
 sandbox=$(mktemp -d)
-mkdir -p "$EVIDENCE" "$sandbox/home" "$sandbox/work"
+mkdir -p "$EVIDENCE" "$sandbox/work"
+mkdir -m 700 "$sandbox/home"
 export HOME=$sandbox/home XDG_DATA_HOME=$sandbox/home/data XDG_RUNTIME_DIR=$sandbox/home
 export QT_QPA_PLATFORM=xcb NO_AT_BRIDGE=1
 unset QT_SCALE_FACTOR WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME
@@ -45,6 +46,11 @@ wait_for() {
     return 1
 }
 
+# xprop itself succeeds without the property too.
+manages_windows() {
+    xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
+
 start_screen() {
     local number=$sandbox/display
     Xvfb -displayfd 3 -screen 0 "${SCREEN_SIZE}x24" -nolisten tcp 3>"$number" 2>/dev/null &
@@ -54,7 +60,7 @@ start_screen() {
     export DISPLAY
     openbox >/dev/null 2>&1 &
     manager=$!
-    wait_for xprop -root _NET_SUPPORTING_WM_CHECK || fail "openbox does not start"
+    wait_for manages_windows || fail "openbox does not start"
 }
 
 # Starts the program in the working folder.

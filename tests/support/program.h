@@ -22,8 +22,8 @@
 
 namespace pixano::test {
 
-/// Starts the program in an empty folder, with an empty data folder, and clicks the start-up picture
-/// away.
+/// Starts the program in an empty folder, with an empty data folder, and clicks the start-up
+/// picture away.
 class Program : public testing::Test {
   protected:
     Program() : before_(QDir::currentPath())
