@@ -58,7 +58,7 @@ class Text : public PixelFile::Store {
         if (!file_) throw Fault(FaultKind::FileAccess, name_);
         std::setvbuf(file_.get(), nullptr, _IONBF, 0);
         PrepareBuffers();
-        unread_ = {};
+        unread_ = {text_.data(), 0};
         atEnd_ = false;
     }
 
