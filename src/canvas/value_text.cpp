@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -160,7 +161,9 @@ Colour ValueOf(std::string_view item, std::string_view name)
     const char* const end = item.data() + item.size();
     const auto [stop, error] = std::from_chars(item.data(), end, number);
     if (error == std::errc::result_out_of_range) throw Fault(FaultKind::Overflow, name);
-    if (error != std::errc() || stop != end) throw Fault(FaultKind::TypeMismatch, name);
+    // "inf" and "nan" are words here, not numbers.
+    if (error != std::errc() || stop != end || !std::isfinite(number))
+        throw Fault(FaultKind::TypeMismatch, name);
     return CLng(number);
 }
 

@@ -86,7 +86,8 @@ TEST_F(ValueText, ReachesBothEndsOfThirtyTwoBits)
 
 TEST_F(ValueText, IsNoWord)
 {
-    for (const char* const text : {"abc", "12x", "x12", "--1", "1 2", "-", "\"a b\"", "1.2.3"}) {
+    for (const char* const text :
+         {"abc", "12x", "x12", "--1", "1 2", "-", "\"a b\"", "1.2.3", "inf", "-nan"}) {
         EXPECT_EQ(Read(std::string("1\r\n2\r\n") + text + "\r\n3\r\n"), (Values{1, 2})) << text;
         EXPECT_EQ(fault, FaultKind::TypeMismatch) << text;
     }

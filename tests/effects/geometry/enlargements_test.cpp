@@ -105,11 +105,11 @@ TEST(Enlargements, OfHalvesAndQuartersTakeEveryPixelFromItsPlace)
 }
 
 /// The first place of the middle, and how many there are: Int(side / 4) to Int(side - side / 4).
-struct Part {
+struct Stretch {
     int first;
     int count;
 };
-Part MiddleOf(int side)
+Stretch MiddleOf(int side)
 {
     const int first = side / 4;
     const int last = side - (side + 3) / 4;
@@ -120,7 +120,7 @@ TEST(IngrCentro, TakesTheValuesOfTheMiddleStrictlyInSequence)
 {
     ExpectOnAllSizes(Incentro, [](const Surface& old, int column, int row) {
         const int index = row / 2 * (old.Width() / 2 + 1) + column / 2;
-        const Part columns = MiddleOf(old.Width());
+        const Stretch columns = MiddleOf(old.Width());
         return old.Point(columns.first + index % columns.count,
                          MiddleOf(old.Height()).first + index / columns.count);
     });

@@ -1,5 +1,5 @@
-#include "canvas/fault.h"
 #include "effects/geometry/mapped.h"
+#include "support/faults.h"
 #include "support/journal_store.h"
 
 #include <algorithm>
@@ -102,24 +102,13 @@ TEST(Multifoto, ThenSpecchioMirrorsWithinTheEvenWidth)
     EXPECT_EQ(run.Apply(Specchio).Result(), (Letters{"dcbae", "gigfj", "nmlko"}));
 }
 
-FaultKind FaultOf(EffectRun& run, void (*effect)(Work&))
-{
-    try {
-        run.Apply(effect);
-    } catch (const Fault& fault) {
-        return fault.Kind();
-    }
-    ADD_FAILURE() << "no fault";
-    return {};
-}
-
 TEST(Multifoto, OnAPictureOneRowHighLeavesTheNextProgressADivisionByZero)
 {
     for (auto* const effect : {Specchio, Super, Infer, Destro, Incentro}) {
         EffectRun run({"abc"});
         run.Apply(Multifoto);
         EXPECT_EQ(run.work.Alt, 0);
-        EXPECT_EQ(FaultOf(run, effect), FaultKind::DivisionByZero);
+        EXPECT_EQ(FaultIn([&] { run.Apply(effect); }), FaultKind::DivisionByZero);
         EXPECT_EQ(run.progress.shownAfter, 0);
         EXPECT_EQ(run.Result(), Letters{"abc"});
     }
@@ -129,7 +118,7 @@ TEST(Multifoto, OnAPictureOneRowHighMakesTheCaptureOfSinistroFailBeforeTheWindow
 {
     EffectRun run({"abc"});
     run.Apply(Multifoto);
-    EXPECT_EQ(FaultOf(run, Sini), FaultKind::DivisionByZero);
+    EXPECT_EQ(FaultIn([&] { run.Apply(Sini); }), FaultKind::DivisionByZero);
     EXPECT_EQ(run.progress.shownAfter, -1);
 }
 
@@ -137,7 +126,7 @@ TEST(Multifoto, WorksAgainAfterAFaultAndANewPicture)
 {
     EffectRun run({"abc"});
     run.Apply(Multifoto);
-    EXPECT_EQ(FaultOf(run, Specchio), FaultKind::DivisionByZero);
+    EXPECT_EQ(FaultIn([&] { run.Apply(Specchio); }), FaultKind::DivisionByZero);
     run.Load(Drawn({"abcd", "efgh"}));
     EXPECT_EQ(run.Apply(Multifoto).Result(), (Letters{"abcd", "efhf"}));
     EXPECT_EQ(run.Apply(Specchio).Result(), (Letters{"dcba", "fhfe"}));
