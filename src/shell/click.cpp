@@ -7,6 +7,7 @@
 #include "shell/menu_table.h"
 #include "shell/opening.h"
 #include "shell/palette_commands.h"
+#include "shell/pasting.h"
 #include "shell/saving.h"
 #include "shell/start_end.h"
 
@@ -86,6 +87,8 @@ void ConnectEvents(Session& s)
     QObject::connect(&s.form1, &Form1::Clicked, [&s](int index) { Click(s, index); });
     QObject::connect(&s.form1, &Form1::Dropped, opensDropped);
     QObject::connect(&s.form2.Picture1(), &PictureBox::Dropped, opensDropped);
+    QObject::connect(&s.form1, &Form1::Pasted,
+                     [&s] { Run(s, "Incolla", FaultEnds::Command, [&] { OpenPasted(s); }); });
     QObject::connect(&s.form4, &Form4::Closed,
                      [&s] { Run(s, "Anteprima", FaultEnds::Command, [&] { Form4_Unload(s); }); });
     s.form1.mayClose = AskingFirst(s, "Esci", FaultEnds::Program, Form_Unload);

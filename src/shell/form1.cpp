@@ -33,6 +33,9 @@ Form1::Form1()
     AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z), entry::Undo);
     AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y), entry::Redo);
     AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), entry::Orig);
+    auto* const paste = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_V), this);
+    paste->setContext(Qt::ApplicationShortcut);
+    connect(paste, &QShortcut::activated, this, &Form1::Pasted);
     constexpr int Width = 520;
     setFixedSize(std::max(Width, menuBar()->sizeHint().width()), menuBar()->sizeHint().height());
 }

@@ -34,6 +34,8 @@ class Form1 : public QMainWindow {
     void Clicked(int index);
     /// The picture file at `path` was dropped onto the window.
     void Dropped(const QString& path);
+    /// What lies in the clipboard is to be opened.
+    void Pasted();
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -6,6 +6,7 @@
 #include "shell/menu_table.h"
 #include "shell/opening.h"
 #include "shell/places.h"
+#include "shell/recovery.h"
 #include "shell/working_pictures.h"
 
 namespace pixano {
@@ -66,7 +67,10 @@ void Undo_Click(Session& s)
     });
     d.InOriginale = 0;
     d.Annullato = 1;
-    PassingOverErrors([&] { ShowWorkingPicture(s, d.FileUndo); });
+    PassingOverErrors([&] {
+        ShowWorkingPicture(s, d.FileUndo);
+        NoteCanvasCopy(s, d.FileUndo);
+    });
     s.form2.setWindowTitle(EffectCaption(s));
     d.NomeSalvato.clear();
 }
@@ -84,6 +88,7 @@ void Redo_Click(Session& s)
                             .originale = true,
                             .ripristina = false});
     ShowWorkingPicture(s, file::Redo);
+    NoteCanvasCopy(s, file::Redo);
     s.form2.setWindowTitle(EffectCaption(s));
     d.InOriginale = 0;
     d.Annullato = 0;

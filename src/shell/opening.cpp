@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -36,6 +37,16 @@ class ModifiedUntilOpened {
     Document& doc_;
     int modified_;
 };
+
+/// The preview starts in the lower right corner, where neither canvas nor palette covers it.
+void PlaceBesidePalette(QWidget& preview, const QWidget& palette)
+{
+    constexpr QPoint Frame(8, 34);
+    const QRect free = preview.screen()->availableGeometry();
+    const QPoint corner(std::min(palette.x(), free.right()), free.bottom());
+    const QPoint place = corner - QPoint(preview.width(), preview.height()) - Frame;
+    preview.move(std::max(place.x(), free.left()), std::max(place.y(), free.top()));
+}
 
 void OpenAsNew(Session& s, const QString& name, Surface picture)
 {
@@ -107,7 +118,8 @@ void Open(Session& s, AskName askName)
 void Apri_Click(Session& s)
 {
     Open(s, [&](const QString& remembered) {
-        return s.dialogs.AskOpenName(QFileInfo(remembered).path());
+        return s.dialogs.AskOpenName(remembered.isEmpty() ? s.doc.firstFolder
+                                                          : QFileInfo(remembered).path());
     });
 }
 
@@ -149,6 +161,7 @@ void Carica(Session& s, Surface picture)
     s.form9.Image1().SetStretch(false);
     s.form9.Image1().SetPicture(w.Picture1);
     s.form9.SetInside({Pixels(w.Larg * PreviewWidth), Pixels(w.Alt * PreviewHeight)});
+    if (!s.form9.isVisible()) PlaceBesidePalette(s.form9, s.form10);
     s.form9.show();
     BringForward(s.form10);
     BringForward(s.form1);

@@ -3,6 +3,7 @@
 #include "pictures/picture_files.h"
 #include "shell/commands.h"
 #include "shell/places.h"
+#include "shell/recovery.h"
 
 #include <QDateTime>
 
@@ -19,6 +20,7 @@ QString KeepUnsavedWork(const Session& s)
         const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
         const QString path = DataFolder() + "/lavoro-" + stamp + ".bmp";
         SaveBitmap(s.work.Picture1, path.toStdString());
+        ForgetCanvasCopy();
         return "\n\nIl lavoro non salvato è stato conservato nel file " + path;
     } catch (const std::exception& error) {
         return "\n\nIl lavoro non salvato non è stato conservato: " +
@@ -60,6 +62,7 @@ void Run(Session& s, const QString& name, FaultEnds ends, const std::function<vo
     if (s.busy) return;
     s.busy = true;
     RunInside(s, name, ends, command);
+    if (s.doc.Modificato == 0) ForgetCanvasCopy();
     s.form2.Picture1().update();
     s.busy = false;
 }

@@ -2,6 +2,7 @@
 
 #include "shell/captions.h"
 #include "shell/places.h"
+#include "shell/recovery.h"
 #include "shell/working_pictures.h"
 #include "windows/twips.h"
 #include "windows/window_operation.h"
@@ -17,6 +18,7 @@ void Mostra(Session& s)
     constexpr double TwipsPerRow = 16.4;
     SaveWorkingPicture(s.work.Picture1, file::PreviewCopy);
     s.doc.previewCopied = true;
+    NoteCanvasCopy(s, file::PreviewCopy);
     ImageControl& image = s.form9.Image1();
     image.SetPicture(LoadWorkingPicture(file::PreviewCopy, s.work.Picture1));
     s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);

@@ -3,19 +3,24 @@
 #include "canvas/fault.h"
 #include "shell/commands.h"
 #include "shell/opening.h"
+#include "shell/options.h"
 #include "shell/places.h"
+#include "shell/recovery.h"
 #include "shell/screen_dialogs.h"
 #include "shell/start_end.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QLockFile>
+#include <QStandardPaths>
 #include <QTranslator>
 
 #include <csignal>
+#include <cstdio>
 
 namespace pixano {
 namespace {
@@ -34,16 +39,44 @@ QIcon ProgramIcon()
     return icon;
 }
 
-int RunSession(ScreenDialogs& dialogs, const QStringList& arguments)
+/// Started from the desktop's menu there is no folder that the user chose: the program works in its
+/// data folder, and keeps the strengths there from one run to the next.
+void WorkInDataFolder(Document& doc)
+{
+    const QString folder = DataFolder();
+    const QString strengths = folder + '/' + file::Strengths;
+    if (!QFile::exists(strengths) &&
+        QFile::copy(doc.CartellaProgramma + '/' + file::Strengths, strengths))
+        QFile::setPermissions(strengths, QFile::ReadOwner | QFile::WriteOwner);
+    QDir::setCurrent(folder);
+    doc.CartellaProgramma = folder;
+    doc.firstFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
+int RunSession(ScreenDialogs& dialogs, const Options& options)
 {
     Session session(dialogs);
     ConnectEvents(session);
-    Run(session, "Avvio", FaultEnds::Program, [&] { Form_Load(session); });
-    if (!session.ending && arguments.size() > 1) {
-        const QString path = QDir().absoluteFilePath(arguments.at(1));
-        Run(session, "Apri", FaultEnds::Command, [&] { OpenNamed(session, path); });
-    }
+    // Relative to the folder that the user is in, whichever one the program works in.
+    const QString picture =
+        options.picture.isEmpty() ? QString() : QDir().absoluteFilePath(options.picture);
+    Run(session, "Avvio", FaultEnds::Program, [&] {
+        if (options.fromMenu) WorkInDataFolder(session.doc);
+        Form_Load(session);
+        OfferRecovery(session);
+    });
+    if (!session.ending && !picture.isEmpty())
+        Run(session, "Apri", FaultEnds::Command, [&] { OpenNamed(session, picture); });
     return session.ending ? *session.ending : QApplication::exec();
+}
+
+int RunAlone(ScreenDialogs& dialogs, const Options& options)
+{
+    QLockFile lock(DataFolder() + "/pixano.lock");
+    lock.setStaleLockTime(0);
+    if (lock.tryLock()) return RunSession(dialogs, options);
+    dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
+    return 1;
 }
 
 }  // namespace
@@ -65,17 +98,21 @@ void PrepareApplication(QApplication& application)
 int StartProgram(int argc, char* argv[])
 {
     SurviveSizeLimits();
+    // These answers need no screen, so they come before the application does.
+    if (const char* const answer = AnswerWithoutScreen(argc, argv)) {
+        std::fputs(answer, stdout);
+        return 0;
+    }
     QApplication application(argc, argv);
     PrepareApplication(application);
+    const std::optional<Options> options = OptionsFrom(QApplication::arguments());
+    if (!options) {
+        std::fputs(UsageText, stderr);
+        return 2;
+    }
     ScreenDialogs dialogs;
     try {
-        QLockFile lock(DataFolder() + "/pixano.lock");
-        lock.setStaleLockTime(0);
-        if (!lock.tryLock()) {
-            dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
-            return 1;
-        }
-        return RunSession(dialogs, QApplication::arguments());
+        return RunAlone(dialogs, *options);
     } catch (const Fault& fault) {
         dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
         return 1;

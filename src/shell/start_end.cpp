@@ -50,6 +50,7 @@ void Form_Load(Session& s)
 {
     PlaceMainWindow(s.form1);
     s.doc.CartellaAvvio = QDir::currentPath();
+    if (s.doc.firstFolder.isEmpty()) s.doc.firstFolder = s.doc.CartellaAvvio;
     s.form1.show();
     Form6 opening;
     opening.exec();
@@ -66,6 +67,8 @@ bool Form_Unload(Session& s)
     // Only now is it certain that the history is needed no more.
     KillWorkingPicture(file::Undo);
     KillWorkingPicture(file::Redo);
+    for (const QString& name : s.doc.pasted)
+        KillWorkingPicture(name);
     if (s.doc.previewCopied) KillWorkingPicture(file::PreviewCopy);
     EndProgram(s, 0);
     return true;

@@ -1,0 +1,60 @@
+#include "shell/options.h"
+
+#include <QUrl>
+
+#include <string_view>
+
+namespace pixano {
+namespace {
+
+constexpr const char* VersionText = "Pixano 2.3\n";
+
+/// A file URL as a path; everything else as it is.
+QString PathOf(const QString& argument)
+{
+    if (!argument.startsWith("file:", Qt::CaseInsensitive)) return argument;
+    const QUrl url(argument);
+    return url.isLocalFile() ? url.toLocalFile() : argument;
+}
+
+}  // namespace
+
+const char* const UsageText = "Uso: pixano [--da-menu] [--] [FIGURA]\n"
+                              "\n"
+                              "Applica effetti particolari a figure BMP, JPEG e GIF.\n"
+                              "\n"
+                              "  FIGURA       la figura da aprire (anche come URL file:)\n"
+                              "  --da-menu    lavora nella cartella dei dati dell'utente\n"
+                              "  --aiuto      mostra questo testo\n"
+                              "  --versione   mostra la versione\n";
+
+const char* AnswerWithoutScreen(int argc, char* argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--") break;
+        if (argument == "--aiuto" || argument == "--help" || argument == "-h") return UsageText;
+        if (argument == "--versione" || argument == "--version") return VersionText;
+    }
+    return nullptr;
+}
+
+std::optional<Options> OptionsFrom(const QStringList& arguments)
+{
+    Options options;
+    bool namesOnly = false;
+    for (const QString& argument : arguments.mid(1)) {
+        if (!namesOnly && argument == "--") {
+            namesOnly = true;
+        } else if (!namesOnly && argument == "--da-menu") {
+            options.fromMenu = true;
+        } else if ((!namesOnly && argument.startsWith('-')) || !options.picture.isEmpty()) {
+            return std::nullopt;
+        } else {
+            options.picture = PathOf(argument);
+        }
+    }
+    return options;
+}
+
+}  // namespace pixano

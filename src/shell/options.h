@@ -1,0 +1,26 @@
+// The command line of the windowed program.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace pixano {
+
+struct Options {
+    QString picture;        ///< path of the picture to be opened; empty for none
+    bool fromMenu = false;  ///< started from the desktop's menu
+};
+
+/// How the program is called, in Italian.
+extern const char* const UsageText;
+
+/// The answer to "--aiuto" or "--versione", if one of them stands before a "--"; nullptr otherwise.
+const char* AnswerWithoutScreen(int argc, char* argv[]);
+
+/// The options in the arguments, the program's name first; nothing when they cannot be understood.
+/// The picture may be given as a file URL.
+std::optional<Options> OptionsFrom(const QStringList& arguments);
+
+}  // namespace pixano

@@ -1,0 +1,12 @@
+// Opening what lies in the clipboard.
+#pragma once
+
+#include "shell/session.h"
+
+namespace pixano {
+
+/// Opens the picture file, or the picture, in the clipboard, as if it had been chosen in the open
+/// dialog; does nothing when there is neither. Throws Fault FileAccess.
+void OpenPasted(Session& s);
+
+}  // namespace pixano
