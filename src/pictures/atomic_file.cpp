@@ -114,6 +114,9 @@ void AtomicFile::Commit()
     if (document && fsync(file_.Number()) != 0) throw Refusal(SystemReason(errno));
     if (!file_.Close()) throw Refusal(SystemReason(errno));
     const int folder = folder_.Number();
+    // Some file systems write out a file that takes another's place at once, which takes as long as
+    // all the rest. A working file is worth nothing after a crash.
+    if (!document) unlinkat(folder, name_.c_str(), 0);
     if (renameat(folder, temporary_.c_str(), folder, name_.c_str()) != 0)
         throw Refusal(SystemReason(errno));
     temporary_.clear();

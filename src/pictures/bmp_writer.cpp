@@ -40,13 +40,17 @@ std::array<std::byte, HeaderSize> Header(const Surface& surface, std::size_t str
     return header;
 }
 
-/// Writes the row's pixels as blue, green, red. One byte after the last is overwritten.
+/// Writes the row's pixels as blue, green, red.
 void StoreRow(std::span<const std::uint32_t> row, std::byte* bytes)
 {
-    for (const std::uint32_t pixel : row) {
+    // Four bytes are stored at once: the fourth is the next pixel's, but behind the last.
+    for (const std::uint32_t pixel : row.first(row.size() - 1)) {
         Store32(bytes, ByteSwapped(pixel) >> 8);
         bytes += 3;
     }
+    const std::uint32_t last = ByteSwapped(row.back()) >> 8;
+    Store16(bytes, static_cast<std::uint16_t>(last));
+    bytes[2] = static_cast<std::byte>(last >> 16);
 }
 
 }  // namespace
@@ -55,18 +59,20 @@ void EncodeBmp(const Surface& surface, ByteSink& sink)
 {
     const std::size_t used = static_cast<std::size_t>(surface.Width()) * 3;
     const std::size_t stride = (used + 3) / 4 * 4;
+    const int rowsInBlock = static_cast<int>(std::max<std::size_t>(1, BlockSize / stride));
+    std::vector<std::byte> block(static_cast<std::size_t>(rowsInBlock) * stride);
     Put(sink, Header(surface, stride));
-    const std::size_t rowsInBlock = std::max<std::size_t>(1, BlockSize / stride);
-    std::vector<std::byte> block(rowsInBlock * stride + 1);
-    std::size_t filled = 0;
-    for (int y = surface.Height() - 1; y >= 0; --y) {
-        std::byte* const row = block.data() + filled;
-        StoreRow(surface.Row(y), row);
-        std::fill(row + used, row + stride, std::byte{0});
-        filled += stride;
-        if (filled < rowsInBlock * stride && y > 0) continue;
-        Put(sink, {block.data(), filled});
-        filled = 0;
+    for (int bottom = surface.Height(); bottom > 0; bottom -= rowsInBlock) {
+        const int top = std::max(0, bottom - rowsInBlock);
+        const std::size_t size = static_cast<std::size_t>(bottom - top) * stride;
+        std::byte* row = block.data() + size;
+        // The surface is read downwards, as memory likes it; the block is filled upwards.
+        for (int y = top; y < bottom; ++y) {
+            row -= stride;
+            StoreRow(surface.Row(y), row);
+            std::fill(row + used, row + stride, std::byte{0});
+        }
+        Put(sink, {block.data(), size});
     }
 }
 

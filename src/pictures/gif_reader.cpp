@@ -14,32 +14,40 @@
 namespace pixano {
 namespace {
 
-/// Hands giflib the file's bytes. Once it reads a frame's data, a file that ends too early looks as
-/// if its last block were as short as what is left of it, and as if the frame ended there: so
-/// giflib gives every pixel that the file has.
+/// Hands giflib the file's bytes. Within a frame's data, a file that ends too early looks as if its
+/// last block were as short as what is left of it, and as if the frame ended there: so giflib gives
+/// every pixel that the file has.
 class GifBytes {
   public:
     explicit GifBytes(ByteSource& source) : source_(source) {}
-    void EnterFrameData() { inFrameData_ = true; }
+
+    /// From here on giflib reads a block's length, the block, the next one's length...
+    void EnterFrameData() { lengthIsNext_ = inFrameData_ = true; }
+
     static int Read(GifFileType* gif, GifByteType* into, int count)
     {
-        GifBytes& bytes = *static_cast<GifBytes*>(gif->UserData);
-        const auto wanted = static_cast<std::size_t>(count);
-        const std::size_t got = bytes.source_.Read(std::as_writable_bytes(std::span(into, wanted)));
-        if (bytes.inFrameData_ && count == 1) bytes.ShortenBlock(*into, got);
-        return static_cast<int>(bytes.inFrameData_ && count == 1 ? 1 : got);
+        return static_cast<GifBytes*>(gif->UserData)->Read({into, static_cast<std::size_t>(count)});
     }
 
   private:
-    /// Only a block's length is read as a single byte.
+    int Read(std::span<GifByteType> into)
+    {
+        const std::size_t got = source_.Read(std::as_writable_bytes(into));
+        if (!inFrameData_) return static_cast<int>(got);
+        if (lengthIsNext_) ShortenBlock(into.front(), got);
+        lengthIsNext_ = !lengthIsNext_;
+        return static_cast<int>(into.size());
+    }
+
     void ShortenBlock(GifByteType& length, std::size_t got)
     {
-        if (got == 0) length = 0;
-        length = static_cast<GifByteType>(std::min<std::uint64_t>(length, source_.Remaining()));
+        const std::uint64_t most = got == 0 ? 0 : source_.Remaining();
+        length = static_cast<GifByteType>(std::min<std::uint64_t>(length, most));
     }
 
     ByteSource& source_;
     bool inFrameData_ = false;
+    bool lengthIsNext_ = false;
 };
 
 struct CloseGif {

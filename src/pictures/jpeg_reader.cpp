@@ -70,9 +70,8 @@ class JpegReader {
         present_ = height;
         Run([this] { jpeg_start_decompress(&jpeg_); });
         Run([this, &canvas] { ReadRows(canvas); });
-        const bool truncated =
-            present_ < height || (source_.Ended() && jpeg_has_multiple_scans(&jpeg_));
-        return {canvas.Finish(present_), truncated};
+        const bool scansMissing = source_.Ended() && jpeg_has_multiple_scans(&jpeg_) != FALSE;
+        return {canvas.Finish(present_), truncated_ || scansMissing};
     }
 
   private:
@@ -100,14 +99,15 @@ class JpegReader {
         }
     }
 
-    /// The file's end cuts the first scan: below the row of blocks that is being read nothing is
-    /// known.
+    /// The picture ends within a scan. If that is the first one, nothing is known below the row of
+    /// blocks that is being read.
     static void NoteWarning(j_common_ptr common, int code)
     {
         JpegReader& reader = Of(common);
         const jpeg_decompress_struct& jpeg = reader.jpeg_;
-        if (code != JWRN_HIT_MARKER || !reader.source_.Ended() || jpeg.input_scan_number > 1)
-            return;
+        if (code != JWRN_HIT_MARKER || jpeg.unread_marker != JPEG_EOI) return;
+        reader.truncated_ = true;
+        if (jpeg.input_scan_number > 1) return;
         const int blockRow = jpeg.max_v_samp_factor * DCTSIZE;
         const int begun = (static_cast<int>(jpeg.input_iMCU_row) + 1) * blockRow;
         reader.present_ = std::min(reader.present_, begun);
@@ -128,6 +128,7 @@ class JpegReader {
     jpeg_decompress_struct jpeg_{};
     /// How many rows the file has data for.
     int present_ = 0;
+    bool truncated_ = false;
 };
 
 }  // namespace

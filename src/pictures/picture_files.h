@@ -20,7 +20,8 @@ class PictureError : public std::runtime_error {
 
 struct PictureRead {
     Surface picture;
-    /// The file ended before all pixels were there; the missing ones show `Background`.
+    /// The file ended before all pixels were there; the missing ones show `Background`. (In a JPEG,
+    /// those right of the last block that is there are grey; a progressive one may just be coarse.)
     bool truncated = false;
 };
 

@@ -76,6 +76,7 @@ void NoteCanvasCopy(const Session& s, const QString& name)
     try {
         QSaveFile note(NotePath());
         if (!note.open(QIODevice::WriteOnly)) return;
+        note.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
         const QString copy = QDir::current().absoluteFilePath(NativePath(name));
         note.write((copy + '\n' + s.doc.FileAperto + '\n').toUtf8());
         note.commit();

@@ -1,0 +1,231 @@
+// Uncompressed BMP files of every kind, spelt out by hand.
+#include "pictures/bmp_maker.h"
+
+#include <gtest/gtest.h>
+
+namespace pixano::test {
+namespace {
+
+constexpr Colour Red = Rgb(255, 0, 0);
+constexpr Colour Green = Rgb(0, 255, 0);
+constexpr Colour Blue = Rgb(0, 0, 255);
+
+/// Blue, green, red, filler: the colours of these tests as four-byte palette entries.
+const Bytes RedGreenBlueWhite{0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0, 255, 255, 255, 0};
+
+Colours ReadColours(const Bytes& file)
+{
+    const PictureRead read = file.Read();
+    EXPECT_FALSE(read.truncated);
+    return ColoursOf(read.picture);
+}
+
+TEST(BmpRows, TrueColourBottomUpWithPadding)
+{
+    // Rows of two pixels take six bytes and two of padding; the lower row comes first.
+    const Bytes pixels{3, 2, 1, 6, 5, 4, 99, 99, 9, 8, 7, 12, 11, 10, 99, 99};
+    EXPECT_EQ(ReadColours(Bmp({.width = 2, .height = 2}, {}, pixels)),
+              (Colours{Rgb(7, 8, 9), Rgb(10, 11, 12), Rgb(1, 2, 3), Rgb(4, 5, 6)}));
+}
+
+TEST(BmpRows, NegativeHeightIsTopDown)
+{
+    const Bytes pixels{3, 2, 1, 0, 6, 5, 4, 0};
+    EXPECT_EQ(ReadColours(Bmp({.width = 1, .height = -2}, {}, pixels)),
+              (Colours{Rgb(1, 2, 3), Rgb(4, 5, 6)}));
+}
+
+TEST(BmpRows, OneBitPixelsFromTheHighBitOn)
+{
+    // 1011 0000 1: nine pixels, two bytes and two of padding.
+    const Bytes palette{0, 0, 255, 0, 255, 0, 0, 0};
+    const Bytes pixels{0xB0, 0x80, 0, 0};
+    EXPECT_EQ(ReadColours(Bmp({.width = 9, .bits = 1}, palette, pixels)),
+              (Colours{Blue, Red, Blue, Blue, Red, Red, Red, Red, Blue}));
+}
+
+TEST(BmpRows, TwoBitPixels)
+{
+    // 00 01 10 11 | 10
+    EXPECT_EQ(ReadColours(Bmp({.width = 5, .bits = 2}, RedGreenBlueWhite, {0x1B, 0x80, 0, 0})),
+              (Colours{Red, Green, Blue, White, Blue}));
+}
+
+TEST(BmpRows, FourBitPixels)
+{
+    EXPECT_EQ(ReadColours(Bmp({.width = 3, .bits = 4, .colours = 4}, RedGreenBlueWhite,
+                              {0x31, 0x20, 0, 0})),
+              (Colours{White, Green, Blue}));
+}
+
+TEST(BmpRows, EightBitPixels)
+{
+    EXPECT_EQ(
+        ReadColours(Bmp({.width = 3, .bits = 8, .colours = 4}, RedGreenBlueWhite, {2, 1, 3, 0})),
+        (Colours{Blue, Green, White}));
+}
+
+TEST(BmpRows, AnIndexWithoutColourIsBlack)
+{
+    EXPECT_EQ(
+        ReadColours(Bmp({.width = 2, .bits = 8, .colours = 4}, RedGreenBlueWhite, {4, 255, 0, 0})),
+        (Colours{0, 0}));
+}
+
+TEST(BmpRows, APaletteEndsWherePixelsBegin)
+{
+    // The head speaks of 256 colours; only three are there. Index 3 is no colour made of pixels.
+    const Bytes palette{0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0};
+    EXPECT_EQ(ReadColours(Bmp({.width = 4, .bits = 8}, palette, {0, 1, 2, 3})),
+              (Colours{Red, Green, Blue, 0}));
+}
+
+TEST(BmpRows, APaletteLongerThanItCanBe)
+{
+    Bytes palette = RedGreenBlueWhite;
+    palette.Zeros(300 * 4 - palette.Size());
+    EXPECT_EQ(ReadColours(Bmp({.width = 4, .bits = 8, .colours = 300}, palette, {0, 1, 2, 3})),
+              (Colours{Red, Green, Blue, White}));
+}
+
+TEST(BmpRows, PixelsBeginWhereTheHeadSays)
+{
+    const Bytes extra = Bytes(RedGreenBlueWhite).Add({77, 77, 77});
+    EXPECT_EQ(ReadColours(Bmp({.width = 4, .bits = 8, .colours = 4}, extra, {3, 2, 1, 0})),
+              (Colours{White, Blue, Green, Red}));
+}
+
+TEST(BmpRows, AnOffsetOfZeroMeansBehindThePalette)
+{
+    const BmpHead head{.width = 4, .bits = 8, .colours = 4, .offset = 0};
+    EXPECT_EQ(ReadColours(Bmp(head, RedGreenBlueWhite, {3, 2, 1, 0})),
+              (Colours{White, Blue, Green, Red}));
+}
+
+TEST(BmpRows, FirstOs2HeaderHasThreeByteColours)
+{
+    const Bytes palette{0, 0, 255, 0, 255, 0};
+    EXPECT_EQ(ReadColours(Bmp({.size = 12, .width = 3, .bits = 1}, palette, {0x40, 0, 0, 0})),
+              (Colours{Red, Green, Red}));
+}
+
+TEST(BmpRows, SecondOs2HeaderMayBeCutAnywhere)
+{
+    for (const std::uint32_t size : {16U, 24U, 36U})
+        EXPECT_EQ(ReadColours(Bmp({.size = size, .width = 2, .bits = 2}, RedGreenBlueWhite,
+                                  {0x40, 0, 0, 0})),
+                  (Colours{Green, Red}))
+            << size;
+    const Bytes rest = Bytes().Zeros(24).Add(RedGreenBlueWhite);
+    EXPECT_EQ(ReadColours(Bmp({.size = 64, .width = 2, .bits = 2}, rest, {0x40, 0, 0, 0})),
+              (Colours{Green, Red}));
+}
+
+TEST(BmpRows, LongWindowsHeaders)
+{
+    for (const std::uint32_t size : {52U, 56U, 108U, 124U}) {
+        const Bytes rest = Bytes().Zeros(size - 40).Add(RedGreenBlueWhite);
+        EXPECT_EQ(ReadColours(Bmp({.size = size, .width = 2, .bits = 2}, rest, {0x40, 0, 0, 0})),
+                  (Colours{Green, Red}))
+            << size;
+    }
+}
+
+TEST(BmpRows, SixteenBitsAreFiveEach)
+{
+    // Five bits v become v * 255 / 31 to the nearest: 31 is 255, 1 is 8.2, 16 is 131.6, 15 is
+    // 123.4.
+    const Bytes pixels = Bytes().U16(0x7FFF).U16(1 << 10 | 16 << 5 | 15).U16(0x8000).U16(0);
+    EXPECT_EQ(ReadColours(Bmp({.width = 3, .bits = 16}, {}, pixels)),
+              (Colours{White, Rgb(8, 132, 123), 0}));
+}
+
+TEST(BmpRows, SixteenBitsByMasks)
+{
+    // Six bits v become v * 255 / 63 to the nearest: 1 is 4.05, 33 is 133.57.
+    const Bytes masks = Bytes().U32(0xF800).U32(0x07E0).U32(0x001F);
+    const Bytes pixels = Bytes().U16(0xFFFF).U16(1 << 5).U16(33 << 5).U16(0);
+    EXPECT_EQ(ReadColours(Bmp({.width = 3, .bits = 16, .compression = 3}, masks, pixels)),
+              (Colours{White, Rgb(0, 4, 0), Rgb(0, 134, 0)}));
+}
+
+TEST(BmpRows, ThirtyTwoBitsIgnoreTheFourthByte)
+{
+    EXPECT_EQ(ReadColours(Bmp({.width = 2, .bits = 32}, {}, {3, 2, 1, 0, 6, 5, 4, 255})),
+              (Colours{Rgb(1, 2, 3), Rgb(4, 5, 6)}));
+}
+
+TEST(BmpRows, ThirtyTwoBitsByByteMasksInAnyOrder)
+{
+    const Bytes masks = Bytes().U32(0x0000FF00).U32(0xFF000000).U32(0x000000FF);
+    EXPECT_EQ(ReadColours(Bmp({.bits = 32, .compression = 3}, masks, {30, 10, 99, 20})),
+              (Colours{Rgb(10, 20, 30)}));
+}
+
+TEST(BmpRows, ThirtyTwoBitsByTenBitMasks)
+{
+    // Ten bits v become v * 255 / 1023: 1023 is 255, 512 is 127.6, 2 is 0.4985, 3 is 0.7478.
+    const Bytes masks = Bytes().U32(0x3FF00000).U32(0x000FFC00).U32(0x000003FF);
+    const Bytes pixels = Bytes().U32(1023U << 20 | 512 << 10 | 2).U32(3U << 20 | 0xC0000000);
+    EXPECT_EQ(ReadColours(Bmp({.width = 2, .bits = 32, .compression = 3}, masks, pixels)),
+              (Colours{Rgb(255, 128, 0), Rgb(1, 0, 0)}));
+}
+
+TEST(BmpRows, AMaskOfAllBitsAndAnEmptyOne)
+{
+    const Bytes masks = Bytes().U32(0xFFFFFFFF).U32(0).U32(1);
+    const Bytes pixels = Bytes().U32(0xFFFFFFFF).U32(0x80000000);
+    // 2^31 * 255 / (2^32 - 1) is 127.50000003.
+    EXPECT_EQ(ReadColours(Bmp({.width = 2, .bits = 32, .compression = 3}, masks, pixels)),
+              (Colours{Rgb(255, 0, 255), Rgb(128, 0, 0)}));
+}
+
+TEST(BmpRows, MasksInsideTheHeaderAndWithAlpha)
+{
+    const Bytes masks = Bytes().U32(0xFF).U32(0xFF00).U32(0xFF0000);
+    EXPECT_EQ(ReadColours(Bmp({.size = 52, .bits = 32, .compression = 3}, masks, {1, 2, 3, 4})),
+              (Colours{Rgb(1, 2, 3)}));
+    const Bytes withAlpha = Bytes(masks).U32(0xFF000000);
+    EXPECT_EQ(ReadColours(Bmp({.size = 56, .bits = 32, .compression = 3}, withAlpha, {1, 2, 3, 0})),
+              (Colours{Rgb(1, 2, 3)}));
+    EXPECT_EQ(ReadColours(Bmp({.bits = 32, .compression = 6}, withAlpha, {1, 2, 3, 0})),
+              (Colours{Rgb(1, 2, 3)}));
+}
+
+TEST(BmpRows, MissingPixelsShowTheBackground)
+{
+    // Two rows of three pixels, 12 bytes each; of the upper row one pixel and a half are left.
+    const Bytes whole = Bmp({.width = 3, .height = 2}, {}, {1, 1, 1, 2, 2, 2, 3, 3, 3, 0, 0, 0,
+                                                            4, 4, 4, 5, 5, 5, 6, 6, 6, 0, 0, 0});
+    const PictureRead read = whole.Without(8).Read();
+    EXPECT_TRUE(read.truncated);
+    EXPECT_EQ(ColoursOf(read.picture), (Colours{Rgb(4, 4, 4), Background, Background, Rgb(1, 1, 1),
+                                                Rgb(2, 2, 2), Rgb(3, 3, 3)}));
+}
+
+TEST(BmpRows, MissingPaddingIsNoLoss)
+{
+    const Bytes whole = Bmp({.width = 1, .height = 1}, {}, {3, 2, 1, 0});
+    EXPECT_EQ(ReadColours(whole.Without(1)), (Colours{Rgb(1, 2, 3)}));
+    EXPECT_TRUE(whole.Without(2).Read().truncated);
+}
+
+TEST(BmpRows, MoreRowsThanOneBlockHolds)
+{
+    // 700 rows of 401 pixels are 842 kB; each pixel tells its place.
+    constexpr int Width = 401;
+    constexpr int Height = 700;
+    Bytes pixels;
+    for (int y = Height - 1; y >= 0; --y) {
+        for (int x = 0; x < Width; ++x)
+            pixels.Add({x & 255, x >> 8 | y >> 8 << 4, y & 255});
+        pixels.Zeros(1);
+    }
+    const Surface picture = Bmp({.width = Width, .height = Height}, {}, pixels).Read().picture;
+    for (int y = 0; y < Height; ++y)
+        for (int x = 0; x < Width; ++x)
+            ASSERT_EQ(picture.Point(x, y), Rgb(y & 255, x >> 8 | y >> 8 << 4, x & 255));
+}
+
+}  // namespace
+}  // namespace pixano::test
