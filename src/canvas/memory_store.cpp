@@ -14,11 +14,11 @@ class Memory : public PixelFile::Store {
 
     Window Create() override
     {
-        chunks_.clear();
-        return AddChunk();
+        used_ = 0;
+        return NextChunk();
     }
 
-    Window Append(Colour* /*end*/) override { return AddChunk(); }
+    Window Append(Colour* /*end*/) override { return NextChunk(); }
 
     void Finish(Colour* end) override { end_ = end; }
 
@@ -26,30 +26,34 @@ class Memory : public PixelFile::Store {
 
     Window Next() override
     {
-        if (reading_ == chunks_.size()) throw Fault(FaultKind::InputPastEnd);
+        if (reading_ == used_) throw Fault(FaultKind::InputPastEnd);
         Colour* const first = chunks_[reading_].get();
         ++reading_;
-        Colour* const last = reading_ == chunks_.size() ? end_ : first + ChunkLength;
+        Colour* const last = reading_ == used_ ? end_ : first + ChunkLength;
         if (first == last) throw Fault(FaultKind::InputPastEnd);
         return {first, last};
     }
 
     void Close() override {}
 
-    void Kill() override { chunks_.clear(); }
+    void Kill() override { used_ = 0; }
 
   private:
     /// Chunks never move: growing one long array would copy it and hold it twice meanwhile.
     static constexpr std::size_t ChunkLength = std::size_t{1} << 18;
 
-    Window AddChunk()
+    Window NextChunk()
     {
-        chunks_.push_back(std::make_unique_for_overwrite<Colour[]>(ChunkLength));
-        Colour* const first = chunks_.back().get();
+        if (used_ == chunks_.size())
+            chunks_.push_back(std::make_unique_for_overwrite<Colour[]>(ChunkLength));
+        Colour* const first = chunks_[used_].get();
+        ++used_;
         return {first, first + ChunkLength};
     }
 
+    /// Kept for the next file: memory that the system gives afresh costs more than writing to it.
     std::vector<std::unique_ptr<Colour[]>> chunks_;
+    std::size_t used_ = 0;
     Colour* end_ = nullptr;
     std::size_t reading_ = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "canvas/fault.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace pixano {
@@ -13,6 +14,17 @@ void PixelFile::OpenForOutput()
     next_ = window_.first;
     mode_ = Mode::Output;
     made_ = true;
+}
+
+void PixelFile::Write(std::span<const std::uint32_t> pixels)
+{
+    while (!pixels.empty()) {
+        if (next_ == window_.last) Flush();
+        const auto room = static_cast<std::size_t>(window_.last - next_);
+        const auto now = pixels.first(std::min(pixels.size(), room));
+        next_ = std::ranges::transform(now, next_, Surface::ColourOf).out;
+        pixels = pixels.subspan(now.size());
+    }
 }
 
 void PixelFile::Close()

@@ -4,7 +4,9 @@
 
 #include "canvas/surface.h"
 
+#include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 
 namespace pixano {
@@ -47,14 +49,18 @@ class PixelFile {
     /// Adds one value. Throws DiskFull.
     void Write(Colour value)
     {
-        if (next_ == window_.last) Flush();
+        if (next_ == window_.last) [[unlikely]]
+            Flush();
         *next_++ = value;
     }
+    /// Adds the colours of a surface's pixels. Throws DiskFull.
+    void Write(std::span<const std::uint32_t> pixels);
     /// Reads the next value; the first call opens the file. Throws InputPastEnd, TypeMismatch,
     /// Overflow, FileNotFound or FileAccess.
     Colour Input()
     {
-        if (next_ == window_.last) Refill();
+        if (next_ == window_.last) [[unlikely]]
+            Refill();
         return *next_++;
     }
     /// Closes the file; what was written is complete afterwards. Throws DiskFull.
@@ -68,8 +74,8 @@ class PixelFile {
 
     /// Closes the file without completing what was written: it is replaced or deleted next.
     void Abandon();
-    void Flush();
-    void Refill();
+    [[gnu::cold]] void Flush();
+    [[gnu::cold]] void Refill();
 
     std::unique_ptr<Store> store_;
     Store::Window window_;

@@ -5,10 +5,9 @@
 namespace pixano {
 
 Surface::Surface(int width, int height, Colour colour)
-    : width_(width),
-      height_(height),
-      pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
-              static_cast<std::uint32_t>(colour) | Opaque)
+    : width_(static_cast<std::size_t>(width)),
+      height_(static_cast<std::size_t>(height)),
+      pixels_(width_ * height_, static_cast<std::uint32_t>(colour) | Opaque)
 {
 }
 

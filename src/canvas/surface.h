@@ -28,13 +28,13 @@ class Surface {
     /// A surface of `width` by `height` pixels (0 or more each), all of one colour.
     Surface(int width, int height, Colour colour = Background);
 
-    int Width() const { return width_; }
-    int Height() const { return height_; }
+    int Width() const { return static_cast<int>(width_); }
+    int Height() const { return static_cast<int>(height_); }
 
     /// The colour at (x, y), or `Outside`.
     Colour Point(int x, int y) const
     {
-        return Inside(x, y) ? static_cast<Colour>(pixels_[Offset(x, y)] & ColourMask) : Outside;
+        return Inside(x, y) ? ColourOf(pixels_[Offset(x, y)]) : Outside;
     }
     Colour Point(float x, float y) const { return Point(Nearest(x), Nearest(y)); }
     Colour Point(double x, double y) const = delete;
@@ -53,11 +53,10 @@ class Surface {
 
     /// Row `y` (0 to Height() - 1) as it lies in memory: one 32-bit word a pixel, the colour in the
     /// low three bytes, &HFF in the high one.
-    std::span<std::uint32_t> Row(int y) { return {&pixels_[Offset(0, y)], RowLength()}; }
-    std::span<const std::uint32_t> Row(int y) const
-    {
-        return {&pixels_[Offset(0, y)], RowLength()};
-    }
+    std::span<std::uint32_t> Row(int y) { return {&pixels_[Offset(0, y)], width_}; }
+    std::span<const std::uint32_t> Row(int y) const { return {&pixels_[Offset(0, y)], width_}; }
+    /// The colour in such a word.
+    static Colour ColourOf(std::uint32_t pixel) { return static_cast<Colour>(pixel & ColourMask); }
     /// The rows from the top, without gaps.
     const std::uint32_t* Pixels() const { return pixels_.data(); }
 
@@ -71,16 +70,12 @@ class Surface {
     bool Inside(int x, int y) const
     {
         // One unsigned comparison tells negative places too.
-        return static_cast<unsigned>(x) < static_cast<unsigned>(width_) &&
-               static_cast<unsigned>(y) < static_cast<unsigned>(height_);
+        return static_cast<unsigned>(x) < width_ && static_cast<unsigned>(y) < height_;
     }
     std::size_t Offset(int x, int y) const
     {
-        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-               static_cast<std::size_t>(x);
+        return static_cast<std::size_t>(y) * width_ + static_cast<std::size_t>(x);
     }
-    std::size_t RowLength() const { return static_cast<std::size_t>(width_); }
-
     /// The nearest whole number, a half going down; -1 (outside) where no pixel can be meant.
     static int Nearest(float coordinate)
     {
@@ -91,8 +86,9 @@ class Surface {
         return truncated + (lowered > truncated ? 1 : 0);
     }
 
-    int width_ = 0;
-    int height_ = 0;
+    /// Wider than a pixel, so that no painted pixel can be mistaken for a side that changed.
+    std::size_t width_ = 0;
+    std::size_t height_ = 0;
     std::vector<std::uint32_t> pixels_;
 };
 
