@@ -71,7 +71,9 @@ int StartProgram(int argc, char* argv[])
     try {
         QLockFile lock(DataFolder() + "/pixano.lock");
         lock.setStaleLockTime(0);
-        if (!lock.tryLock()) {
+        if (!lock.tryLock() && lock.error() != QLockFile::LockFailedError)
+            throw Fault(FaultKind::FileAccess, lock.fileName().toStdString());
+        if (!lock.isLocked()) {
             dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
             return 1;
         }
