@@ -5,7 +5,8 @@ namespace {
 
 QString WithSize(const Session& s, const QString& name)
 {
-    return QString("%1   %2x%3").arg(name).arg(s.work.Larg).arg(s.work.Alt);
+    // The name is put in front, not filled in: it may hold what looks like a place to be filled.
+    return name + QString("   %1x%2").arg(s.work.Larg).arg(s.work.Alt);
 }
 
 }  // namespace

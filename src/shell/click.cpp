@@ -86,7 +86,7 @@ void ConnectEvents(Session& s)
     };
     QObject::connect(&s.form1, &Form1::Clicked, [&s](int index) { Click(s, index); });
     QObject::connect(&s.form1, &Form1::Dropped, opensDropped);
-    QObject::connect(&s.form2.Picture1(), &PictureBox::Dropped, opensDropped);
+    QObject::connect(&s.form2, &Form2::Dropped, opensDropped);
     QObject::connect(&s.form1, &Form1::Pasted,
                      [&s] { Run(s, "Incolla", FaultEnds::Command, [&] { OpenPasted(s); }); });
     QObject::connect(&s.form4, &Form4::Closed,

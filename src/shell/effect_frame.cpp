@@ -43,7 +43,9 @@ void RunEffect(Session& s, const Effect& effect)
         QString::fromUtf8(effect.name.data(), static_cast<qsizetype>(effect.name.size()));
     s.doc.FileUndo = file::Undo;
     SaveWorkingPicture(s.work.Picture1, s.doc.FileUndo);
+    s.drawing = true;
     effect.run(s.work);
+    s.drawing = false;
     s.work.ElabSer.Kill();
     Close(s, effect.closing);
 }
@@ -51,7 +53,8 @@ void RunEffect(Session& s, const Effect& effect)
 void Form4_Unload(Session& s)
 {
     s.progress.Unloaded();
-    Mostra(s);
+    // A window that a fault left open can outlive the document: there is nothing to show then.
+    if (s.doc.open) Mostra(s);
     s.form10.EnableHistory({.annulla = s.doc.NumEffetti > 1 ? Switch(true) : std::nullopt,
                             .originale = true,
                             .ripristina = std::nullopt});

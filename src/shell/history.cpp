@@ -47,6 +47,7 @@ void Abil(Session& s)
     if (d.NumEffetti > 1) s.form1.Enable(entry::Undo, true);
     s.form1.Enable(entry::Orig, true);
     s.form1.Enable(entry::Redo, false);
+    s.form10.EnableHistory({.annulla = {}, .originale = {}, .ripristina = false});
     s.form10.ShowHourglass(true);
     d.InOriginale = 0;
     d.Annullato = 0;
@@ -94,6 +95,23 @@ void Redo_Click(Session& s)
     d.Annullato = 0;
 }
 
+/// The picture as it was opened, read again. Unsaved changes could not come back onto a picture of
+/// another size, so one that was replaced by such a picture counts as unreadable for them. Throws
+/// PictureError.
+Surface ReadOriginal(const Session& s)
+{
+    const Document& d = s.doc;
+    // After the same picture was chosen again `NomeFile` is empty; the picture is still open.
+    const QString& name = d.NomeFile.isEmpty() ? d.FileAperto : d.NomeFile;
+    Surface picture = ReadPicture(name.toStdString()).picture;
+    const Surface& canvas = s.work.Picture1;
+    if (d.Modificato == 1 &&
+        (picture.Width() != canvas.Width() || picture.Height() != canvas.Height()))
+        throw PictureError("La figura nel file «" + name.toStdString() +
+                           "» ora ha un'altra misura");
+    return picture;
+}
+
 void Orig_Click(Session& s)
 {
     Document& d = s.doc;
@@ -114,14 +132,13 @@ void Orig_Click(Session& s)
     d.NumEffetti = 0;
     QString unreadable;
     try {
-        // After the same picture was chosen again `NomeFile` is empty; the picture is still open.
-        const QString& name = d.NomeFile.isEmpty() ? d.FileAperto : d.NomeFile;
-        Surface picture = ReadPicture(name.toStdString()).picture;
+        Surface picture = ReadOriginal(s);
         Show(s, picture);
         Estrai(s, d.FileAperto,
                d.Modificato == 0 ? std::optional(std::move(picture)) : std::nullopt);
     } catch (const PictureError& error) {
         unreadable = QString::fromUtf8(error.what());
+        Estrai(s, d.FileAperto, std::nullopt);
     }
     s.form2.setWindowTitle(PictureCaption(s));
     if (unreadable.isEmpty())

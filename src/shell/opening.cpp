@@ -69,7 +69,6 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
     const bool same = s.doc.open && name == s.doc.FileAperto;
     if (same && answer == Answer::No) {
         s.doc.NomeFile.clear();
-        QDir::setCurrent(s.doc.CartellaAvvio);
         return;
     }
     std::optional<PictureRead> read;
@@ -80,8 +79,10 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
                            "Il file " + name + " è incompleto: mancano alcuni pixel.");
     }
     RememberPath(s.doc, name);
-    QDir::setCurrent(s.doc.CartellaAvvio);
-    if (!read) return;
+    if (!read) {
+        s.doc.NomeFile = name;
+        return;
+    }
     modified.Done();
     OpenAsNew(s, name, std::move(read->picture));
 }
@@ -111,6 +112,7 @@ void Open(Session& s, AskName askName)
     } catch (const PictureError& error) {
         s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, QString::fromUtf8(error.what()) + '.');
     }
+    QDir::setCurrent(d.CartellaAvvio);
 }
 
 }  // namespace

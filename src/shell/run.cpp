@@ -4,6 +4,7 @@
 #include "shell/commands.h"
 #include "shell/places.h"
 #include "shell/recovery.h"
+#include "shell/working_pictures.h"
 
 #include <QDateTime>
 
@@ -12,14 +13,19 @@
 namespace pixano {
 namespace {
 
-/// Unsaved work as a BMP in the data folder; what to tell the user about it.
+/// Unsaved work, without what a failed effect has drawn, as a BMP in the data folder; what to tell
+/// the user about it.
 QString KeepUnsavedWork(const Session& s)
 {
     if (s.doc.Modificato == 0) return {};
     try {
         const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
         const QString path = DataFolder() + "/lavoro-" + stamp + ".bmp";
-        SaveBitmap(s.work.Picture1, path.toStdString());
+        const Surface& canvas = s.work.Picture1;
+        if (s.drawing)
+            SaveBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), path.toStdString());
+        else
+            SaveBitmap(canvas, path.toStdString());
         ForgetCanvasCopy();
         return "\n\nIl lavoro non salvato è stato conservato nel file " + path;
     } catch (const std::exception& error) {
@@ -61,6 +67,7 @@ void Run(Session& s, const QString& name, FaultEnds ends, const std::function<vo
 {
     if (s.busy) return;
     s.busy = true;
+    s.drawing = false;
     RunInside(s, name, ends, command);
     if (s.doc.Modificato == 0) ForgetCanvasCopy();
     s.form2.Picture1().update();

@@ -1,5 +1,7 @@
 #include "shell/screen_dialogs.h"
 
+#include "panels/centred.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -42,6 +44,11 @@ class YesNoBox : public QMessageBox {
             event->ignore();
         else
             QMessageBox::closeEvent(event);
+    }
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        if (windowTitle().isEmpty()) ShowNoTitle(*this);
     }
 };
 

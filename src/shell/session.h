@@ -32,6 +32,8 @@ struct Session {
 
     /// A command is running: whatever else the user starts meanwhile is ignored.
     bool busy = false;
+    /// An effect is drawing: the canvas is unfinished, its snapshot holds the picture before.
+    bool drawing = false;
     /// The status that the program ends with, once it is to end.
     std::optional<int> ending;
 };

@@ -75,6 +75,8 @@ int RunAlone(ScreenDialogs& dialogs, const Options& options)
     QLockFile lock(DataFolder() + "/pixano.lock");
     lock.setStaleLockTime(0);
     if (lock.tryLock()) return RunSession(dialogs, options);
+    if (lock.error() != QLockFile::LockFailedError)
+        throw Fault(FaultKind::FileAccess, lock.fileName().toStdString());
     dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
     return 1;
 }

@@ -41,7 +41,9 @@ bool CloseDocument(Session& s)
 bool SaveBeforeTheEnd(Session& s)
 {
     if (s.doc.NomeSalvato.isEmpty()) return SalvaFile(s) != SaveOutcome::Failed;
-    return SaveCanvas(s, s.doc.NomeSalvato);
+    if (!SaveCanvas(s, s.doc.NomeSalvato)) return false;
+    s.doc.Modificato = 0;
+    return true;
 }
 
 }  // namespace
@@ -60,10 +62,14 @@ void Form_Load(Session& s)
 bool Form_Unload(Session& s)
 {
     if (s.doc.Modificato == 1) {
-        const bool save = AskToSave(s, BoxIcon::Exclamation, title::Notice);
-        if (save && !SaveBeforeTheEnd(s)) return false;
-        s.doc.Modificato = 0;
+        if (!AskToSave(s, BoxIcon::Exclamation, title::Notice))
+            s.doc.Modificato = 0;
+        else if (!SaveBeforeTheEnd(s))
+            return false;
     }
+    // The canvas closes next, and asks about changes that are still unsaved: once more, after a
+    // cancelled save dialog.
+    if (!CloseDocument(s)) return false;
     // Only now is it certain that the history is needed no more.
     KillWorkingPicture(file::Undo);
     KillWorkingPicture(file::Redo);

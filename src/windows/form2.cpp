@@ -15,7 +15,6 @@ PictureBox::PictureBox(const Surface& surface) : surface_(surface)
     setObjectName("Picture1");
     setAccessibleName("Figura");
     setFrameStyle(static_cast<int>(QFrame::WinPanel) | static_cast<int>(QFrame::Sunken));
-    setAcceptDrops(true);
     FitPicture();
 }
 
@@ -38,22 +37,24 @@ void PictureBox::mousePressEvent(QMouseEvent* /*event*/)
     emit Clicked();
 }
 
-void PictureBox::dragEnterEvent(QDragEnterEvent* event)
-{
-    AcceptPictureDrag(*event);
-}
-
-void PictureBox::dropEvent(QDropEvent* event)
-{
-    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
-}
-
 Form2::Form2(const Surface& surface) : HeldWindow(new PictureBox(surface))
 {
     picture1_ = static_cast<PictureBox*>(widget());
     setObjectName("Form2");
     setAccessibleName("Figura elaborata");
+    // The window's inside is larger than the picture, and takes what is dropped on either.
+    viewport()->setAcceptDrops(true);
     connect(picture1_, &PictureBox::Clicked, this, [this] { BringForward(*this); });
+}
+
+void Form2::dragEnterEvent(QDragEnterEvent* event)
+{
+    AcceptPictureDrag(*event);
+}
+
+void Form2::dropEvent(QDropEvent* event)
+{
+    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
 }
 
 }  // namespace pixano

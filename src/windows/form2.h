@@ -24,13 +24,10 @@ class PictureBox : public QFrame {
 
   signals:
     void Clicked();
-    void Dropped(const QString& path);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
   private:
     const Surface& surface_;
@@ -43,6 +40,14 @@ class Form2 : public HeldWindow {
     explicit Form2(const Surface& surface);
 
     PictureBox& Picture1() { return *picture1_; }
+
+  signals:
+    /// The picture file at `path` was dropped onto the window.
+    void Dropped(const QString& path);
+
+  protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     PictureBox* picture1_;
