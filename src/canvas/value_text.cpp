@@ -93,15 +93,15 @@ bool TakeNumber(const char*& at, Colour*& out)
            TakeDigits<2>(at, out) || TakeDigits<1>(at, out);
 }
 
+/// The same with a minus in front.
 bool TakeNegative(const char*& at, Colour*& out)
 {
+    constexpr std::ptrdiff_t LongestNegative = 9;
     if (*at != '-') return false;
-    ++at;
-    if (!TakeNumber(at, out)) {
-        --at;
-        return false;
-    }
-    out[-1] = -out[-1];
+    const auto [end, error] = std::from_chars(at, at + LongestNegative, *out);
+    if (error != std::errc() || std::memcmp(end, "\r\n", 2) != 0) return false;
+    ++out;
+    at = end + 2;
     return true;
 }
 
