@@ -21,18 +21,20 @@ double Timed(Call&& call)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// Runs the row's iterations: `prepare` and `compared` outside its time, `measured` inside. The
-/// counter `ratio` says how many times `compared` the row takes; of both the shortest time counts,
-/// the one least disturbed. Gives that of the row, in seconds.
-template <typename Prepare, typename Compared, typename Measured>
+/// Runs the row's iterations: `prepare`, `compared` and `between` outside its time, `measured`
+/// inside. The counter `ratio` says how many times `compared` the row takes; of both the shortest
+/// time counts, the one least disturbed. Gives that of the row, in seconds.
+template <typename Prepare, typename Compared, typename Measured,
+          typename Between = decltype([] {})>
 double Measure(benchmark::State& state, const char* ratio, Prepare prepare, Compared compared,
-               Measured measured)
+               Measured measured, Between between = {})
 {
     double own = std::numeric_limits<double>::max();
     double other = own;
     for ([[maybe_unused]] auto turn : state) {
         prepare();
         other = std::min(other, Timed(compared));
+        between();
         const double seconds = Timed(measured);
         own = std::min(own, seconds);
         state.SetIterationTime(seconds);

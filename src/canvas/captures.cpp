@@ -4,13 +4,24 @@
 
 namespace pixano {
 
+namespace {
+
+/// The pixels of row `y` in the columns 0 to `last`, as many as the surface has.
+std::span<const std::uint32_t> PixelsOf(const Surface& surface, int y, int last)
+{
+    if (y >= surface.Height()) return {};
+    return surface.Row(y).first(static_cast<std::size_t>(std::min(last + 1, surface.Width())));
+}
+
+}  // namespace
+
 void Cattura(Work& w)
 {
     w.ElabSer.OpenForOutput();
     for (int y = 0; y <= w.Alt; ++y) {
-        const int inside = y < w.Picture1.Height() ? std::min(w.Larg + 1, w.Picture1.Width()) : 0;
-        if (inside > 0) w.ElabSer.Write(w.Picture1.Row(y).first(static_cast<std::size_t>(inside)));
-        for (int x = inside; x <= w.Larg; ++x)
+        const auto pixels = PixelsOf(w.Picture1, y, w.Larg);
+        w.ElabSer.Write(pixels);
+        for (int x = static_cast<int>(pixels.size()); x <= w.Larg; ++x)
             w.ElabSer.Write(Outside);
     }
     w.ElabSer.Close();
@@ -27,9 +38,15 @@ void CatturaMez(Work& w)
 
 void CattuVett(Work& w)
 {
-    for (int y = 0; y <= w.Alt; ++y)
-        for (int x = 0; x <= w.Larg; ++x)
-            w.Vettore(x, y) = w.Picture1.Point(x, y);
+    const int last = std::min(w.Larg, Matrix::LastIndex);
+    for (int y = 0; y <= w.Alt; ++y) {
+        const auto cells = w.Vettore.Row(y).first(static_cast<std::size_t>(last + 1));
+        const auto pixels = PixelsOf(w.Picture1, y, last);
+        std::ranges::transform(pixels, cells.begin(), Surface::ColourOf);
+        std::ranges::fill(cells.subspan(pixels.size()), Outside);
+        // The first column that does not fit is the fault.
+        if (last < w.Larg) w.Vettore(last + 1, y) = Outside;
+    }
 }
 
 }  // namespace pixano

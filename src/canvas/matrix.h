@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <memory>
 #include <new>
+#include <span>
 
 namespace pixano {
 
@@ -24,6 +25,9 @@ class Matrix {
             throw Fault(FaultKind::SubscriptOutOfRange);
         return cells_[static_cast<std::size_t>(row) * Side + static_cast<std::size_t>(column)];
     }
+
+    /// The cells of that row, column by column. Throws SubscriptOutOfRange outside 0 to 1500.
+    std::span<Colour> Row(int row) { return {&(*this)(0, row), Side}; }
 
   private:
     static constexpr std::size_t Side = LastIndex + 1;

@@ -19,7 +19,8 @@ inline double Int(double value)
 /// does not fit.
 inline std::int32_t CLng(double value)
 {
-    if (!(value > -2147483649.0 && value < 2147483648.0)) throw Fault(FaultKind::Overflow);
+    constexpr double Limit = 0x1p31 + 0.5;  // what lies beyond cannot fit, and is no long for sure
+    if (!(std::fabs(value) <= Limit)) throw Fault(FaultKind::Overflow);
     const long rounded = std::lrint(value);
     if (rounded != static_cast<std::int32_t>(rounded)) throw Fault(FaultKind::Overflow);
     return static_cast<std::int32_t>(rounded);

@@ -34,7 +34,8 @@ class Surface {
     /// The colour at (x, y), or `Outside`.
     Colour Point(int x, int y) const
     {
-        return Inside(x, y) ? ColourOf(pixels_[Offset(x, y)]) : Outside;
+        const std::uint32_t* const pixels = pixels_.data();
+        return Inside(x, y) ? ColourOf(pixels[Offset(x, y)]) : Outside;
     }
     Colour Point(float x, float y) const { return Point(Nearest(x), Nearest(y)); }
     Colour Point(double x, double y) const = delete;
@@ -43,7 +44,8 @@ class Surface {
     /// A place outside the surface is ignored.
     void PSet(int x, int y, Colour colour)
     {
-        if (Inside(x, y)) pixels_[Offset(x, y)] = static_cast<std::uint32_t>(colour) | Opaque;
+        std::uint32_t* const pixels = pixels_.data();
+        if (Inside(x, y)) pixels[Offset(x, y)] = static_cast<std::uint32_t>(colour) | Opaque;
     }
     void PSet(float x, float y, Colour colour) { PSet(Nearest(x), Nearest(y), colour); }
     void PSet(double x, double y, Colour colour) = delete;
@@ -69,8 +71,11 @@ class Surface {
 
     bool Inside(int x, int y) const
     {
-        // One unsigned comparison tells negative places too.
-        return static_cast<unsigned>(x) < width_ && static_cast<unsigned>(y) < height_;
+        // Both sides are looked up at once, so that a loop over a row can do it before it starts.
+        const std::size_t width = width_;
+        const std::size_t height = height_;
+        // Unsigned comparisons tell negative places too.
+        return static_cast<unsigned>(x) < width && static_cast<unsigned>(y) < height;
     }
     std::size_t Offset(int x, int y) const
     {
@@ -80,10 +85,9 @@ class Surface {
     static int Nearest(float coordinate)
     {
         constexpr float Limit = 1 << 24;  // far outside any surface, still exact in an int
-        if (!(coordinate > -1.0F && coordinate < Limit)) return -1;
-        const double lowered = static_cast<double>(coordinate) - 0.5;
-        const int truncated = static_cast<int>(lowered);
-        return truncated + (lowered > truncated ? 1 : 0);
+        if (!(coordinate > -0.5F && coordinate < Limit)) return -1;
+        const int truncated = static_cast<int>(coordinate);
+        return truncated + (coordinate - static_cast<float>(truncated) > 0.5F ? 1 : 0);
     }
 
     /// Wider than a pixel, so that no painted pixel can be mistaken for a side that changed.

@@ -29,21 +29,26 @@ class Text : public PixelFile::Store {
         if (!file_) throw Fault(FaultKind::FileAccess, name_);
         std::setvbuf(file_.get(), nullptr, _IONBF, 0);
         PrepareBuffers();
+        unwritten_ = 0;
         return {values_.data(), values_.data() + ValuesPerWindow};
     }
 
     Window Append(Colour* end) override
     {
-        const char* textEnd = FormatLines({values_.data(), end}, text_.data());
-        const auto length = static_cast<std::size_t>(textEnd - text_.data());
-        if (std::fwrite(text_.data(), 1, length, file_.get()) != length)
-            throw Fault(FaultKind::DiskFull, name_);
+        char* const unwritten = text_.data() + unwritten_;
+        unwritten_ =
+            static_cast<std::size_t>(FormatLines({values_.data(), end}, unwritten) - text_.data());
+        // Whole pages: a page written in two parts costs the system almost twice.
+        const std::size_t whole = unwritten_ / PageLength * PageLength;
+        WriteOut(whole);
+        std::memmove(text_.data(), text_.data() + whole, unwritten_);
         return {values_.data(), values_.data() + ValuesPerWindow};
     }
 
     void Finish(Colour* end) override
     {
         Append(end);
+        WriteOut(unwritten_);
         if (std::fclose(file_.release()) != 0) throw Fault(FaultKind::DiskFull, name_);
     }
 
@@ -83,8 +88,9 @@ class Text : public PixelFile::Store {
     }
 
   private:
-    static constexpr std::size_t ValuesPerWindow = 1 << 14;
-    static constexpr std::size_t TextLength = ValuesPerWindow * LongestLine;
+    static constexpr std::size_t ValuesPerWindow = 1 << 15;
+    static constexpr std::size_t PageLength = 4096;
+    static constexpr std::size_t TextLength = PageLength + ValuesPerWindow * LongestLine;
 
     struct CloseFile {
         void operator()(std::FILE* file) const { std::fclose(file); }
@@ -94,6 +100,14 @@ class Text : public PixelFile::Store {
     {
         values_.resize(ValuesPerWindow);
         text_.resize(TextLength);
+    }
+
+    /// Writes the text's first `length` characters.
+    void WriteOut(std::size_t length)
+    {
+        if (std::fwrite(text_.data(), 1, length, file_.get()) != length)
+            throw Fault(FaultKind::DiskFull, name_);
+        unwritten_ -= length;
     }
 
     /// The value at the start of the unread text, which is no plain line: read on, or read it by
@@ -131,6 +145,8 @@ class Text : public PixelFile::Store {
     std::unique_ptr<std::FILE, CloseFile> file_;
     std::vector<Colour> values_;
     std::vector<char> text_;
+    /// How many characters at the start of the text are still to be written.
+    std::size_t unwritten_ = 0;
     std::string_view unread_;
     bool atEnd_ = false;
 };

@@ -17,59 +17,106 @@ static_assert(std::endian::native == std::endian::little, "digits are handled as
 
 using FourDigits = std::array<char, 4>;
 
-constexpr auto DigitTable = [] {
-    std::array<FourDigits, 10000> table{};
-    for (int n = 0; n < 10000; ++n)
-        table[static_cast<std::size_t>(n)] = {
-            static_cast<char>('0' + n / 1000), static_cast<char>('0' + n / 100 % 10),
+constexpr FourDigits DigitsOf(std::uint32_t n)
+{
+    return {static_cast<char>('0' + n / 1000), static_cast<char>('0' + n / 100 % 10),
             static_cast<char>('0' + n / 10 % 10), static_cast<char>('0' + n % 10)};
+}
+
+/// The last four digits of a number.
+constexpr auto Tails = [] {
+    std::array<FourDigits, 10000> table{};
+    for (std::uint32_t n = 0; n < table.size(); ++n)
+        table[n] = DigitsOf(n);
     return table;
 }();
 
-/// Eight digits with leading zeros, as one word in text order. `value` is below 100,000,000.
-std::uint64_t EightDigits(std::uint32_t value)
-{
-    std::array<FourDigits, 2> digits{DigitTable[value / 10000], DigitTable[value % 10000]};
-    return std::bit_cast<std::uint64_t>(digits);
-}
+/// The digits before the last four, without leading zeros.
+struct Head {
+    FourDigits digits;
+    std::uint32_t count;
+};
+
+/// As many as the largest colour has.
+constexpr auto Heads = [] {
+    std::array<Head, White / Tails.size() + 1> table{};
+    for (std::uint32_t n = 0; n < table.size(); ++n) {
+        const FourDigits digits = DigitsOf(n);
+        std::uint32_t zeros = 0;
+        while (zeros < digits.size() && digits[zeros] == '0')
+            ++zeros;
+        for (std::uint32_t i = zeros; i < digits.size(); ++i)
+            table[n].digits[i - zeros] = digits[i];
+        table[n].count = static_cast<std::uint32_t>(digits.size()) - zeros;
+    }
+    return table;
+}();
 
 constexpr std::uint64_t EachByte(std::uint8_t byte)
 {
     return 0x0101010101010101U * byte;
 }
 
-/// How many of the eight characters, from the first, are digits.
-int LeadingDigits(std::uint64_t eight)
+/// The number that eight digits make, one a byte, the first one the most significant.
+std::uint32_t NumberOf(std::uint64_t digits)
 {
-    const std::uint64_t distance = eight ^ EachByte('0');
-    // A byte is a digit when neither it nor it plus 6 reaches the upper half.
-    const std::uint64_t others = ((distance + EachByte(6)) | distance) & EachByte(0xF0);
-    return std::countr_zero(others) / 8;
-}
-
-/// The number that eight digit characters spell, the first one the most significant.
-std::uint32_t Spelled(std::uint64_t eight)
-{
-    eight -= EachByte('0');
-    eight = eight * 10 + (eight >> 8);
+    digits = digits * 10 + (digits >> 8);
     constexpr std::uint64_t Mask = 0x000000FF000000FFU;
     constexpr std::uint64_t Upper = 100 + (1000000ULL << 32);
     constexpr std::uint64_t Lower = 1 + (10000ULL << 32);
-    return static_cast<std::uint32_t>(((eight & Mask) * Upper + ((eight >> 16) & Mask) * Lower) >>
+    return static_cast<std::uint32_t>(((digits & Mask) * Upper + ((digits >> 16) & Mask) * Lower) >>
                                       32);
+}
+
+/// Takes the line at `at` if it is `Count` digits and CR LF.
+template <std::size_t Count>
+bool TakeDigits(const char*& at, Colour*& out)
+{
+    if (std::memcmp(at + Count, "\r\n", 2) != 0) return false;
+    std::uint64_t digits = 0;
+    std::memcpy(&digits, at, sizeof digits);
+    // What follows the digits is pushed out; zeros come in before them.
+    digits = (digits ^ EachByte('0')) << (8 * (sizeof digits - Count));
+    // A byte is a digit when neither it nor it plus 6 reaches the upper half.
+    if ((((digits + EachByte(6)) | digits) & EachByte(0xF0)) != 0) return false;
+    *out++ = static_cast<Colour>(NumberOf(digits));
+    at += Count + 2;
+    return true;
+}
+
+/// Takes the line at `at` if it is one to eight digits and CR LF. Most colours have seven or eight,
+/// and neighbours as many as each other: the processor guesses which, and starts with the next line
+/// before this one is read.
+bool TakeNumber(const char*& at, Colour*& out)
+{
+    return TakeDigits<8>(at, out) || TakeDigits<7>(at, out) || TakeDigits<6>(at, out) ||
+           TakeDigits<5>(at, out) || TakeDigits<4>(at, out) || TakeDigits<3>(at, out) ||
+           TakeDigits<2>(at, out) || TakeDigits<1>(at, out);
+}
+
+/// The same with a minus in front.
+bool TakeNegative(const char*& at, Colour*& out)
+{
+    constexpr std::ptrdiff_t LongestNegative = 9;
+    if (*at != '-') return false;
+    const auto [end, error] = std::from_chars(at, at + LongestNegative, *out);
+    if (error != std::errc() || std::memcmp(end, "\r\n", 2) != 0) return false;
+    ++out;
+    at = end + 2;
+    return true;
 }
 
 char* AppendLine(Colour value, char* text)
 {
-    if (value >= 0 && value < 100000000) {
-        const auto digits = EightDigits(static_cast<std::uint32_t>(value));
-        const std::uint64_t significant = (digits ^ EachByte('0')) | (std::uint64_t{1} << 56);
-        const int zeros = std::countr_zero(significant) / 8;
-        const std::uint64_t shifted = digits >> (8 * zeros);
-        std::memcpy(text, &shifted, sizeof shifted);
-        text += 8 - zeros;
-    } else {
+    const auto number = static_cast<std::uint32_t>(value);
+    const std::uint32_t head = number / Tails.size();
+    if (head - 1 >= Heads.size() - 1) {  // four digits or less, or no colour
         text = std::to_chars(text, text + LongestLine, value).ptr;
+    } else {
+        std::memcpy(text, &Heads[head].digits, sizeof(FourDigits));
+        text += Heads[head].count;
+        std::memcpy(text, &Tails[number % Tails.size()], sizeof(FourDigits));
+        text += sizeof(FourDigits);
     }
     std::memcpy(text, "\r\n", 2);
     return text + 2;
@@ -110,25 +157,12 @@ char* FormatLines(std::span<const Colour> values, char* text)
 
 Colour* ParseLines(std::string_view& text, std::span<Colour> values)
 {
+    if (text.size() < LongestLine) return values.data();
     const char* at = text.data();
-    const char* const safeEnd = at + text.size() - (text.size() < LongestLine ? 0 : LongestLine);
+    const char* const safeEnd = at + text.size() - LongestLine;
     Colour* out = values.data();
     Colour* const outEnd = out + values.size();
-    if (text.size() < LongestLine) return out;
-    while (at <= safeEnd && out != outEnd) {
-        const bool negative = *at == '-';
-        const char* const digits = at + (negative ? 1 : 0);
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, digits, sizeof eight);
-        const int count = LeadingDigits(eight);
-        if (count == 0 || std::memcmp(digits + count, "\r\n", 2) != 0) break;
-        // Push the digits to the word's end; the places before them become zeros.
-        const int missing = 8 * (8 - count);
-        const std::uint64_t padding = missing == 0 ? 0 : EachByte('0') >> (64 - missing);
-        const auto value =
-            static_cast<Colour>(Spelled((missing == 0 ? eight : eight << missing) | padding));
-        *out++ = negative ? -value : value;
-        at = digits + count + 2;
+    while (at <= safeEnd && out != outEnd && (TakeNumber(at, out) || TakeNegative(at, out))) {
     }
     text.remove_prefix(static_cast<std::size_t>(at - text.data()));
     return out;
