@@ -15,6 +15,12 @@ test_packages=(
     clang-format clang-tidy cppcheck
 )
 
+# What making and checking the Debian package needs on top of the first list.
+package_packages=(
+    dpkg-dev file gzip
+    lintian desktop-file-utils appstream man-db groff-base bash-completion
+)
+
 # Ends the script: says why.
 fail() {
     printf '%s\n' "$@" >&2
