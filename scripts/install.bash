@@ -13,6 +13,15 @@ test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb openbox xdotool imagemagick x11-utils
     clang-format clang-tidy cppcheck
+    bash-completion
+)
+
+# What making the Debian package needs on top of the first list.
+package_packages=(dpkg-dev file)
+# What checking it needs on top of that.
+package_test_packages=(
+    lintian desktop-file-utils appstream man-db groff-base mmdebstrap bash-completion
+    xvfb openbox xdotool imagemagick x11-utils
 )
 
 # Ends the script: says why.

@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# The Debian package on a new Debian: apt brings what it depends on, and nothing else is there. Needs the
+# archive of Debian packages.
+# Usage: clean_root.sh PROJECT
+# shellcheck source-path=SCRIPTDIR
+set -euo pipefail
+
+project=$1
+# shellcheck source=../../scripts/install.bash
+. "$project/scripts/install.bash"
+install_missing "${package_test_packages[@]}"
+package=$("$project/package" | tail -n 1)
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+chmod 755 "$folder"
+
+# An archive that holds this one package.
+mkdir "$folder/archive"
+cp "$package" "$folder/archive"
+(cd "$folder/archive" && dpkg-scanpackages --multiversion . >Packages 2>/dev/null)
+
+codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
+export PIXANO_PROJECT=$project
+mmdebstrap --quiet --variant=apt --include=pixano \
+    --aptopt='APT::Install-Recommends "false"' \
+    --customize-hook="$project/tests/packaging/in_clean_root.sh" \
+    "$codename" "$folder/root.tar" \
+    "deb http://deb.debian.org/debian $codename main" \
+    "deb [trusted=yes] copy:$folder/archive ./"
