@@ -7,7 +7,6 @@
 #include "shell/places.h"
 #include "shell/showing.h"
 
-#include <QCoreApplication>
 #include <QTimer>
 
 namespace pixano {
@@ -22,7 +21,7 @@ QString NameOf(const Effect& effect)
 /// exactly.
 void ReadStrength(Session& s, Form11& window)
 {
-    const QString path = QCoreApplication::applicationDirPath() + '/' + file::Strengths;
+    const QString path = s.programFolder + '/' + file::Strengths;
     s.work.Valori = {};
     LeggiValori(path.toStdString(), s.work.Valori);
     window.ShowStrength(s.work.Strength());
