@@ -3,30 +3,88 @@
 #include "windows/twips.h"
 #include "windows/window_operation.h"
 
-#include <QGridLayout>
+#include <QFontInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
+
 namespace pixano {
+
 namespace {
 
 /// The palette stands this far from the right edge of the screen, and is no wider.
 constexpr double FromRightEdge = 3250;
-/// What a window manager's border is taken to be, left and right together.
+/// What a window manager's frame is taken to be: left and right together, top and bottom together.
 constexpr int Borders = 8;
+constexpr int TitleAndBorder = 30;
 constexpr int Margin = 4;
 constexpr int Spacing = 3;
+constexpr int BesideCaption = 6;
+/// How many buttons of each box stand side by side.
+constexpr std::array PerRow{3, 4, 2, 2};
+
+constexpr int InsideWidth()
+{
+    return static_cast<int>(FromRightEdge / TwipsPerPixel) - Borders;
+}
 
 void Apply(const QWidget& palette, const char* name, Switch on)
 {
     if (on) palette.findChild<QPushButton*>(name)->setEnabled(*on);
 }
 
+QWidget* Frame(const QString& caption)
+{
+    auto* const box = new QGroupBox(caption);
+    box->setObjectName("Frame" + caption.trimmed());
+    return box;
+}
+
+/// Lays the buttons out in rows of `perRow`; those of a last, shorter row become wider.
+void LayInRows(QWidget& box, int perRow, int margin)
+{
+    const auto buttons = box.findChildren<QPushButton*>(Qt::FindDirectChildrenOnly);
+    auto* const rows = new QVBoxLayout(&box);
+    rows->setContentsMargins(margin, margin, margin, margin);
+    rows->setSpacing(Spacing);
+    QHBoxLayout* row = nullptr;
+    for (qsizetype i = 0; i < buttons.size(); ++i) {
+        if (i % perRow == 0) {
+            row = new QHBoxLayout;
+            rows->addLayout(row);
+        }
+        row->addWidget(buttons[i], 1);
+    }
+}
+
+/// Gives all buttons of the box the width that the widest of them needs at least.
+void WidenToCaptions(const QWidget& box)
+{
+    const auto buttons = box.findChildren<QPushButton*>(Qt::FindDirectChildrenOnly);
+    int widest = 0;
+    for (const QPushButton* const button : buttons)
+        widest = std::max({widest, button->fontMetrics().horizontalAdvance(button->text()),
+                           button->iconSize().width()});
+    for (QPushButton* const button : buttons)
+        button->setMinimumWidth(widest + BesideCaption);
+}
+
+/// What the toolkit remembers of the sizes in a window that is not shown would be the old ones.
+void ForgetSizes(QWidget& box)
+{
+    for (QObject* const row : box.layout()->children())
+        static_cast<QLayout*>(row)->invalidate();
+    box.layout()->invalidate();
+    box.updateGeometry();
+}
+
 }  // namespace
 
-Form10::Form10()
+Form10::Form10() : boxes_{Frame("Funzioni "), Frame("Riflessi "), Frame("Effetti "), new QWidget}
 {
     setObjectName("Form10");
     setWindowTitle("Strumenti");
@@ -36,62 +94,68 @@ Form10::Form10()
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Spacing);
-    layout->addWidget(BuildFrame(PaletteFrame::Funzioni, "Funzioni ", 1));
-    layout->addWidget(BuildFrame(PaletteFrame::Riflessi, "Riflessi ", 3));
-    layout->addWidget(BuildFrame(PaletteFrame::Effetti, "Effetti ", 1));
-    layout->addWidget(BuildZoomButtons());
-    setFixedSize(Pixels(FromRightEdge) - Borders, layout->sizeHint().height());
-    move(screen()->size().width() - Pixels(FromRightEdge), 0);
-}
-
-QWidget* Form10::BuildFrame(PaletteFrame frame, const QString& caption, int columns)
-{
-    auto* const box = new QGroupBox(caption);
-    auto* const grid = new QGridLayout(box);
-    grid->setContentsMargins(Margin, Margin, Margin, Margin);
-    grid->setSpacing(Spacing);
-    int place = 0;
-    for (const PaletteButton& row : PaletteButtons()) {
-        if (row.frame != frame) continue;
-        grid->addWidget(BuildButton(row), place / columns, place % columns);
-        ++place;
-    }
-    return box;
-}
-
-QWidget* Form10::BuildZoomButtons()
-{
-    auto* const strip = new QWidget;
-    auto* const layout = new QHBoxLayout(strip);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing);
+    for (QWidget* const box : boxes_)
+        layout->addWidget(box);
     for (const PaletteButton& row : PaletteButtons())
-        if (row.frame == PaletteFrame::None) layout->addWidget(BuildButton(row));
-    return strip;
+        BuildButton(row)->setParent(boxes_.at(static_cast<std::size_t>(row.frame)));
+    for (std::size_t i = 0; i < boxes_.size(); ++i)
+        LayInRows(*boxes_[i], PerRow.at(i), i + 1 < boxes_.size() ? Margin : 0);
+    ArrangeFor(screen()->availableGeometry().height());
 }
 
 QPushButton* Form10::BuildButton(const PaletteButton& row)
 {
-    constexpr QSize ButtonSize(20, 26);
-    constexpr QSize PictureSize(22, 22);
     auto* const button = new QPushButton(QString::fromUtf8(row.caption));
     button->setObjectName(row.name);
     button->setToolTip(QString::fromUtf8(row.toolTip));
     button->setAccessibleName(QString::fromUtf8(row.accessible));
-    button->setMinimumSize(ButtonSize);
-    button->setFixedHeight(ButtonSize.height());
+    button->setAutoDefault(true);  // the return key presses it, as the blank does
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    if (row.picture != nullptr) {
-        button->setIcon(QIcon(QString(":/pixano/") + row.picture));
-        button->setIconSize(PictureSize);
-    }
+    if (row.picture != nullptr) button->setIcon(QIcon(QString(":/pixano/") + row.picture));
     if (row.frame == PaletteFrame::Riflessi) {
-        QFont font = button->font();
+        QFont font;
         font.setFamilies({"MS Sans Serif", font.family()});
         button->setFont(font);
     }
     connect(button, &QPushButton::clicked, this, [this, &row] { emit Pressed(row); });
     return button;
+}
+
+void Form10::ArrangeFor(int height)
+{
+    constexpr ButtonSize Roomy{26, 22};
+    constexpr ButtonSize Tight{22, 18};
+    Size(Roomy);
+    if (layout()->sizeHint().height() + TitleAndBorder > height) Size(Tight);
+    setFixedSize(InsideWidth(), layout()->sizeHint().height());
+}
+
+void Form10::Size(const ButtonSize& size)
+{
+    constexpr double Smallest = 5;
+    constexpr double Step = 0.5;
+    for (QPushButton* const button : findChildren<QPushButton*>()) {
+        button->setFixedHeight(size.height);
+        button->setIconSize({size.picture, size.picture});
+    }
+    // Letters smaller than the desktop's rather than captions cut off.
+    QFont smaller;
+    double points = QFontInfo(smaller).pointSizeF();
+    do {
+        smaller.setPointSizeF(points);
+        setFont(smaller);
+        points -= Step;
+    } while (!FitsItsWidth() && points >= Smallest);
+}
+
+bool Form10::FitsItsWidth()
+{
+    for (QWidget* const box : boxes_) {
+        WidenToCaptions(*box);
+        ForgetSizes(*box);
+    }
+    layout()->invalidate();
+    return layout()->minimumSize().width() <= InsideWidth();
 }
 
 void Form10::EnableHistory(const HistorySwitches& switches)
@@ -107,6 +171,16 @@ void Form10::ShowHourglass(bool shown)
         setCursor(Qt::WaitCursor);
     else
         unsetCursor();
+}
+
+void Form10::setVisible(bool visible)
+{
+    // Closed and shown again it is loaded anew, in its own place.
+    if (visible && !isVisible()) {
+        ArrangeFor(screen()->availableGeometry().height());
+        move(screen()->size().width() - Pixels(FromRightEdge), 0);
+    }
+    QWidget::setVisible(visible);
 }
 
 void Form10::mousePressEvent(QMouseEvent* /*event*/)

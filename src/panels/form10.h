@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 namespace pixano {
 
@@ -30,6 +31,11 @@ class Form10 : public QWidget {
     /// The mouse pointer of a program that is at work, or the usual one.
     void ShowHourglass(bool shown);
 
+    /// Sizes the buttons for a screen that is so high.
+    void ArrangeFor(int height);
+
+    void setVisible(bool visible) override;
+
   signals:
     void Pressed(const pixano::PaletteButton& button);
 
@@ -37,9 +43,17 @@ class Form10 : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
-    QWidget* BuildFrame(PaletteFrame frame, const QString& caption, int columns);
-    QWidget* BuildZoomButtons();
+    struct ButtonSize {
+        int height;
+        int picture;
+    };
+
     QPushButton* BuildButton(const PaletteButton& row);
+    void Size(const ButtonSize& size);
+    bool FitsItsWidth();
+
+    /// The boxes of the buttons, from top to bottom; the last one has no frame.
+    std::vector<QWidget*> boxes_;
 };
 
 }  // namespace pixano

@@ -27,50 +27,61 @@ QPushButton* Button(const QString& name, const QString& caption)
 }  // namespace
 
 Form11::Form11(const QString& effect, const QWidget& palette)
-    : slider1_(new QSlider(Qt::Horizontal)), label1_(new QLabel)
+    : slider1_(new TypedSlider(Qt::Horizontal)), label1_(new QLabel)
 {
     constexpr double BelowTop = 600;
     constexpr double RightOfLeft = 140;
-    constexpr int Width = 340;
     setObjectName("Form11");
     setWindowTitle(effect);
     setAccessibleName(effect);
     move(palette.pos() + QPoint(Pixels(RightOfLeft), Pixels(BelowTop)));
-    slider1_->setObjectName("Slider1");
-    slider1_->setAccessibleName("Intensità");
-    slider1_->setRange(0, Largest);
-    slider1_->setSingleStep(Step);
-    slider1_->setPageStep(Page);
-    slider1_->setTickPosition(QSlider::TicksBelow);
-    slider1_->setTickInterval(Page);
+    BuildSlider();
     label1_->setObjectName("Label1");
-    label1_->setAccessibleName("Valore");
     label1_->setAlignment(Qt::AlignCenter);
     auto* const ok = Button("Command1", "OK");
     auto* const cancel = Button("Command2", "Annulla");
     ok->setDefault(true);
     auto* const buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
+    buttons->addWidget(ok, 1);
+    buttons->addWidget(cancel, 1);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(label1_);
     layout->addWidget(slider1_);
     layout->addLayout(buttons);
-    resize(Width, layout->sizeHint().height());
-    connect(slider1_, &QSlider::valueChanged, this, [this](int value) {
-        label1_->setText(QString::number(value));
-        emit Moved(value);
-    });
+    // No further to the right than the palette, which stands at the edge of the screen.
+    resize(std::max(palette.width() - Pixels(RightOfLeft), layout->minimumSize().width()),
+           layout->sizeHint().height());
+    slider1_->setFocus();
+    connect(slider1_, &QSlider::valueChanged, this, &Form11::TakePosition);
     connect(ok, &QPushButton::clicked, this, &Form11::Confirmed);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void Form11::BuildSlider()
+{
+    slider1_->setObjectName("Slider1");
+    slider1_->setAccessibleName("Intensità");
+    slider1_->setToolTip("Anche con le frecce, la rotella o scrivendo il valore");
+    slider1_->setRange(0, Largest);
+    slider1_->setSingleStep(Step);
+    slider1_->setPageStep(Page);
+    slider1_->setTickPosition(QSlider::TicksBelow);
+    slider1_->setTickInterval(Page);
+}
+
+void Form11::TakePosition(int value)
+{
+    label1_->setText(QString::number(value));
+    emit Moved(value);
 }
 
 void Form11::ShowStrength(double value)
 {
     constexpr int SignificantDigits = 15;
     label1_->setText(QString::number(value, 'g', SignificantDigits));
-    slider1_->setValue(CLng(std::clamp<double>(value, 0, Largest)));
+    const int position = CLng(std::clamp<double>(value, -1, Largest + 1));
+    slider1_->setValue(position);
+    if (position < 0 || position > Largest) TakePosition(slider1_->value());
 }
 
 void Form11::resizeEvent(QResizeEvent* event)

@@ -1,9 +1,10 @@
 // The slider window: one strength, moved by the user. Knows neither where it is kept nor what for.
 #pragma once
 
+#include "panels/typed_slider.h"
+
 #include <QDialog>
 #include <QLabel>
-#include <QSlider>
 
 namespace pixano {
 
@@ -14,7 +15,8 @@ class Form11 : public QDialog {
     /// Captioned with the effect's name; opens just below the title of `palette`.
     Form11(const QString& effect, const QWidget& palette);
 
-    /// Shows the strength and puts the slider there, or to its nearer end.
+    /// Shows the strength and puts the slider there. One outside the slider's range puts it at its
+    /// nearer end, which counts as a move.
     void ShowStrength(double value);
 
   signals:
@@ -28,7 +30,10 @@ class Form11 : public QDialog {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    QSlider* slider1_;
+    void BuildSlider();
+    void TakePosition(int value);
+
+    TypedSlider* slider1_;
     QLabel* label1_;
 };
 

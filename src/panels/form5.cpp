@@ -1,8 +1,8 @@
 #include "panels/form5.h"
 
 #include "panels/centred.h"
+#include "panels/fitted_picture.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -13,10 +13,10 @@ Form5::Form5()
     setObjectName("Form5");
     setWindowTitle("Informazioni");
     setAccessibleName("Informazioni");
-    auto* const picture = new QLabel;
+    constexpr QSize Beside(24, 60);  // margins, and the button below
+    auto* const picture = FittedPicture("emblema.jpg", Beside);
     picture->setObjectName("Picture1");
     picture->setAccessibleName("Emblema di Pixano");
-    picture->setPixmap(QPixmap(":/pixano/emblema.jpg"));
     auto* const close = new QPushButton("OK");
     close->setObjectName("Command1");
     close->setAccessibleName("OK");

@@ -1,9 +1,9 @@
 #include "panels/form6.h"
 
 #include "panels/centred.h"
+#include "panels/fitted_picture.h"
 
 #include <QKeyEvent>
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace pixano {
@@ -14,10 +14,9 @@ Form6::Form6()
     setWindowTitle(QString());
     setAccessibleName("Pixano");
     setAccessibleDescription("Figura d'apertura: premi Invio per cominciare");
-    auto* const picture = new QLabel;
+    auto* const picture = FittedPicture("apertura.jpg", QSize(0, 0));
     picture->setObjectName("Picture1");
     picture->setAccessibleName("Figura d'apertura");
-    picture->setPixmap(QPixmap(":/pixano/apertura.jpg"));
     picture->installEventFilter(this);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

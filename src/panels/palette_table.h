@@ -5,7 +5,8 @@
 
 namespace pixano {
 
-enum class PaletteFrame { None, Funzioni, Riflessi, Effetti };
+/// From top to bottom; the two buttons without a frame stand last.
+enum class PaletteFrame { Funzioni, Riflessi, Effetti, None };
 
 /// One button. Exactly one of the last three says what it does.
 struct PaletteButton {

@@ -28,8 +28,6 @@ struct Document {
     bool open = false;
     /// Whether the preview's copy was written, and so has to be deleted at the end.
     bool previewCopied = false;
-    /// The folder that the strengths are read from.
-    QString CartellaProgramma;
     /// Where the open dialog starts before any picture is remembered.
     QString firstFolder;
     /// Pictures pasted from the clipboard, which the program keeps as files as long as it runs.

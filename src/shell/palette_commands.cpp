@@ -21,7 +21,7 @@ QString NameOf(const Effect& effect)
 /// exactly.
 void ReadStrength(Session& s, Form11& window)
 {
-    const QString path = s.doc.CartellaProgramma + '/' + file::Strengths;
+    const QString path = s.programFolder + '/' + file::Strengths;
     s.work.Valori = {};
     LeggiValori(path.toStdString(), s.work.Valori);
     window.ShowStrength(s.work.Strength());

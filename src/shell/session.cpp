@@ -12,7 +12,6 @@ Session::Session(Dialogs& dialogBoxes, Timer timer)
       work(TextStore(file::Pixels.toStdString()), progress, timer),
       form2(work.Picture1)
 {
-    doc.CartellaProgramma = QApplication::applicationDirPath();
     form4.effectName = [this] { return doc.Effetto; };
 }
 

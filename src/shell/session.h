@@ -11,6 +11,8 @@
 #include "windows/form4.h"
 #include "windows/form9.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace pixano {
@@ -21,6 +23,8 @@ struct Session {
 
     Dialogs& dialogs;
     Document doc;
+    /// Where the program's own files lie.
+    QString programFolder = QCoreApplication::applicationDirPath();
 
     Form1 form1;
     Form4 form4;

@@ -41,16 +41,16 @@ QIcon ProgramIcon()
 
 /// Started from the desktop's menu there is no folder that the user chose: the program works in its
 /// data folder, and keeps the strengths there from one run to the next.
-void WorkInDataFolder(Document& doc)
+void WorkInDataFolder(Session& s)
 {
     const QString folder = DataFolder();
     const QString strengths = folder + '/' + file::Strengths;
     if (!QFile::exists(strengths) &&
-        QFile::copy(doc.CartellaProgramma + '/' + file::Strengths, strengths))
+        QFile::copy(s.programFolder + '/' + file::Strengths, strengths))
         QFile::setPermissions(strengths, QFile::ReadOwner | QFile::WriteOwner);
     QDir::setCurrent(folder);
-    doc.CartellaProgramma = folder;
-    doc.firstFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    s.programFolder = folder;
+    s.doc.firstFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
 }
 
 int RunSession(ScreenDialogs& dialogs, const Options& options)
@@ -61,7 +61,7 @@ int RunSession(ScreenDialogs& dialogs, const Options& options)
     const QString picture =
         options.picture.isEmpty() ? QString() : QDir().absoluteFilePath(options.picture);
     Run(session, "Avvio", FaultEnds::Program, [&] {
-        if (options.fromMenu) WorkInDataFolder(session.doc);
+        if (options.fromMenu) WorkInDataFolder(session);
         Form_Load(session);
         OfferRecovery(session);
     });
