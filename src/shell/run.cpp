@@ -12,7 +12,8 @@
 namespace pixano {
 namespace {
 
-/// Unsaved work as a BMP in the data folder; what to tell the user about it.
+/// Unsaved work as a BMP in the data folder; what to tell the user about it. The canvas may be half
+/// drawn, so the last whole copy of it stays noted, and the next start offers it.
 QString KeepUnsavedWork(const Session& s)
 {
     if (s.doc.Modificato == 0) return {};
@@ -20,7 +21,6 @@ QString KeepUnsavedWork(const Session& s)
         const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
         const QString path = DataFolder() + "/lavoro-" + stamp + ".bmp";
         SaveBitmap(s.work.Picture1, path.toStdString());
-        ForgetCanvasCopy();
         return "\n\nIl lavoro non salvato è stato conservato nel file " + path;
     } catch (const std::exception& error) {
         return "\n\nIl lavoro non salvato non è stato conservato: " +
