@@ -17,9 +17,9 @@ namespace fs = std::filesystem;
 std::string TextOf(const std::string& path)
 {
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = fs::symlink_status(path, error);
     if (!fs::exists(status)) throw Fault(FaultKind::FileNotFound, path);
-    // Opening a pipe would wait for ever.
+    // Opening a pipe would wait for ever; a link may lead anywhere.
     if (!fs::is_regular_file(status)) throw Fault(FaultKind::FileAccess, path);
     std::ifstream file(path, std::ios::binary);
     constexpr std::streamsize Enough = 4096;  // far more than five numbers take

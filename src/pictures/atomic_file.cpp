@@ -55,6 +55,17 @@ void SyncFolder(int folder)
     if (readable) fsync(readable.Number());
 }
 
+/// The old file goes and the new one comes at one stroke, so that the name always leads to a whole
+/// file. Many file systems write out a file that takes another's place by a plain renaming, which
+/// takes as long as all the rest; they do not when the two change places.
+bool ChangePlaces(int folder, const std::string& temporary, const std::string& name)
+{
+    if (renameat2(folder, temporary.c_str(), folder, name.c_str(), RENAME_EXCHANGE) != 0)
+        return false;
+    unlinkat(folder, temporary.c_str(), 0);
+    return true;
+}
+
 }  // namespace
 
 AtomicFile::AtomicFile(const std::string& path, Purpose purpose) : purpose_(purpose)
@@ -114,10 +125,8 @@ void AtomicFile::Commit()
     if (document && fsync(file_.Number()) != 0) throw Refusal(SystemReason(errno));
     if (!file_.Close()) throw Refusal(SystemReason(errno));
     const int folder = folder_.Number();
-    // Some file systems write out a file that takes another's place at once, which takes as long as
-    // all the rest. A working file is worth nothing after a crash.
-    if (!document) unlinkat(folder, name_.c_str(), 0);
-    if (renameat(folder, temporary_.c_str(), folder, name_.c_str()) != 0)
+    const bool exchanged = !document && ChangePlaces(folder, temporary_, name_);
+    if (!exchanged && renameat(folder, temporary_.c_str(), folder, name_.c_str()) != 0)
         throw Refusal(SystemReason(errno));
     temporary_.clear();
     if (document) SyncFolder(folder);

@@ -8,6 +8,8 @@
 #include "shell/opening.h"
 #include "shell/palette_commands.h"
 #include "shell/pasting.h"
+#include "shell/places.h"
+#include "shell/recovery.h"
 #include "shell/saving.h"
 #include "shell/start_end.h"
 
@@ -89,8 +91,12 @@ void ConnectEvents(Session& s)
     QObject::connect(&s.form2, &Form2::Dropped, opensDropped);
     QObject::connect(&s.form1, &Form1::Pasted,
                      [&s] { Run(s, "Incolla", FaultEnds::Command, [&] { OpenPasted(s); }); });
-    QObject::connect(&s.form4, &Form4::Closed,
-                     [&s] { Run(s, "Anteprima", FaultEnds::Command, [&] { Form4_Unload(s); }); });
+    QObject::connect(&s.form4, &Form4::Closed, [&s] {
+        Run(s, "Anteprima", FaultEnds::Command, [&] {
+            Form4_Unload(s);
+            NoteCanvasCopy(s, file::PreviewCopy);
+        });
+    });
     s.form1.mayClose = AskingFirst(s, "Esci", FaultEnds::Program, Form_Unload);
     s.form2.mayClose = AskingFirst(s, "Chiudi", FaultEnds::Command, Form2_Unload);
     s.form9.mayClose = AskingFirst(s, "Chiudi", FaultEnds::Command, Form9_Unload);

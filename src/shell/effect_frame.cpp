@@ -3,6 +3,7 @@
 #include "shell/captions.h"
 #include "shell/history.h"
 #include "shell/places.h"
+#include "shell/recovery.h"
 #include "shell/showing.h"
 #include "shell/working_pictures.h"
 
@@ -29,6 +30,7 @@ void Close(Session& s, Closing closing)
     UnloadProgress(s);
     if (captioned) s.form2.setWindowTitle(EffectCaption(s));
     s.doc.Modificato = 1;
+    NoteCanvasCopy(s, file::PreviewCopy);
 }
 
 }  // namespace

@@ -32,11 +32,16 @@ Surface SurfaceOf(const QImage& image)
     return surface;
 }
 
+QString PastedPrefix()
+{
+    return DataFolder() + "/appunti-";
+}
+
 /// A picture without a file gets one: "Originale" reads it again.
 QString KeptAsFile(Session& s, const QImage& image)
 {
     const QString stamp = QDateTime::currentDateTime().toString("HHmmss-zzz");
-    const QString name = DataFolder() + "/appunti-" + stamp + ".bmp";
+    const QString name = PastedPrefix() + stamp + ".bmp";
     SaveWorkingPicture(SurfaceOf(image), name);
     s.doc.pasted.append(name);
     return name;
@@ -52,6 +57,11 @@ void OpenPasted(Session& s)
         OpenNamed(s, urls.front().toLocalFile());
     else if (const QImage image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
         OpenNamed(s, KeptAsFile(s, image));
+}
+
+bool IsPasted(const QString& path)
+{
+    return path.startsWith(PastedPrefix());
 }
 
 }  // namespace pixano

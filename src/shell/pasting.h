@@ -9,4 +9,7 @@ namespace pixano {
 /// dialog; does nothing when there is neither. Throws Fault FileAccess.
 void OpenPasted(Session& s);
 
+/// Whether the file is one that a picture from the clipboard was kept in.
+bool IsPasted(const QString& path);
+
 }  // namespace pixano

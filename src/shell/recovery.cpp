@@ -4,58 +4,85 @@
 #include "pictures/picture_files.h"
 #include "shell/menu_table.h"
 #include "shell/opening.h"
+#include "shell/pasting.h"
 #include "shell/places.h"
+#include "shell/recovery_note.h"
 #include "shell/showing.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
-
-#include <optional>
 
 namespace pixano {
 namespace {
 
-/// What is noted: where the copy of the canvas lies, and which picture it was made from.
-struct Note {
-    QString copy;
-    QString picture;
-};
-
-QString NotePath()
-{
-    return DataFolder() + "/recupero.txt";
-}
-
-std::optional<Note> ReadNote()
-{
-    constexpr qint64 Longest = 64 * 1024;
-    QFile file(NotePath());
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
-    const QStringList lines = QString::fromUtf8(file.read(Longest)).split('\n');
-    // The last line end tells that the note is complete.
-    constexpr qsizetype Lines = 3;
-    if (lines.size() != Lines || lines.at(0).isEmpty()) return std::nullopt;
-    return Note{lines.at(0), lines.at(1)};
-}
-
-/// Gives the copy a name of its own in the data folder; the path, or nothing when that failed.
-std::optional<QString> PutAside(const QString& copy)
+/// A name that nothing bears yet, in that folder.
+QString AsideName(const QString& folder)
 {
     const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
-    const QString aside = DataFolder() + "/recupero-" + stamp + ".bmp";
-    if (QFile::rename(copy, aside)) return aside;
-    return std::nullopt;
+    QString name = folder + "/recupero-" + stamp + ".bmp";
+    for (int n = 2; QFileInfo::exists(name); ++n)
+        name = folder + "/recupero-" + stamp + '-' + QString::number(n) + ".bmp";
+    return name;
 }
 
-void BringBack(Session& s, const Note& note, Surface picture)
+/// Puts the picture into a file of its own in the data folder; the path. The copy goes only when
+/// the file is complete and the note is gone, so that whenever the program ends one of them is
+/// left, and is either noted or named to the user.
+QString PutAside(const QString& copy, const Surface& picture)
+{
+    try {
+        const QString aside = AsideName(DataFolder());
+        SaveBitmap(picture, aside.toStdString());
+        RemoveRecoveryNote();
+        QFile::remove(copy);
+        return aside;
+    } catch (const PictureError&) {
+        // A full disk has no room for a second picture, but it has for a name.
+        const QString beside = AsideName(QFileInfo(copy).path());
+        return QFile::rename(copy, beside) ? beside : copy;
+    }
+}
+
+/// Renames what is left of the working pictures, lest the next effect replace it; says where it is.
+QString KeepRemains(const QString& copy)
+{
+    QStringList kept;
+    for (const QString& path : {copy, NativePath(file::Undo), NativePath(file::Redo)}) {
+        const QFileInfo remains(path);
+        if (!remains.isFile() || remains.isSymLink() || remains.size() == 0) continue;
+        const QString aside = AsideName(DataFolder());
+        if (QFile::rename(path, aside)) kept += aside;
+    }
+    return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n" + kept.join('\n');
+}
+
+void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QString& copy)
+{
+    s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
+                   "L'ultima volta Pixano si è interrotto con modifiche non salvate" + ofPicture +
+                       ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(copy));
+}
+
+/// The noted copy, if it is the picture that was noted. Throws PictureError.
+Surface NotedPicture(const RecoveryNote& note)
+{
+    PictureRead read = ReadWorkingPicture(note.copy.toStdString());
+    const bool noted = !read.truncated && read.picture.Width() == note.width &&
+                       read.picture.Height() == note.height;
+    if (!noted)
+        throw PictureError("Il file «" + note.copy.toStdString() + "» non è più quello di allora");
+    return std::move(read.picture);
+}
+
+void BringBack(Session& s, const RecoveryNote& note, Surface picture)
 {
     s.doc.NomeFile = note.picture;
     s.doc.FileAperto = note.picture;
     s.doc.open = true;
     s.doc.Zoom = 1;
+    if (IsPasted(note.picture)) s.doc.pasted.append(note.picture);
     Estrai(s, note.picture, std::move(picture));
     s.doc.Modificato = 1;
     s.form1.Enable(entry::Salva, true);
@@ -63,23 +90,42 @@ void BringBack(Session& s, const Note& note, Surface picture)
     s.form10.EnableHistory(
         {.annulla = std::nullopt, .originale = true, .ripristina = std::nullopt});
     Mostra(s);
+    NoteCanvasCopy(s, file::PreviewCopy);
     // The new copy is complete; the old one, if it lay elsewhere, has done its duty.
     const QString current = QDir::current().absoluteFilePath(file::PreviewCopy);
     if (note.copy.endsWith('/' + file::PreviewCopy) && note.copy != current)
         QFile::remove(note.copy);
 }
 
+void Offer(Session& s, const RecoveryNote& note)
+{
+    const QString ofPicture = " alla figura " + QFileInfo(note.picture).fileName();
+    Surface picture;
+    try {
+        picture = NotedPicture(note);
+    } catch (const PictureError& error) {
+        TellLost(s, ofPicture, QString::fromUtf8(error.what()), note.copy);
+        return;
+    }
+    const bool wanted = s.dialogs.Ask(BoxIcon::Exclamation, title::Notice,
+                                      "L'ultima volta Pixano si è interrotto con modifiche non "
+                                      "salvate" +
+                                          ofPicture + ".\nVuoi recuperarla?");
+    if (wanted)
+        BringBack(s, note, std::move(picture));
+    else
+        s.dialogs.Tell(BoxIcon::None, title::Notice,
+                       "La figura resta nel file " + PutAside(note.copy, picture) + '.');
+}
+
 }  // namespace
 
 void NoteCanvasCopy(const Session& s, const QString& name)
 {
+    if (s.doc.Modificato == 0) return;
     try {
-        QSaveFile note(NotePath());
-        if (!note.open(QIODevice::WriteOnly)) return;
-        note.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-        const QString copy = QDir::current().absoluteFilePath(NativePath(name));
-        note.write((copy + '\n' + s.doc.FileAperto + '\n').toUtf8());
-        note.commit();
+        WriteRecoveryNote({QDir::current().absoluteFilePath(NativePath(name)), s.doc.FileAperto,
+                           s.work.Picture1.Width(), s.work.Picture1.Height()});
     } catch (const Fault&) {
         return;
     }
@@ -88,7 +134,7 @@ void NoteCanvasCopy(const Session& s, const QString& name)
 void ForgetCanvasCopy()
 {
     try {
-        QFile::remove(NotePath());
+        RemoveRecoveryNote();
     } catch (const Fault&) {
         return;
     }
@@ -96,29 +142,11 @@ void ForgetCanvasCopy()
 
 void OfferRecovery(Session& s)
 {
-    const std::optional<Note> note = ReadNote();
-    if (!note) return;
-    const QString name = QFileInfo(note->picture).fileName();
-    try {
-        Surface picture = ReadWorkingPicture(note->copy.toStdString()).picture;
-        const bool wanted = s.dialogs.Ask(
-            BoxIcon::Exclamation, title::Notice,
-            "L'ultima volta Pixano si è interrotto con modifiche non salvate alla figura " + name +
-                ".\nVuoi recuperarla?");
-        if (wanted) {
-            BringBack(s, *note, std::move(picture));
-            return;
-        }
-        const std::optional<QString> aside = PutAside(note->copy);
-        s.dialogs.Tell(BoxIcon::None, title::Notice,
-                       "La figura resta nel file " + aside.value_or(note->copy) + '.');
-    } catch (const PictureError& error) {
-        s.dialogs.Tell(
-            BoxIcon::Exclamation, title::Warning,
-            "L'ultima volta Pixano si è interrotto con modifiche non salvate alla figura " + name +
-                ", ma non è possibile recuperarla.\n" + QString::fromUtf8(error.what()) + '.');
-    }
-    ForgetCanvasCopy();
+    if (const std::optional<RecoveryNote> note = ReadRecoveryNote())
+        Offer(s, *note);
+    else if (RecoveryNoteThere())
+        TellLost(s, QString(), "Il file «" + RecoveryNotePath() + "» non si può leggere",
+                 QDir::current().absoluteFilePath(file::PreviewCopy));
 }
 
 }  // namespace pixano

@@ -1,11 +1,8 @@
 #include "shell/remembered_path.h"
 
 #include "canvas/value_text.h"
+#include "shell/own_text.h"
 #include "shell/places.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 #include <string>
 
@@ -21,11 +18,9 @@ QString FileOf(const Document& doc)
 
 std::optional<QString> RememberedPath(const Document& doc)
 {
-    constexpr qint64 LongestPath = 64 * 1024;
-    QFile kept(FileOf(doc));
-    // Anything but a file, a pipe for example, could make the program wait for ever.
-    if (!QFileInfo(kept).isFile() || !kept.open(QIODevice::ReadOnly)) return std::nullopt;
-    const std::string text = kept.read(LongestPath).toStdString();
+    const std::optional<QByteArray> kept = ReadOwnText(FileOf(doc));
+    if (!kept) return std::nullopt;
+    const std::string text = kept->toStdString();
     std::string_view rest = text;
     const std::optional<std::string_view> path = TakeItem(rest, true);
     if (!path) return std::nullopt;
@@ -34,10 +29,7 @@ std::optional<QString> RememberedPath(const Document& doc)
 
 void RememberPath(const Document& doc, const QString& path)
 {
-    QSaveFile kept(FileOf(doc));
-    if (!kept.open(QIODevice::WriteOnly)) return;
-    kept.write('"' + path.toUtf8() + "\"\r\n");
-    kept.commit();
+    WriteOwnText(FileOf(doc), '"' + path.toUtf8() + "\"\r\n");
 }
 
 }  // namespace pixano

@@ -2,6 +2,7 @@
 
 #include "pictures/picture_files.h"
 #include "shell/opening.h"
+#include "shell/recovery.h"
 
 #include <QFileInfo>
 
@@ -61,6 +62,7 @@ SaveOutcome SalvaFile(Session& s)
     Estrai(s, *name, std::nullopt);
     s.doc.NomeSalvato = *name;
     s.doc.Modificato = 0;
+    ForgetCanvasCopy();
     return SaveOutcome::Saved;
 }
 

@@ -18,7 +18,6 @@ void Mostra(Session& s)
     constexpr double TwipsPerRow = 16.4;
     SaveWorkingPicture(s.work.Picture1, file::PreviewCopy);
     s.doc.previewCopied = true;
-    NoteCanvasCopy(s, file::PreviewCopy);
     ImageControl& image = s.form9.Image1();
     image.SetPicture(LoadWorkingPicture(file::PreviewCopy, s.work.Picture1));
     s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);
@@ -37,6 +36,7 @@ void ChangeZoom(Session& s, double change)
 {
     s.doc.Zoom += change;
     Mostra(s);
+    NoteCanvasCopy(s, file::PreviewCopy);
 }
 
 }  // namespace pixano

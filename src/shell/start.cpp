@@ -2,6 +2,7 @@
 
 #include "canvas/fault.h"
 #include "shell/commands.h"
+#include "shell/only_instance.h"
 #include "shell/opening.h"
 #include "shell/options.h"
 #include "shell/places.h"
@@ -15,7 +16,6 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <QTranslator>
 
@@ -53,9 +53,16 @@ void WorkInDataFolder(Session& s)
     s.doc.firstFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
 }
 
-int RunSession(ScreenDialogs& dialogs, const Options& options)
+/// What a run that was killed had not finished writing is no whole file.
+void RemoveUnfinishedFiles(const QString& folder)
 {
-    Session session(dialogs);
+    const QDir files(folder, ".pixano-*.tmp", QDir::Unsorted, QDir::Files | QDir::Hidden);
+    for (const QString& name : files.entryList())
+        QFile::remove(files.filePath(name));
+}
+
+int RunSession(Session& session, const Options& options)
+{
     ConnectEvents(session);
     // Relative to the folder that the user is in, whichever one the program works in.
     const QString picture =
@@ -63,22 +70,12 @@ int RunSession(ScreenDialogs& dialogs, const Options& options)
     Run(session, "Avvio", FaultEnds::Program, [&] {
         if (options.fromMenu) WorkInDataFolder(session);
         Form_Load(session);
-        OfferRecovery(session);
+        // A picture that cannot be brought back is no reason not to start.
+        RunInside(session, "Recupero", FaultEnds::Command, [&] { OfferRecovery(session); });
     });
     if (!session.ending && !picture.isEmpty())
         Run(session, "Apri", FaultEnds::Command, [&] { OpenNamed(session, picture); });
     return session.ending ? *session.ending : QApplication::exec();
-}
-
-int RunAlone(ScreenDialogs& dialogs, const Options& options)
-{
-    QLockFile lock(DataFolder() + "/pixano.lock");
-    lock.setStaleLockTime(0);
-    if (lock.tryLock()) return RunSession(dialogs, options);
-    if (lock.error() != QLockFile::LockFailedError)
-        throw Fault(FaultKind::FileAccess, lock.fileName().toStdString());
-    dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
-    return 1;
 }
 
 }  // namespace
@@ -95,6 +92,18 @@ void PrepareApplication(QApplication& application)
     auto* const italian = new QTranslator(&application);
     if (italian->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(italian);
+}
+
+int RunAlone(Session& session, const Options& options)
+{
+    const QString folder = DataFolder();
+    const OnlyInstance only(folder + "/pixano.lock");
+    if (!only) {
+        session.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
+        return 1;
+    }
+    RemoveUnfinishedFiles(folder);
+    return RunSession(session, options);
 }
 
 int StartProgram(int argc, char* argv[])
@@ -114,7 +123,8 @@ int StartProgram(int argc, char* argv[])
     }
     ScreenDialogs dialogs;
     try {
-        return RunAlone(dialogs, *options);
+        Session session(dialogs);
+        return RunAlone(session, *options);
     } catch (const Fault& fault) {
         dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
         return 1;

@@ -1,6 +1,9 @@
 // From the command line to the running program.
 #pragma once
 
+#include "shell/options.h"
+#include "shell/session.h"
+
 class QApplication;
 
 namespace pixano {
@@ -8,6 +11,10 @@ namespace pixano {
 /// Runs the windowed program until it ends; gives its exit status. The first argument, if any,
 /// names a picture to be opened as if it had been chosen in the open dialog.
 int StartProgram(int argc, char* argv[]);
+
+/// Runs the session until it ends, unless another one has the data folder; gives the exit status.
+/// Throws Fault FileAccess when the data folder cannot be used.
+int RunAlone(Session& session, const Options& options);
 
 /// What the application needs whatever its windows are: its name, Italian for the toolkit's own
 /// texts, the toolkit's own dialogs.

@@ -4,6 +4,7 @@
 #include "shell/enabling.h"
 #include "shell/places.h"
 #include "shell/questions.h"
+#include "shell/recovery.h"
 #include "shell/saving.h"
 #include "shell/working_pictures.h"
 #include "windows/twips.h"
@@ -70,7 +71,9 @@ bool Form_Unload(Session& s)
     // The canvas closes next, and asks about changes that are still unsaved: once more, after a
     // cancelled save dialog.
     if (!CloseDocument(s)) return false;
-    // Only now is it certain that the history is needed no more.
+    // Only now is it certain that the history is needed no more. What it holds is disowned first,
+    // lest a run that ends in between seem to have lost it.
+    ForgetCanvasCopy();
     KillWorkingPicture(file::Undo);
     KillWorkingPicture(file::Redo);
     for (const QString& name : s.doc.pasted)

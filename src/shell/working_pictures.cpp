@@ -6,7 +6,9 @@
 
 #include <QFileInfo>
 
-#include <filesystem>
+#include <cerrno>
+
+#include <unistd.h>
 
 namespace pixano {
 
@@ -37,9 +39,9 @@ Surface LoadWorkingPicture(const QString& name, const Surface& like)
 void KillWorkingPicture(const QString& name)
 {
     const QString path = NativePath(name);
-    std::error_code error;
-    std::filesystem::remove(path.toStdString(), error);
-    if (error) throw Fault(FaultKind::FileAccess, path.toStdString());
+    // A folder is not the program's own, whatever it is called and however empty it is.
+    if (unlink(path.toStdString().c_str()) != 0 && errno != ENOENT)
+        throw Fault(FaultKind::FileAccess, path.toStdString());
 }
 
 }  // namespace pixano

@@ -1,0 +1,32 @@
+// The note that tells which working picture holds the canvas. Knows no window and no picture.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace pixano {
+
+struct RecoveryNote {
+    QString copy;     ///< path of the copy of the canvas
+    QString picture;  ///< path of the picture that it was made from
+    int width = 0;    ///< of the copy, in pixels
+    int height = 0;
+};
+
+/// Where the note lies. Throws Fault FileAccess when there is no data folder.
+QString RecoveryNotePath();
+
+/// Whether there is something in the note's place. Throws Fault FileAccess.
+bool RecoveryNoteThere();
+
+/// The note; nothing when it is not there or not whole. Throws Fault FileAccess.
+std::optional<RecoveryNote> ReadRecoveryNote();
+
+/// Replaces the note; when that fails the old one stays. Throws Fault FileAccess.
+void WriteRecoveryNote(const RecoveryNote& note);
+
+/// Takes the note away if it is there. Throws Fault FileAccess.
+void RemoveRecoveryNote();
+
+}  // namespace pixano
