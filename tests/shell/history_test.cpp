@@ -250,7 +250,6 @@ TEST_F(HistoryCommands, MarkTheBeginningOfAnEffect)
     EXPECT_EQ(MenuHistory(), (History{true, true, false}));
     EXPECT_EQ(PaletteHistory(), (History{false, true, false}));
     EXPECT_TRUE(Enabled(entry::Salva));
-    EXPECT_TRUE(session.form10.testAttribute(Qt::WA_SetCursor));
     EXPECT_EQ(session.form10.cursor().shape(), Qt::WaitCursor);
 }
 
