@@ -1,0 +1,79 @@
+// The keys that stand for menu entries: only while the entry can be used.
+#include "support/program.h"
+
+namespace pixano::test {
+namespace {
+
+class Shortcuts : public Program {
+  protected:
+    /// Presses Ctrl and the key while `window` is in front.
+    static void Press(QWidget& window, Qt::Key key)
+    {
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&window, key, Qt::ControlModifier);
+    }
+    void Press(Qt::Key key) { Press(session.form1, key); }
+};
+
+TEST_F(Shortcuts, OpenWithO)
+{
+    dialogs.openNames.push_back(Made("a.bmp", Drawn({"abc"})));
+    Press(Qt::Key_O);
+    EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
+}
+
+TEST_F(Shortcuts, DoNothingWhileTheirEntriesAreOff)
+{
+    Open("a.bmp", Drawn({"abc"}));
+    for (const Qt::Key key : {Qt::Key_S, Qt::Key_Z, Qt::Key_Y, Qt::Key_0})
+        Press(key);
+    EXPECT_TRUE(dialogs.saveFolders.empty());
+    EXPECT_EQ(session.doc.Modificato, 0);
+    EXPECT_FALSE(Enabled(entry::Orig));
+    EXPECT_EQ(session.doc.InOriginale, 0);
+    EXPECT_TRUE(dialogs.told.empty());
+}
+
+TEST_F(Shortcuts, GoBackForwardAndToTheOriginal)
+{
+    Open("a.bmp", Drawn({"abc"}));
+    Apply("Specchio");
+    Apply("Capovolgi");
+    Press(Qt::Key_Z);
+    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
+    Press(Qt::Key_Y);
+    EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
+    Press(Qt::Key_0);
+    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+}
+
+TEST_F(Shortcuts, SaveWithS)
+{
+    Open("a.bmp", Drawn({"abc"}));
+    Apply("Specchio");
+    dialogs.saveNames.push_back(Path("s.bmp"));
+    Press(Qt::Key_S);
+    EXPECT_EQ(Kept(Path("s.bmp")), (Letters{"cba"}));
+}
+
+TEST_F(Shortcuts, WorkInTheOtherWindowsToo)
+{
+    Open("a.bmp", Drawn({"abc"}));
+    Apply("Specchio");
+    Press(session.form2, Qt::Key_0);
+    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+    Press(session.form9, Qt::Key_Y);
+    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
+    Press(session.form10, Qt::Key_0);
+    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+}
+
+TEST_F(Shortcuts, ChangeNoCaption)
+{
+    EXPECT_EQ(session.form1.Control(entry::Apri - 1).text(), "&Apri");
+    EXPECT_TRUE(session.form1.Control(entry::Apri - 1).shortcut().isEmpty());
+}
+
+}  // namespace
+}  // namespace pixano::test

@@ -1,0 +1,65 @@
+// The preview's image, as it is and stretched.
+#include "support/letters.h"
+#include "windows/form9.h"
+
+#include <gtest/gtest.h>
+
+namespace pixano::test {
+namespace {
+
+class Preview : public testing::Test {
+  protected:
+    /// The packed colours painted, row by row.
+    std::vector<std::vector<Colour>> Painted()
+    {
+        const QImage image = image_.grab().toImage();
+        std::vector<std::vector<Colour>> rows;
+        for (int y = 0; y < image.height(); ++y) {
+            auto& row = rows.emplace_back();
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb rgb = image.pixel(x, y);
+                row.push_back(qRed(rgb) + 256 * qGreen(rgb) + 65536 * qBlue(rgb));
+            }
+        }
+        return rows;
+    }
+
+    Form9 window_;
+    ImageControl& image_ = window_.Image1();
+    const Colour a_ = ColourOf('a');
+    const Colour b_ = ColourOf('b');
+};
+
+TEST_F(Preview, ShowsAPictureAtItsOwnSize)
+{
+    image_.SetPicture(Drawn({"ab", "ba"}));
+    EXPECT_EQ(image_.size(), QSize(2, 2));
+    EXPECT_EQ(Painted(), (std::vector<std::vector<Colour>>{{a_, b_}, {b_, a_}}));
+}
+
+TEST_F(Preview, StretchesAPictureToItsSizeWithCrispPixels)
+{
+    image_.SetPicture(Drawn({"ab"}));
+    image_.SetStretch(true);
+    image_.resize(4, 2);
+    EXPECT_EQ(Painted(), (std::vector<std::vector<Colour>>{{a_, a_, b_, b_}, {a_, a_, b_, b_}}));
+}
+
+TEST_F(Preview, KeepsItsSizeForAnotherPictureWhileItStretches)
+{
+    image_.SetStretch(true);
+    image_.resize(4, 2);
+    image_.SetPicture(Drawn({"ab"}));
+    EXPECT_EQ(image_.size(), QSize(4, 2));
+}
+
+TEST_F(Preview, HoldsItsOwnCopy)
+{
+    Surface picture = Drawn({"ab"});
+    image_.SetPicture(picture);
+    picture.PSet(0, 0, 0);
+    EXPECT_EQ(image_.Picture().Point(0, 0), a_);
+}
+
+}  // namespace
+}  // namespace pixano::test
