@@ -15,26 +15,33 @@ class AtomicFile final : public ByteSink {
   public:
     enum class Purpose {
         /// A file of the user's: links are kept and the file that they lead to is replaced, with
-        /// the
-        /// permissions that it had; on disk before it takes the old one's place.
+        /// the permissions that it had; on disk before it takes the old one's place.
         Document,
         /// A file of the program's own: whatever has the name is replaced, links are not followed,
         /// only the user may read it; nothing waits for the disk.
         Working
     };
 
+    enum class Temporary {
+        Unnamed,  ///< without a name until it is complete, where the file system can do that
+        Named
+    };
+
     /// Throws Refusal.
-    AtomicFile(const std::string& path, Purpose purpose);
+    AtomicFile(const std::string& path, Purpose purpose, Temporary temporary);
     ~AtomicFile() override;
 
     bool Write(std::span<const std::byte> bytes) noexcept override { return sink_->Write(bytes); }
     int Error() const noexcept override { return sink_->Error(); }
 
-    /// Puts the file in its place. Throws Refusal.
-    void Commit();
+    /// Puts the file in its place. False, and nothing has changed, where a file without a name
+    /// cannot be given one: it has to be written again as Temporary::Named. Throws Refusal.
+    bool Commit();
 
   private:
-    void MakeTemporary(unsigned permissions);
+    void MakeUnnamed(unsigned permissions);
+    void MakeNamed(unsigned permissions);
+    bool GiveName();
     void KeepOwnerAndPermissions();
 
     Purpose purpose_;

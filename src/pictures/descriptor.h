@@ -10,6 +10,17 @@
 
 namespace pixano {
 
+/// Repeats a call to the system that a signal has interrupted.
+template <class Call>
+int Uninterrupted(Call call)
+{
+    int result = 0;
+    do {
+        result = call();
+    } while (result < 0 && errno == EINTR);
+    return result;
+}
+
 /// Owns a file descriptor.
 class Descriptor {
   public:
@@ -28,8 +39,9 @@ class Descriptor {
 
     explicit operator bool() const { return number_ >= 0; }
     int Number() const { return number_; }
-    /// False when the file could not be completed; errno tells why.
-    bool Close() { return close(std::exchange(number_, -1)) == 0; }
+    /// False when the file could not be completed; errno tells why. (An interrupted call has closed
+    /// it all the same: another try would close somebody else's.)
+    bool Close() { return close(std::exchange(number_, -1)) == 0 || errno == EINTR; }
 
   private:
     int number_ = -1;

@@ -80,9 +80,12 @@ void WriteFile(const Surface& surface, const std::string& path, PictureFormat fo
                AtomicFile::Purpose purpose)
 {
     Telling("salvare", path, [&] {
-        AtomicFile file(path, purpose);
-        EncodeAs(surface, format, file);
-        file.Commit();
+        const auto written = [&](AtomicFile::Temporary temporary) {
+            AtomicFile file(path, purpose, temporary);
+            EncodeAs(surface, format, file);
+            return file.Commit();
+        };
+        if (!written(AtomicFile::Temporary::Unnamed)) written(AtomicFile::Temporary::Named);
     });
 }
 

@@ -38,7 +38,7 @@ RegularFile OpenRegularFile(const std::string& path, Links links)
         RefuseMissing(path, errno);
     RequireRegular(status.st_mode);
     const int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | (follow ? 0 : O_NOFOLLOW);
-    Descriptor descriptor(open(path.c_str(), flags));
+    Descriptor descriptor(Uninterrupted([&] { return open(path.c_str(), flags); }));
     if (!descriptor || fstat(descriptor.Number(), &status) != 0) throw Refusal(SystemReason(errno));
     RequireRegular(status.st_mode);
     if (status.st_size == 0) throw Refusal("il file è vuoto");

@@ -1,12 +1,12 @@
 // Saving: the exact bytes, the old file kept when anything fails, links kept.
 #include "pictures/temporary_folder.h"
+#include "support/hindrances.h"
 
 #include <gmock/gmock.h>
 
 #include <csignal>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -65,23 +65,6 @@ unsigned PermissionsOf(const std::string& path)
     stat(path.c_str(), &status);
     return status.st_mode & 07777;
 }
-
-/// No file may grow beyond `bytes` while this lives.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-  private:
-    rlimit before_{};
-};
 
 class Saving : public testing::Test {
   protected:
@@ -246,25 +229,6 @@ TEST_F(Saving, TheLimitsSignalIsNotLeftWaiting)
     pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
     EXPECT_EQ(sigismember(&blocked, SIGXFSZ), 0);
 }
-
-/// Whoever runs the tests is an ordinary user while this lives, who owns `paths`.
-class OrdinaryUser {
-  public:
-    explicit OrdinaryUser(std::initializer_list<std::string> paths)
-    {
-        constexpr uid_t Nobody = 65534;
-        if (before_ != 0) return;
-        for (const std::string& path : paths)
-            EXPECT_EQ(chown(path.c_str(), Nobody, Nobody), 0);
-        EXPECT_EQ(seteuid(Nobody), 0);
-    }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-    ~OrdinaryUser() { EXPECT_EQ(seteuid(before_), 0); }
-
-  private:
-    uid_t before_ = geteuid();
-};
 
 TEST_F(Saving, WhatIsProtectedIsKept)
 {

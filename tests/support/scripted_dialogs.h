@@ -82,9 +82,9 @@ class ScriptedDialogs : public Dialogs {
             ADD_FAILURE() << "the program asked something that the test did not expect";
             return otherwise;
         }
-        T next = from.front();
+        std::swap(otherwise, from.front());
         from.pop_front();
-        return next;
+        return otherwise;
     }
 };
 

@@ -1,0 +1,83 @@
+// The batch tool while the system fails under it: the result is whole or not there, and the exit
+// status and a message tell which.
+#include "batch/tool_run.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+
+namespace pixano::batch::test {
+namespace {
+
+class FailingTool : public Tool {
+  protected:
+    FailingTool()
+    {
+        SaveBitmap(Surface(201, 101, 0x123456), File("a.bmp"));
+        EXPECT_EQ(RunOn("intera").status, 0);
+    }
+    ~FailingTool() override
+    {
+        for (const char* const name : {"LD_PRELOAD", "PIXANO_FAILING_CALLS", "PIXANO_FAILED_CALLS"})
+            unsetenv(name);
+    }
+
+    Ran RunOn(const std::string& name) const
+    {
+        return Run({"-e", "Specchio", "-o", name + extension, "a.bmp"});
+    }
+
+    /// Runs the tool while its calls from `first` to `last` fail. Gives how many have.
+    long RunWhileFailing(long first, long last, int error) const
+    {
+        WriteBytes(File("b" + extension), old);
+        const std::string orders =
+            std::to_string(first) + ' ' + std::to_string(last) + ' ' + std::to_string(error);
+        setenv("LD_PRELOAD", FAILING_CALLS, 1);
+        setenv("PIXANO_FAILING_CALLS", orders.c_str(), 1);
+        setenv("PIXANO_FAILED_CALLS", reports.File("failed").c_str(), 1);
+        const Ran ran = RunOn("b");
+        unsetenv("LD_PRELOAD");
+        Check(ran);
+        return std::stol(BytesOf(reports.File("failed")));
+    }
+
+    void Check(const Ran& ran) const
+    {
+        const bool done = ran.status == 0;
+        EXPECT_TRUE(done || ran.status == 1) << ran.status;
+        EXPECT_TRUE(Bytes("b" + extension) == (done ? Bytes("intera" + extension) : old));
+        EXPECT_EQ(FileCount(), 3);
+        EXPECT_EQ(ran.err.starts_with("pixano-batch: "), !done) << ran.err;
+    }
+
+    void EachCallInTurn(bool onward)
+    {
+        // The picture is opened and closed; the folder and the result are opened, it is written,
+        // synchronised, named, closed and put in its place.
+        constexpr long FewestCalls = 9;
+        for (const int error : {ENOSPC, EIO, EACCES}) {
+            long n = 1;
+            while (RunWhileFailing(n, onward ? LONG_MAX : n, error) > 0 && !HasFailure())
+                ++n;
+            EXPECT_GT(n, FewestCalls);
+        }
+    }
+
+    std::string extension = ".bmp";
+    const std::string old = "quel che c'era prima";
+    TemporaryFolder reports;
+};
+
+TEST_F(FailingTool, OneCallFails)
+{
+    EachCallInTurn(false);
+}
+
+TEST_F(FailingTool, AllCallsFailFromOneOnward)
+{
+    EachCallInTurn(true);
+}
+
+}  // namespace
+}  // namespace pixano::batch::test
