@@ -74,17 +74,6 @@ bool ChangePlaces(int folder, const std::string& temporary, const std::string& n
     return true;
 }
 
-/// The old file goes and the new one comes at one stroke, so that the name always leads to a whole
-/// file. Many file systems write out a file that takes another's place by a plain renaming, which
-/// takes as long as all the rest; they do not when the two change places.
-bool ChangePlaces(int folder, const std::string& temporary, const std::string& name)
-{
-    if (renameat2(folder, temporary.c_str(), folder, name.c_str(), RENAME_EXCHANGE) != 0)
-        return false;
-    unlinkat(folder, temporary.c_str(), 0);
-    return true;
-}
-
 }  // namespace
 
 AtomicFile::AtomicFile(const std::string& path, Purpose purpose, Temporary temporary)
