@@ -26,10 +26,9 @@ std::optional<QByteArray> ReadOwnText(const QString& path)
 bool WriteOwnText(const QString& path, const QByteArray& text)
 {
     try {
-        AtomicFile file(path.toStdString(), AtomicFile::Purpose::Working);
-        if (!file.Write(std::as_bytes(std::span(text)))) return false;
-        file.Commit();
-        return true;
+        AtomicFile file(path.toStdString(), AtomicFile::Purpose::Working,
+                        AtomicFile::Temporary::Named);
+        return file.Write(std::as_bytes(std::span(text))) && file.Commit();
     } catch (const Refusal&) {
         return false;
     }
