@@ -40,7 +40,7 @@ Player::Player(Session& session, ScriptedDialogs& dialogs, std::uint64_t seed)
     : session_(session), dialogs_(dialogs), random_(seed)
 {
     // The strengths are read where they are written, so that a confirmed one is found again.
-    session.doc.CartellaProgramma = QDir::currentPath();
+    session.programFolder = QDir::currentPath();
     QFile strengths("valori.tip");
     EXPECT_TRUE(strengths.open(QIODevice::WriteOnly));
     strengths.write("1000\r\n5000\r\n5000\r\n5000\r\n5000\r\n");

@@ -22,6 +22,7 @@ class Busy : public Program {
         session.form1.Control(entry::Undo - 1).trigger();
         session.form1.Control(entry::Inf - 1).trigger();
         session.form1.Control(30).trigger();
+        EXPECT_TRUE(session.form1.Control(30).isChecked());
         Button("SSCommand16").click();
         Button("SSCommand4").click();
         Button("Command1").click();
