@@ -87,6 +87,19 @@ void Model::Open(const std::string& name)
     Load(*files.at(name));
 }
 
+void Model::BringBack(const std::string& name, const Surface& picture)
+{
+    opened = name;
+    isOpen = true;
+    modified = true;
+    Rename(name);
+    Load(picture);
+    Switch(Salva, true);
+    Switch(Orig, true);
+    paletteOriginal = true;
+    ShowPreview();
+}
+
 void Model::MoveCheck(const Effect& effect)
 {
     if (effect.entry != 0) checked = effect.entry;

@@ -25,6 +25,8 @@ class Model {
     Strengths strengths{0, 1000, 5000, 5000, 5000, 5000};
 
     void Open(const std::string& name);
+    /// What a run that ended badly had made of that picture is on the canvas again.
+    void BringBack(const std::string& name, const Surface& picture);
     /// The run-time error that it ended in, if any; the canvas is half drawn then.
     std::optional<FaultKind> RunEffect(const Effect& effect);
     void Undo();

@@ -44,7 +44,8 @@ Player::Player(Session& session, ScriptedDialogs& dialogs, std::uint64_t seed)
     QFile strengths("valori.tip");
     EXPECT_TRUE(strengths.open(QIODevice::WriteOnly));
     strengths.write("1000\r\n5000\r\n5000\r\n5000\r\n5000\r\n");
-    MakePictures();
+    if (!QFile::exists("figura 1.bmp")) MakePictures();
+    ReadPictures();
 }
 
 std::string Player::Path(const std::string& name) const
@@ -56,13 +57,23 @@ void Player::MakePictures()
 {
     int number = 0;
     for (const int height : {Number(1, 4), Number(5, 16), Number(5, 24)}) {
-        const std::string name = Path("figura " + std::to_string(++number) + ".bmp");
-        model.files[name] =
-            RandomPicture(Number(std::max(1, height - 3), height + 5), height, random_);
-        WriteBitmap(*model.files[name], name);
+        const int width = Number(std::max(1, height - 3), height + 5);
+        WriteBitmap(RandomPicture(width, height, random_),
+                    Path("figura " + std::to_string(++number) + ".bmp"));
     }
-    model.files[Path("guasta.bmp")] = std::nullopt;
     WriteGarbage(Path("guasta.bmp"));
+}
+
+void Player::ReadPictures()
+{
+    for (const QString& file : QDir().entryList({"*.bmp"}, QDir::Files)) {
+        const std::string name = Path(file.toStdString());
+        try {
+            model.files[name] = ReadPicture(name).picture;
+        } catch (const PictureError&) {
+            model.files[name] = std::nullopt;
+        }
+    }
 }
 
 Player::Command Player::Next()
@@ -311,6 +322,8 @@ Player::Command Player::CloseWindow()
 Player::Command Player::SpoilOrMend()
 {
     const std::string name = model.opened;
+    // What was saved stays whole, whatever happens: that is looked at after a crash.
+    if (name.find("figura") == std::string::npos) return History();
     const bool spoil = model.files[name].has_value();
     model.files[name] = spoil ? std::nullopt
                               : std::optional(RandomPicture(model.Canvas().Width(),

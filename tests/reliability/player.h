@@ -14,7 +14,8 @@ namespace pixano::test {
 
 class Player {
   public:
-    /// Makes the picture files in the current folder. `seed`: of what the user does.
+    /// Makes the picture files in the current folder unless they are there. `seed`: of what the
+    /// user does.
     Player(Session& session, ScriptedDialogs& dialogs, std::uint64_t seed);
 
     /// A command that the model has carried out already.
@@ -40,6 +41,7 @@ class Player {
     }
     std::string Path(const std::string& name) const;
     void MakePictures();
+    void ReadPictures();
 
     Command OpenSomething();
     std::string ChosenName();
