@@ -210,14 +210,11 @@ bool Model::Original()
     countSaved_ = count_;
     count_ = 0;
     const std::optional<Surface>& picture = files.at(opened);
-    if (!picture) {
-        canvasCaption = Sized(shortName_);
-        return false;
-    }
-    mirror_.work.Picture1 = preview = *picture;
     Rename(opened);
-    if (!modified) Load(*picture);
     canvasCaption = Sized(shortName_);
+    if (!picture) return false;
+    mirror_.work.Picture1 = preview = *picture;
+    if (!modified) Load(*picture);
     modified = false;
     return true;
 }
