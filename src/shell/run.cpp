@@ -14,7 +14,7 @@ namespace pixano {
 namespace {
 
 /// Unsaved work, without what a failed effect has drawn, as a BMP in the data folder; what to tell
-/// the user about it.
+/// the user about it. The note of the last copy stays, so the next start offers the work too.
 QString KeepUnsavedWork(const Session& s)
 {
     if (s.doc.Modificato == 0) return {};
@@ -26,7 +26,6 @@ QString KeepUnsavedWork(const Session& s)
             SaveBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), path.toStdString());
         else
             SaveBitmap(canvas, path.toStdString());
-        ForgetCanvasCopy();
         return "\n\nIl lavoro non salvato è stato conservato nel file " + path;
     } catch (const std::exception& error) {
         return "\n\nIl lavoro non salvato non è stato conservato: " +
