@@ -37,6 +37,7 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     constexpr int Last = 200;
     for (int value = Step; value <= Last; value += Step)
         combo1_->addItem(QString::number(value));
+    combo1_->installEventFilter(this);
     combo1_->lineEdit()->installEventFilter(this);
     auto* const ok = new QPushButton("OK");
     ok->setObjectName("Command1");

@@ -8,37 +8,77 @@
 #include "shell/start_end.h"
 #include "support/effect_run.h"
 #include "support/scripted_dialogs.h"
+#include "support/temporary_folder.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QFileInfo>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace pixano::test {
 
-/// Starts the program in an empty folder, with an empty data folder, and clicks the start-up
-/// picture away.
-class Program : public testing::Test {
-  protected:
-    Program() : before_(QDir::currentPath())
+/// Which of the history commands can be used.
+struct History {
+    bool annulla;
+    bool originale;
+    bool ripristina;
+
+    friend bool operator==(const History&, const History&) = default;
+    friend std::ostream& operator<<(std::ostream& out, const History& h)
     {
+        return out << "Annulla " << h.annulla << ", Originale " << h.originale << ", Ripristina "
+                   << h.ripristina;
+    }
+};
+
+/// The program in an empty folder, with an empty data folder, as it is before its start.
+class UnstartedProgram : public testing::Test {
+  protected:
+    UnstartedProgram() : before_(QDir::currentPath())
+    {
+        ForgetEarlierEnd();
         qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
         QDir(folder_.path()).mkdir("work");
         QDir::setCurrent(folder_.filePath("work"));
         ConnectEvents(session);
-        ClickAway();
-        Run(session, "Avvio", FaultEnds::Program, [&] { Form_Load(session); });
     }
-    ~Program() override { QDir::setCurrent(before_); }
+    ~UnstartedProgram() override { QDir::setCurrent(before_); }
+
+    /// Runs the start-up; `closing` is done to the start-up picture's window once it is up.
+    void Start(const std::function<void(QWidget&)>& closing)
+    {
+        QTimer::singleShot(0, [closing] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            ASSERT_NE(modal, nullptr);
+            closing(*modal);
+        });
+        pixano::Run(session, "Avvio", FaultEnds::Program, [&] { Form_Load(session); });
+    }
 
     /// A path in the folder that the program runs in.
     static QString Path(const QString& name) { return QDir::current().filePath(name); }
+    /// A path in the program's data folder.
+    QString Data(const QString& name) const { return folder_.filePath("data/pixano/" + name); }
+    /// The bytes of a file in the folder that the program runs in, or of one named in full.
+    static std::string Bytes(const QString& name) { return BytesOf(Path(name).toStdString()); }
+    static void Write(const QString& name, const std::string& bytes)
+    {
+        WriteBytes(Path(name).toStdString(), bytes);
+    }
+    static bool Exists(const QString& path) { return QFileInfo::exists(path); }
+    /// The letters of the picture in that file.
+    static Letters Kept(const QString& path)
+    {
+        return LettersOf(ReadPicture(path.toStdString()).picture);
+    }
 
     /// Makes a bitmap of the picture and gives its path.
     static QString Made(const QString& name, const Surface& picture)
@@ -70,18 +110,27 @@ class Program : public testing::Test {
         ASSERT_NE(row, nullptr) << effect;
         RunEffectCommand(session, *row);
     }
-
-    /// Once a modal window is up, clicks its start-up picture.
-    static void ClickAway()
+    /// Saves by way of the menu; the dialog answers with that name.
+    void SaveAs(const QString& path)
     {
-        QTimer::singleShot(0, [] {
-            auto* const modal = QApplication::activeModalWidget();
-            ASSERT_NE(modal, nullptr);
-            QTest::mouseClick(modal->findChild<QWidget*>("Picture1"), Qt::LeftButton);
-        });
+        dialogs.saveNames.push_back(path);
+        ClickEntry(entry::Salva);
+    }
+
+    QPushButton& Button(const char* name) { return *session.form10.findChild<QPushButton*>(name); }
+    History MenuHistory() const
+    {
+        return {Enabled(entry::Undo), Enabled(entry::Orig), Enabled(entry::Redo)};
+    }
+    History PaletteHistory()
+    {
+        return {Button("SSCommand15").isEnabled(), Button("SSCommand16").isEnabled(),
+                Button("SSCommand17").isEnabled()};
     }
 
     const Surface& Canvas() const { return session.work.Picture1; }
+    Letters CanvasLetters() const { return LettersOf(Canvas()); }
+    Letters PreviewLetters() { return LettersOf(session.form9.Image1().Picture()); }
     QString CanvasCaption() const { return session.form2.windowTitle(); }
     QString PreviewCaption() const { return session.form9.windowTitle(); }
 
@@ -90,7 +139,26 @@ class Program : public testing::Test {
     Session session{dialogs, Timer(1)};
 
   private:
+    /// A program that ended in an earlier test leaves word to every event loop; only a new main
+    /// loop forgets it.
+    static void ForgetEarlierEnd()
+    {
+        QTimer::singleShot(0, [] { QApplication::exit(0); });
+        QApplication::exec();
+    }
+
     QString before_;
+};
+
+/// Starts the program and clicks the start-up picture away.
+class Program : public UnstartedProgram {
+  protected:
+    Program()
+    {
+        Start([](QWidget& window) {
+            QTest::mouseClick(window.findChild<QWidget*>("Picture1"), Qt::LeftButton);
+        });
+    }
 };
 
 }  // namespace pixano::test

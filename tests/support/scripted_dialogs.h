@@ -10,6 +10,14 @@
 #include <ostream>
 #include <vector>
 
+QT_BEGIN_NAMESPACE
+/// Lets a failed comparison show the text.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+QT_END_NAMESPACE
+
 namespace pixano::test {
 
 /// One message box as it was shown.
@@ -32,22 +40,29 @@ class ScriptedDialogs : public Dialogs {
     bool Ask(BoxIcon icon, const QString& title, const QString& text) override
     {
         asked.push_back({icon, title, text});
+        meanwhile();
         return Next(answers, false);
     }
     void Tell(BoxIcon icon, const QString& title, const QString& text) override
     {
         told.push_back({icon, title, text});
+        meanwhile();
     }
     std::optional<QString> AskOpenName(const QString& folder) override
     {
         openFolders.push_back(folder);
+        meanwhile();
         return Next(openNames, std::optional<QString>());
     }
     std::optional<QString> AskSaveName(const QString& folder) override
     {
         saveFolders.push_back(folder);
+        meanwhile();
         return Next(saveNames, std::optional<QString>());
     }
+
+    /// What happens while a box or dialog is open.
+    std::function<void()> meanwhile = [] {};
 
     std::deque<bool> answers;
     /// Nothing stands for a cancelled dialog.
