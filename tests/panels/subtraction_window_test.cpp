@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace pixano::test {
 namespace {
 
@@ -56,6 +58,11 @@ TEST_F(SubtractionWindow, StandsInTheMiddleOfTheScreen)
 struct Bound {
     const char* typed;
     const char* text;
+
+    friend std::ostream& operator<<(std::ostream& out, const Bound& bound)
+    {
+        return out << '"' << bound.typed << '"';
+    }
 };
 
 class BoundText : public SubtractionWindow, public testing::WithParamInterface<Bound> {};
