@@ -1,3 +1,4 @@
+#include "panels/fitted_picture.h"
 #include "panels/form5.h"
 #include "panels/form6.h"
 #include "panels/form7.h"
@@ -80,6 +81,18 @@ TEST(OpeningPicture, StaysAtOtherKeys)
     window.show();
     QTest::keyClick(&window, Qt::Key_A);
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST(FittedPicture, ShrinksInProportionWhereTheScreenIsTooSmall)
+{
+    const QScreen& screen = *QApplication::primaryScreen();
+    constexpr int Left = 300;  // for picture and borders together
+    const QSize beside(screen.availableGeometry().width() - Left, 0);
+    const std::unique_ptr<QLabel> label(FittedPicture("apertura.jpg", beside));
+    const QSize shown = label->pixmap().deviceIndependentSize().toSize();
+    EXPECT_LE(shown.width(), Left);
+    EXPECT_GT(shown.width(), Left / 2);
+    EXPECT_NEAR(shown.height(), shown.width() * 420.0 / 640, 1);
 }
 
 class Description : public testing::Test {
