@@ -46,7 +46,9 @@ void Abil(Session& s)
     if (d.NumEffetti > 1) s.form1.Enable(entry::Undo, true);
     s.form1.Enable(entry::Orig, true);
     s.form1.Enable(entry::Redo, false);
-    s.form10.EnableHistory({.annulla = {}, .originale = {}, .ripristina = false});
+    // The palette's buttons stand for the menu's entries: what they went forward to is gone.
+    s.form10.EnableHistory(
+        {.annulla = std::nullopt, .originale = std::nullopt, .ripristina = false});
     s.form10.ShowHourglass(true);
     d.InOriginale = 0;
     d.Annullato = 0;
