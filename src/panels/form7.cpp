@@ -20,7 +20,7 @@ QString Description()
 
 Form7::Form7()
 {
-    constexpr QSize TextSize(460, 300);
+    constexpr QSize TextSize(460, 210);
     setObjectName("Form7");
     setWindowTitle(QString());
     setAccessibleName("Descrizione del programma");

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -37,17 +38,20 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     constexpr int Last = 200;
     for (int value = Step; value <= Last; value += Step)
         combo1_->addItem(QString::number(value));
+    combo1_->installEventFilter(this);
     combo1_->lineEdit()->installEventFilter(this);
     auto* const ok = new QPushButton("OK");
     ok->setObjectName("Command1");
     ok->setDefault(true);
     auto* const cancel = new QPushButton("Annulla");
     cancel->setObjectName("Command2");
+    auto* const buttons = new QHBoxLayout;
+    buttons->addWidget(ok, 1);
+    buttons->addWidget(cancel, 1);
     auto* const grid = new QGridLayout(this);
     grid->addWidget(label, 0, 0);
     grid->addWidget(combo1_, 0, 1);
-    grid->addWidget(ok, 1, 0);
-    grid->addWidget(cancel, 1, 1);
+    grid->addLayout(buttons, 1, 0, 1, 2);
     connect(combo1_, &QComboBox::editTextChanged, this,
             [this](const QString& text) { result_.TestoSottrazione = text; });
     connect(ok, &QPushButton::clicked, this, [this] {

@@ -43,6 +43,7 @@ Form1::Form1()
 void Form1::BuildMenus()
 {
     menuBar()->setObjectName("MenuBar");
+    menuBar()->setAccessibleName("Comandi");
     menuBar()->setNativeMenuBar(false);
     const int count = static_cast<int>(MenuEntries().size());
     for (int index = 1; index <= count; ++index)

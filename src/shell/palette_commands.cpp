@@ -48,6 +48,7 @@ void AskStrengthAndRun(Session& s, const Effect& effect)
     Form11 window(name, s.form10);
     s.work.IndValore = static_cast<std::int16_t>(effect.selector);
     QObject::connect(&window, &Form11::Resized, [&] {
+        if (s.ending) return;
         RunInside(s, name, FaultEnds::Program, [&] { ReadStrength(s, window); });
         // The window is only about to be shown and cannot be closed from here.
         if (s.ending) QTimer::singleShot(0, &window, &QDialog::reject);

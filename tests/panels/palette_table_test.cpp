@@ -1,0 +1,95 @@
+#include "panels/palette_table.h"
+
+#include "panels/expected_buttons.h"
+#include "panels/form10.h"
+#include "shell/menu_table.h"
+
+#include <QGroupBox>
+
+#include <gtest/gtest.h>
+
+namespace pixano::test {
+namespace {
+
+std::string FrameAround(const QWidget& button)
+{
+    const auto* const frame = qobject_cast<QGroupBox*>(button.parentWidget());
+    return frame != nullptr ? frame->title().toStdString() : "";
+}
+
+TEST(PaletteTable, HasTheseButtonsInThisOrder)
+{
+    ASSERT_EQ(PaletteButtons().size(), ExpectedButtons.size());
+    for (std::size_t i = 0; i < ExpectedButtons.size(); ++i)
+        EXPECT_STREQ(PaletteButtons()[i].name, ExpectedButtons[i].name);
+}
+
+TEST(PaletteTable, SaysOneThingThatEveryButtonDoes)
+{
+    for (std::size_t i = 0; i < ExpectedButtons.size(); ++i) {
+        const PaletteButton& row = PaletteButtons()[i];
+        const ExpectedButton& expected = ExpectedButtons[i];
+        EXPECT_EQ(row.entry, expected.entry) << row.name;
+        EXPECT_EQ(row.zoom, expected.zoom) << row.name;
+        const bool ownEffect = expected.entry == 0 && expected.zoom == 0;
+        EXPECT_STREQ(row.effect, ownEffect ? expected.effect : nullptr) << row.name;
+    }
+}
+
+TEST(Palette, ShowsEveryButtonAsItIsTabled)
+{
+    const Form10 palette;
+    EXPECT_EQ(palette.findChildren<QPushButton*>().size(), 28);
+    for (const ExpectedButton& expected : ExpectedButtons) {
+        const auto* const button = palette.findChild<QPushButton*>(expected.name);
+        ASSERT_NE(button, nullptr) << expected;
+        EXPECT_EQ(button->text(), QString::fromUtf8(expected.caption)) << expected;
+        EXPECT_EQ(button->toolTip(), QString::fromUtf8(expected.toolTip)) << expected;
+        EXPECT_EQ(FrameAround(*button), expected.frame) << expected;
+    }
+}
+
+TEST(Palette, ShowsPicturesOnTheButtonsWithoutCaption)
+{
+    const Form10 palette;
+    QList<QByteArray> shown;
+    for (const char* name : {"SSCommand9", "SSCommand10", "Command1", "Command2"}) {
+        const auto* const button = palette.findChild<QPushButton*>(name);
+        ASSERT_TRUE(button->text().isEmpty()) << name;
+        // Large enough for a screen of double scale, and no two alike.
+        const QImage picture = button->icon().pixmap(QSize(48, 48)).toImage();
+        ASSERT_EQ(picture.size(), QSize(48, 48)) << name;
+        const QByteArray bytes(reinterpret_cast<const char*>(picture.bits()),
+                               picture.sizeInBytes());
+        EXPECT_FALSE(shown.contains(bytes)) << name;
+        shown.append(bytes);
+    }
+}
+
+TEST(Palette, WritesItsSymbolsInTheirFont)
+{
+    const Form10 palette;
+    for (const ExpectedButton& expected : ExpectedButtons) {
+        const QFont font = palette.findChild<QPushButton*>(expected.name)->font();
+        const bool symbol = std::string(expected.frame) == "Riflessi ";
+        EXPECT_EQ(font.families().contains("MS Sans Serif"), symbol) << expected;
+    }
+}
+
+TEST(Palette, TellsWhichButtonWasPressed)
+{
+    Form10 palette;
+    palette.show();
+    std::vector<std::string> told;
+    QObject::connect(&palette, &Form10::Pressed,
+                     [&](const PaletteButton& button) { told.emplace_back(button.name); });
+    std::vector<std::string> expected;
+    for (const ExpectedButton& button : ExpectedButtons) {
+        expected.emplace_back(button.name);
+        palette.findChild<QPushButton*>(button.name)->click();
+    }
+    EXPECT_EQ(told, expected);
+}
+
+}  // namespace
+}  // namespace pixano::test
