@@ -1,0 +1,232 @@
+// Files of a few bytes that ask for much: what reading them may take, in time and in memory.
+#include "pictures/bmp_maker.h"
+#include "pictures/gif_maker.h"
+#include "pictures/jpeg_maker.h"
+#include "reliability/fuzz_kinds.h"
+#include "reliability/fuzz_memory.h"
+#include "reliability/fuzz_time.h"
+
+#include <gmock/gmock.h>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace pixano::test {
+namespace {
+
+using testing::HasSubstr;
+
+constexpr int Side = 4096;
+constexpr double Pixels = double{Side} * Side;
+
+/// The file with the sides of its frame header replaced.
+Bytes WithSides(Bytes file, int width, int height)
+{
+    std::vector<std::byte>& bytes = file.Vector();
+    std::size_t i = 2;
+    while (bytes[i + 1] != std::byte{0xC0} && bytes[i + 1] != std::byte{0xC2})
+        i += 2 + (std::to_integer<std::size_t>(bytes[i + 2]) << 8 |
+                  std::to_integer<std::size_t>(bytes[i + 3]));
+    bytes[i + 5] = static_cast<std::byte>(height >> 8);
+    bytes[i + 6] = static_cast<std::byte>(height & 255);
+    bytes[i + 7] = static_cast<std::byte>(width >> 8);
+    bytes[i + 8] = static_cast<std::byte>(width & 255);
+    return file;
+}
+
+/// A progressive file in which the last scan, which goes through all pixels again and changes
+/// none, comes `scans` times.
+Bytes WithScans(int width, int height, int scans)
+{
+    static constexpr jpeg_scan_info Script[] = {
+        {1, {0}, 0, 0, 0, 0}, {1, {0}, 1, 63, 0, 1}, {1, {0}, 1, 63, 1, 0}};
+    JpegPlan plan{.width = width, .height = height, .space = JCS_GRAYSCALE};
+    plan.samples.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 77);
+    plan.set = [](jpeg_compress_struct& jpeg) {
+        jpeg.scan_info = Script;
+        jpeg.num_scans = 3;
+    };
+    Bytes file = MakeJpeg(plan);
+    std::vector<std::byte>& bytes = file.Vector();
+    std::size_t last = bytes.size() - 2;
+    while (bytes[last] != std::byte{0xFF} || bytes[last + 1] != std::byte{0xDA})
+        --last;
+    const std::vector<std::byte> scan(bytes.begin() + static_cast<std::ptrdiff_t>(last),
+                                      bytes.end() - 2);
+    bytes.resize(bytes.size() - 2);
+    for (int i = 1; i < scans; ++i)
+        bytes.insert(bytes.end(), scan.begin(), scan.end());
+    return file.Add({0xFF, 0xD9});
+}
+
+Bytes LargeBitmap()
+{
+    return Bmp({.width = Side, .height = Side}, {}, Bytes().Zeros(100));
+}
+
+/// Runs of one colour, each a row or what is left of it.
+Bytes LargeRuns()
+{
+    Bytes runs;
+    for (int i = 0; i < Side * 17; ++i)
+        runs.Add(i % 17 == 16 ? Bytes{0, 0} : Bytes{255, 1});
+    return Bmp({.width = Side, .height = Side, .bits = 8, .compression = 1}, Bytes().Zeros(1024),
+               runs);
+}
+
+Bytes LargeJpeg(const std::function<void(jpeg_compress_struct&)>& set)
+{
+    return WithSides(MakeJpeg(Shaded(16, 16), set), Side, Side);
+}
+
+void Progressive(jpeg_compress_struct& jpeg)
+{
+    jpeg_simple_progression(&jpeg);
+}
+
+Bytes LargeInks()
+{
+    JpegPlan plan{.width = 8, .height = 8, .space = JCS_CMYK, .set = Progressive};
+    plan.samples.assign(8 * 8 * 4, 99);
+    return WithSides(MakeJpeg(plan), Side, Side);
+}
+
+/// Ends before its last row does, so that it is read again pixel by pixel.
+Bytes LargeGif()
+{
+    Bytes file = GifScreen(Side, Side).Add(GifFrame(0, 0, Side, Side)).Add({2});
+    // Codes of the greatest length that stand for longer and longer rows of one colour.
+    int bits = 3;
+    int waiting = 0;
+    std::uint32_t held = 0;
+    Bytes packed;
+    const auto put = [&](std::uint32_t code) {
+        held |= code << waiting;
+        for (waiting += bits; waiting >= 8; waiting -= 8, held >>= 8)
+            packed.Add({static_cast<int>(held & 255)});
+    };
+    put(4);
+    put(0);
+    std::uint32_t next = 6;
+    for (long drawn = 1, length = 2; drawn < long{Side} * (Side - 1); drawn += length) {
+        put(next);
+        if (next < 4095) {
+            ++next;
+            ++length;
+        }
+        if (next == 1U << bits && bits < 12) ++bits;
+    }
+    for (std::size_t i = 0; i + 255 <= packed.Size(); i += 255) {
+        file.Add({255});
+        file.Vector().insert(file.Vector().end(),
+                             packed.Vector().begin() + static_cast<std::ptrdiff_t>(i),
+                             packed.Vector().begin() + static_cast<std::ptrdiff_t>(i + 255));
+    }
+    return file;
+}
+
+struct Large {
+    const char* name;
+    Bytes (*file)();
+    /// The picture itself, and where the format needs them all coefficients of it.
+    int bytesForAPixel;
+};
+
+void PrintTo(const Large& large, std::ostream* out)
+{
+    *out << large.name;
+}
+
+constexpr Large Larges[] = {{"Bitmap", LargeBitmap, 4},
+                            {"BitmapInRuns", LargeRuns, 4},
+                            {"Jpeg", [] { return LargeJpeg({}); }, 4},
+                            {"ProgressiveJpeg", [] { return LargeJpeg(Progressive); }, 4 + 3 * 2},
+                            {"ProgressiveInks", LargeInks, 4 + 4 * 2},
+                            {"Gif", LargeGif, 4}};
+
+class SmallFileOfALargePicture : public testing::TestWithParam<Large> {};
+
+/// The most memory that this process has used at once.
+double MemoryUsed()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) * 1024;
+}
+
+/// Runs `step` in a process of its own, which starts with little memory used.
+template <class Step>
+void InAProcessOfItsOwn(Step step)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        step();
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+}
+
+TEST_P(SmallFileOfALargePicture, TakesBoundedTimeAndMemory)
+{
+    constexpr double Longest = 5;
+    constexpr double Besides = 48 << 20;
+    const Bytes file = GetParam().file();
+    InAProcessOfItsOwn([&] {
+        const double memory = MemoryUsed();
+        const double before = SecondsUsed();
+        const PictureRead read = file.Read();
+        EXPECT_EQ(read.picture.Width(), Side);
+        EXPECT_LT(SecondsUsed() - before, Longest);
+        EXPECT_LT(MemoryUsed() - memory, Pixels * GetParam().bytesForAPixel + Besides);
+        std::printf("%s: %zu bytes, %.2f s, %.0f MB\n", GetParam().name, file.Size(),
+                    SecondsUsed() - before, (MemoryUsed() - memory) / 1e6);
+    });
+}
+
+TEST_P(SmallFileOfALargePicture, IsRefusedWhereMemoryIsShort)
+{
+    const Bytes file = GetParam().file();
+    // Enough for everything but the picture; then for the picture, but not for what is bigger.
+    for (const std::size_t megabytes : {32U, 80U}) {
+        std::string refusal;
+        {
+            const MemoryRoom room(megabytes << 20);
+            refusal = file.Refusal();
+        }
+        const bool isEnough =
+            megabytes == 80 && (GetParam().bytesForAPixel == 4 || !MallocIsBounded);
+        EXPECT_THAT(refusal, HasSubstr(isEnough ? "" : "la memoria non basta"));
+        EXPECT_EQ(refusal.empty(), isEnough);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Bounds, SmallFileOfALargePicture, testing::ValuesIn(Larges),
+                         [](const auto& tried) { return std::string(tried.param.name); });
+
+TEST(SlowJpeg, IsReadOrRefusedInBoundedTime)
+{
+    // The most work that is done for a file of this format: 8 thousand million pixels scanned.
+    constexpr double Longest = 60;
+    const int side = IsLong() ? 8192 : 2048;
+    const double before = SecondsUsed();
+    EXPECT_EQ(WithScans(side, side, IsLong() ? 120 : 60).Refusal(), "");
+    EXPECT_THAT(WithScans(side, side, 600).Refusal(), HasSubstr("troppi strati"));
+    EXPECT_LT(SecondsUsed() - before, Longest);
+}
+
+TEST(FilesToChange, CanBeReadWhole)
+{
+    for (const auto& files : {BmpFiles(), JpegFiles(), GifFiles()}) {
+        EXPECT_GE(files.size(), 7U);
+        for (const Bytes& file : files) {
+            EXPECT_EQ(file.Refusal(), "");
+            EXPECT_FALSE(file.Read().truncated);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace pixano::test

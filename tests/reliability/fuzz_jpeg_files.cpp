@@ -1,0 +1,100 @@
+// JPEG files: sequential, progressive and arithmetic, grey, in colours and in inks, with and
+// without an Exif block.
+#include "pictures/jpeg_maker.h"
+#include "reliability/fuzz_kinds.h"
+
+namespace pixano::test {
+namespace {
+
+using Set = std::function<void(jpeg_compress_struct&)>;
+
+void Coarse(jpeg_compress_struct& jpeg)
+{
+    jpeg_set_quality(&jpeg, 60, TRUE);
+}
+
+void Progressive(jpeg_compress_struct& jpeg)
+{
+    Coarse(jpeg);
+    jpeg_simple_progression(&jpeg);
+}
+
+void Halved(jpeg_compress_struct& jpeg)
+{
+    Coarse(jpeg);
+    jpeg.comp_info[0].h_samp_factor = jpeg.comp_info[0].v_samp_factor = 2;
+}
+
+void HalvedProgressive(jpeg_compress_struct& jpeg)
+{
+    Halved(jpeg);
+    jpeg_simple_progression(&jpeg);
+}
+
+void Restarting(jpeg_compress_struct& jpeg)
+{
+    Coarse(jpeg);
+    jpeg.restart_interval = 2;
+}
+
+void Arithmetic(jpeg_compress_struct& jpeg)
+{
+    Progressive(jpeg);
+    jpeg.arith_code = TRUE;
+}
+
+void OneScanForEachColour(jpeg_compress_struct& jpeg)
+{
+    static constexpr jpeg_scan_info Scans[] = {
+        {1, {0}, 0, 63, 0, 0}, {1, {1}, 0, 63, 0, 0}, {1, {2}, 0, 63, 0, 0}};
+    jpeg.scan_info = Scans;
+    jpeg.num_scans = 3;
+}
+
+/// An Exif block that turns the picture a quarter, and a block of another kind.
+void WriteExif(jpeg_compress_struct& jpeg)
+{
+    const Bytes exif = Bytes()
+                           .Add(std::string_view("Exif\0\0II*\0\x08\0\0\0", 14))
+                           .U16(1)
+                           .U16(0x0112)
+                           .U16(3)
+                           .U32(1)
+                           .U32(6)
+                           .U32(0);
+    const auto* const data = reinterpret_cast<const JOCTET*>(exif.Vector().data());
+    jpeg_write_marker(&jpeg, JPEG_APP0 + 1, data, static_cast<unsigned>(exif.Size()));
+    jpeg_write_marker(&jpeg, JPEG_COM, data, 5);
+}
+
+/// Samples that stand for light or for inks, as many as a pixel has.
+Bytes OtherColours(J_COLOR_SPACE space, std::size_t components, const Set& set)
+{
+    JpegPlan plan{.width = 21, .height = 18, .space = space, .set = set};
+    for (std::size_t i = 0; i < 21 * 18 * components; ++i)
+        plan.samples.push_back(static_cast<std::uint8_t>(i * 5 + i / 84 * 3));
+    return MakeJpeg(plan);
+}
+
+}  // namespace
+
+std::vector<Bytes> JpegFiles()
+{
+    const Surface picture = Shaded(37, 26);
+    std::vector<Bytes> files;
+    for (const auto set : {Coarse, Progressive, Halved, HalvedProgressive, Restarting, Arithmetic,
+                           OneScanForEachColour})
+        files.push_back(MakeJpeg(picture, set));
+    for (const auto set : {Coarse, Progressive}) {
+        files.push_back(MakeJpeg(picture, set, WriteExif));
+        files.push_back(OtherColours(JCS_GRAYSCALE, 1, set));
+        files.push_back(OtherColours(JCS_CMYK, 4, set));
+        files.push_back(OtherColours(JCS_CMYK, 4, [set](jpeg_compress_struct& jpeg) {
+            set(jpeg);
+            jpeg_set_colorspace(&jpeg, JCS_YCCK);
+        }));
+    }
+    return files;
+}
+
+}  // namespace pixano::test

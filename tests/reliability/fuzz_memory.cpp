@@ -1,0 +1,89 @@
+#include "reliability/fuzz_memory.h"
+
+#include <atomic>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+namespace {
+
+constexpr std::size_t NoLimit = SIZE_MAX / 2;
+
+std::atomic<std::size_t> room{NoLimit};
+std::atomic<unsigned char> fill{0};
+
+/// Whether there are so many bytes; takes them.
+bool Take(std::size_t count)
+{
+    if (count > room) return false;
+    if (room < NoLimit) room -= count;
+    return true;
+}
+
+void* Filled(void* memory, std::size_t count)
+{
+    if (memory != nullptr) std::memset(memory, fill, count);
+    return memory;
+}
+
+}  // namespace
+
+#ifdef __SANITIZE_ADDRESS__
+
+// The sanitizer has taken malloc's place; what C++ asks for can still be answered here.
+void* operator new(std::size_t count)
+{
+    void* const memory = Take(count) ? std::malloc(count) : nullptr;
+    if (memory == nullptr) throw std::bad_alloc();
+    return Filled(memory, count);
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+#else
+
+extern "C" {
+
+void* __libc_malloc(std::size_t count);
+
+/// Comes before the C library's own, for the libraries of the formats too.
+void* malloc(std::size_t count)
+{
+    return Take(count) ? Filled(__libc_malloc(count), count) : nullptr;
+}
+
+}  // extern "C"
+
+#endif
+
+namespace pixano::test {
+
+[[gnu::noinline]] void FillFreshMemory(unsigned char byte)
+{
+    constexpr std::size_t Deeper = 256 * 1024;  // than what is tested goes
+    fill = byte;
+    volatile unsigned char stack[Deeper];
+    for (volatile unsigned char& place : stack)
+        place = byte;
+}
+
+MemoryRoom::MemoryRoom(std::size_t bytes)
+{
+    room = bytes;
+}
+
+MemoryRoom::~MemoryRoom()
+{
+    room = NoLimit;
+}
+
+}  // namespace pixano::test

@@ -1,0 +1,114 @@
+// Every effect on pictures of every small size and of the sizes where something ends: it paints or
+// tells a run-time error, and the snapshot taken before gives back every byte.
+#include "batch/chain.h"
+#include "effects/catalogue.h"
+#include "pictures/temporary_folder.h"
+#include "reliability/fuzz_time.h"
+#include "support/effect_run.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace pixano::batch {
+namespace {
+
+using pixano::test::IsLong;
+using pixano::test::TemporaryFolder;
+using pixano::test::Varied;
+
+struct Size {
+    int width;
+    int height;
+};
+
+class EffectsOnSizes : public testing::Test {
+  protected:
+    /// Runs every effect on a picture of that size, one after another as a user might, each on what
+    /// the one before has left.
+    void TryAll(Size size)
+    {
+        ChainProgress progress;
+        Work w(MemoryStore(), progress, Timer(7));
+        Surface picture = Varied(size.width, size.height);
+        for (const Effect& effect : Catalogue()) {
+            WriteBitmap(picture, snapshot);
+            const bool done = Run(w, effect, picture);
+            SCOPED_TRACE(std::string(effect.name) + " on " + std::to_string(size.width) + "x" +
+                         std::to_string(size.height) + (done ? "" : ", which failed"));
+            EXPECT_EQ(w.Picture1.Width(), size.width);
+            EXPECT_EQ(w.Picture1.Height(), size.height);
+            EXPECT_TRUE(ReadWorkingPicture(snapshot).picture == picture);
+            if (HasFailure()) return;
+            if (done) picture = w.Picture1;
+        }
+    }
+
+    /// False when the effect ended in a run-time error. Everything else that is thrown fails the
+    /// test.
+    bool Run(Work& w, const Effect& effect, const Surface& picture)
+    {
+        constexpr Strengths Middle{0, 2500, 2500, 2500, 2500, 2500};
+        ++runs;
+        PutOnCanvas(w, picture);
+        try {
+            const Step step{&effect, std::nullopt};
+            ChainProgress progress;
+            RunChain(w, std::span(&step, 1), Middle, "", progress);
+            return true;
+        } catch (const EffectFailed&) {
+            ++faults;
+            return false;
+        }
+    }
+
+    void Tell() const { std::printf("%d runs, %d run-time errors told\n", runs, faults); }
+
+    TemporaryFolder folder;
+    const std::string snapshot = folder / "temp.bml";
+    int runs = 0;
+    int faults = 0;
+};
+
+TEST_F(EffectsOnSizes, From1To12)
+{
+    for (int height = 1; height <= 12; ++height)
+        for (int width = 1; width <= 12; ++width)
+            TryAll({width, height});
+    Tell();
+    EXPECT_EQ(runs, 144 * static_cast<int>(Catalogue().size()));
+}
+
+// The matrices end at 1500.
+TEST_F(EffectsOnSizes, AtTheEndOfTheMatrices)
+{
+    for (const int side : {1499, 1500, 1501, 1502})
+        for (const int other : {1, 2, 8}) {
+            TryAll({side, other});
+            TryAll({other, side});
+        }
+    Tell();
+}
+
+TEST_F(EffectsOnSizes, TheLongestSides)
+{
+    TryAll({32767, 1});
+    TryAll({1, 32767});
+    Tell();
+}
+
+class EffectsOnLargeSizes : public EffectsOnSizes, public testing::WithParamInterface<int> {};
+
+TEST_P(EffectsOnLargeSizes, AtTheEndOfTheMatrices)
+{
+    if (!IsLong()) return TryAll({GetParam(), 40});
+    for (const int height : {1499, 1500, 1501, 1502})
+        TryAll({GetParam(), height});
+    Tell();
+}
+
+INSTANTIATE_TEST_SUITE_P(Limit, EffectsOnLargeSizes, testing::Values(1499, 1500, 1501, 1502),
+                         testing::PrintToStringParamName());
+
+}  // namespace
+}  // namespace pixano::batch
