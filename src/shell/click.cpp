@@ -1,15 +1,12 @@
-// Which command a click starts, and which event starts which command.
+#include "shell/click.h"
+
 #include "panels/form5.h"
 #include "panels/form7.h"
-#include "shell/commands.h"
 #include "shell/effect_frame.h"
 #include "shell/history.h"
 #include "shell/menu_table.h"
 #include "shell/opening.h"
-#include "shell/palette_commands.h"
-#include "shell/pasting.h"
-#include "shell/places.h"
-#include "shell/recovery.h"
+#include "shell/run.h"
 #include "shell/saving.h"
 #include "shell/start_end.h"
 
@@ -58,17 +55,6 @@ constexpr auto EntryCommands = std::to_array<EntryCommand>({
     {entry::Inter, "?", Inter_Click},
 });
 
-/// Lets a window close when its closing command went well.
-std::function<bool()> AskingFirst(Session& s, const char* name, FaultEnds ends,
-                                  bool (*unload)(Session&))
-{
-    return [&s, name, ends, unload] {
-        bool closes = false;
-        Run(s, name, ends, [&] { closes = unload(s); });
-        return closes;
-    };
-}
-
 }  // namespace
 
 void Click(Session& s, int index)
@@ -79,29 +65,6 @@ void Click(Session& s, int index)
     }
     const auto* const found = std::ranges::find(EntryCommands, index, &EntryCommand::entry);
     if (found != EntryCommands.end()) Run(s, found->name, found->ends, [&] { found->run(s); });
-}
-
-void ConnectEvents(Session& s)
-{
-    const auto opensDropped = [&s](const QString& path) {
-        Run(s, "Apri", FaultEnds::Command, [&] { OpenNamed(s, path); });
-    };
-    QObject::connect(&s.form1, &Form1::Clicked, [&s](int index) { Click(s, index); });
-    QObject::connect(&s.form1, &Form1::Dropped, opensDropped);
-    QObject::connect(&s.form2, &Form2::Dropped, opensDropped);
-    QObject::connect(&s.form1, &Form1::Pasted,
-                     [&s] { Run(s, "Incolla", FaultEnds::Command, [&] { OpenPasted(s); }); });
-    QObject::connect(&s.form4, &Form4::Closed, [&s] {
-        Run(s, "Anteprima", FaultEnds::Command, [&] {
-            Form4_Unload(s);
-            NoteCanvasCopy(s, file::PreviewCopy);
-        });
-    });
-    s.form1.mayClose = AskingFirst(s, "Esci", FaultEnds::Program, Form_Unload);
-    s.form2.mayClose = AskingFirst(s, "Chiudi", FaultEnds::Command, Form2_Unload);
-    s.form9.mayClose = AskingFirst(s, "Chiudi", FaultEnds::Command, Form9_Unload);
-    QObject::connect(&s.form10, &Form10::Pressed,
-                     [&s](const PaletteButton& button) { Press(s, button); });
 }
 
 }  // namespace pixano

@@ -4,6 +4,7 @@
 #include "shell/history.h"
 #include "shell/places.h"
 #include "shell/recovery.h"
+#include "shell/run.h"
 #include "shell/showing.h"
 #include "shell/working_pictures.h"
 
@@ -41,8 +42,7 @@ void RunEffect(Session& s, const Effect& effect)
     if (effect.reseed == Reseed::AfterAbil) s.work.Randomize();
     if (effect.entry != 0) MoveCheckMark(s, effect.entry);
     if (effect.reseed == Reseed::BeforeEffect) s.work.Randomize();
-    s.doc.Effetto =
-        QString::fromUtf8(effect.name.data(), static_cast<qsizetype>(effect.name.size()));
+    s.doc.Effetto = NameOf(effect);
     s.doc.FileUndo = file::Undo;
     SaveWorkingPicture(s.work.Picture1, s.doc.FileUndo);
     s.drawing = true;
@@ -50,6 +50,16 @@ void RunEffect(Session& s, const Effect& effect)
     s.drawing = false;
     s.work.ElabSer.Kill();
     Close(s, effect.closing);
+}
+
+void RunEffectCommand(Session& s, const Effect& effect)
+{
+    Run(s, NameOf(effect), effect.faultEnds, [&] { RunEffect(s, effect); });
+}
+
+QString NameOf(const Effect& effect)
+{
+    return QString::fromUtf8(effect.name.data(), static_cast<qsizetype>(effect.name.size()));
 }
 
 void Form4_Unload(Session& s)

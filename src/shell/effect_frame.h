@@ -10,6 +10,12 @@ namespace pixano {
 /// the progress window and the pixel working file are left as they were.
 void RunEffect(Session& s, const Effect& effect);
 
+/// Runs the effect as a command of its own; what a fault in it ends, its row says.
+void RunEffectCommand(Session& s, const Effect& effect);
+
+/// The name that the user knows the effect by.
+QString NameOf(const Effect& effect);
+
 /// The progress window goes: the preview follows the canvas, the palette is ready again.
 void Form4_Unload(Session& s);
 

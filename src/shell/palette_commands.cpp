@@ -2,20 +2,16 @@
 
 #include "canvas/strengths.h"
 #include "panels/form11.h"
-#include "shell/commands.h"
+#include "shell/click.h"
 #include "shell/effect_frame.h"
 #include "shell/places.h"
+#include "shell/run.h"
 #include "shell/showing.h"
 
 #include <QTimer>
 
 namespace pixano {
 namespace {
-
-QString NameOf(const Effect& effect)
-{
-    return QString::fromUtf8(effect.name.data(), static_cast<qsizetype>(effect.name.size()));
-}
 
 /// The strengths are read from the program's own folder and written to the current one: kept
 /// exactly.
@@ -36,11 +32,6 @@ void Confirm(Session& s, Form11& window)
 }
 
 }  // namespace
-
-void RunEffectCommand(Session& s, const Effect& effect)
-{
-    Run(s, NameOf(effect), effect.faultEnds, [&] { RunEffect(s, effect); });
-}
 
 void AskStrengthAndRun(Session& s, const Effect& effect)
 {

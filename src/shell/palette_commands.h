@@ -6,9 +6,6 @@
 
 namespace pixano {
 
-/// Runs the effect as a command of its own; what a fault in it ends, its row says.
-void RunEffectCommand(Session& s, const Effect& effect);
-
 /// Asks for the effect's strength in the slider window, then runs the effect if it was confirmed.
 void AskStrengthAndRun(Session& s, const Effect& effect);
 

@@ -1,7 +1,7 @@
-// Running a command, and what becomes of its run-time errors.
+#include "shell/run.h"
+
 #include "canvas/fault.h"
 #include "pictures/picture_files.h"
-#include "shell/commands.h"
 #include "shell/places.h"
 #include "shell/recovery.h"
 #include "shell/working_pictures.h"

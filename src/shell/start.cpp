@@ -1,12 +1,13 @@
 #include "shell/start.h"
 
 #include "canvas/fault.h"
-#include "shell/commands.h"
+#include "shell/events.h"
 #include "shell/only_instance.h"
 #include "shell/opening.h"
 #include "shell/options.h"
 #include "shell/places.h"
 #include "shell/recovery.h"
+#include "shell/run.h"
 #include "shell/screen_dialogs.h"
 #include "shell/start_end.h"
 

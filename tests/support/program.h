@@ -2,9 +2,12 @@
 #pragma once
 
 #include "pictures/picture_files.h"
-#include "shell/commands.h"
+#include "shell/click.h"
+#include "shell/effect_frame.h"
+#include "shell/events.h"
 #include "shell/menu_table.h"
 #include "shell/palette_commands.h"
+#include "shell/run.h"
 #include "shell/start_end.h"
 #include "support/effect_run.h"
 #include "support/scripted_dialogs.h"

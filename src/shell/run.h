@@ -18,10 +18,4 @@ void Run(Session& s, const QString& name, FaultEnds ends, const std::function<vo
 void RunInside(Session& s, const QString& name, FaultEnds ends,
                const std::function<void()>& command);
 
-/// The command of the menu entry with that `Index`.
-void Click(Session& s, int index);
-
-/// Connects every event of the windows with its command.
-void ConnectEvents(Session& s);
-
 }  // namespace pixano
