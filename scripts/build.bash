@@ -17,9 +17,11 @@ configure() {
         fail 'La configurazione non è riuscita: il motivo è qui sopra.'
 }
 
-# Builds everything of that preset.
+# Builds everything of that preset, or only the targets named after it.
 build() {
     local project=$1 preset=$2
-    cmake --build "$project/build/$preset" --parallel "$(nproc)" >&2 ||
+    local only=()
+    (($# == 2)) || only=(--target "${@:3}")
+    cmake --build "$project/build/$preset" --parallel "$(nproc)" "${only[@]}" >&2 ||
         fail 'La compilazione non è riuscita: il motivo è qui sopra.'
 }

@@ -1,6 +1,5 @@
 // Damaged and malicious pictures: every one is read or refused with a message, in bounded time and
 // memory, and gives the same pixels whatever the memory held before.
-#include "pictures/temporary_folder.h"
 #include "reliability/fuzz_kinds.h"
 #include "reliability/fuzz_memory.h"
 #include "reliability/fuzz_mutation.h"
@@ -9,7 +8,12 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
+#include <set>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace pixano::test {
 namespace {
@@ -55,6 +59,29 @@ bool AllDrawn(const Surface& picture)
     return std::all_of(pixels, pixels + count, [](std::uint32_t p) { return p >> 24 == 0xFF; });
 }
 
+/// A file that holds the input that is tried. It stays behind when the program ends there.
+class KeptInput {
+  public:
+    explicit KeptInput(const std::string& path)
+        : file_(open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600))
+    {
+        EXPECT_GE(file_, 0) << path;
+    }
+    KeptInput(const KeptInput&) = delete;
+    KeptInput& operator=(const KeptInput&) = delete;
+    ~KeptInput() { close(file_); }
+
+    void Keep(std::span<const std::byte> content) const
+    {
+        const auto size = static_cast<ssize_t>(content.size());
+        EXPECT_EQ(pwrite(file_, content.data(), content.size(), 0), size);
+        EXPECT_EQ(ftruncate(file_, size), 0);
+    }
+
+  private:
+    int file_;
+};
+
 class HostileFiles : public testing::TestWithParam<std::tuple<Format, int>> {
   protected:
     using Content = std::vector<std::byte>;
@@ -63,8 +90,7 @@ class HostileFiles : public testing::TestWithParam<std::tuple<Format, int>> {
     /// promised.
     Outcome Try(const Content& content)
     {
-        // Left behind when the program ends here.
-        WriteFile(path, BytesOf(content));
+        input.Keep(content);
         FillFreshMemory(0x00);
         const double before = SecondsUsed();
         const Outcome outcome = OutcomeOf([&] { return ReadPictureFrom(content, path); });
@@ -92,8 +118,9 @@ class HostileFiles : public testing::TestWithParam<std::tuple<Format, int>> {
     static constexpr double LongestReading = 5;
     const Format format = std::get<0>(GetParam());
     const int shard = std::get<1>(GetParam());
-    const std::string path =
-        testing::TempDir() + "pixano-" + format.name + '-' + std::to_string(shard) + ".bin";
+    const std::string path = testing::TempDir() + "pixano-" + format.name + '-' +
+                             std::to_string(shard) + '-' + std::to_string(getpid()) + ".bin";
+    const KeptInput input{path};
     double slowest = 0;
 };
 

@@ -24,24 +24,24 @@ struct Size {
 
 class EffectsOnSizes : public testing::Test {
   protected:
-    /// Runs every effect on a picture of that size, one after another as a user might, each on what
-    /// the one before has left.
+    /// Takes a snapshot of a picture of that size and runs every effect, one after another as a
+    /// user might, each on what the one before has left. The snapshot gives the picture back.
     void TryAll(Size size)
     {
-        ChainProgress progress;
+        const Surface original = Varied(size.width, size.height);
+        WriteBitmap(original, snapshot);
         Work w(MemoryStore(), progress, Timer(7));
-        Surface picture = Varied(size.width, size.height);
+        Surface picture = original;
         for (const Effect& effect : Catalogue()) {
-            WriteBitmap(picture, snapshot);
             const bool done = Run(w, effect, picture);
             SCOPED_TRACE(std::string(effect.name) + " on " + std::to_string(size.width) + "x" +
                          std::to_string(size.height) + (done ? "" : ", which failed"));
             EXPECT_EQ(w.Picture1.Width(), size.width);
             EXPECT_EQ(w.Picture1.Height(), size.height);
-            EXPECT_TRUE(ReadWorkingPicture(snapshot).picture == picture);
             if (HasFailure()) return;
             if (done) picture = w.Picture1;
         }
+        EXPECT_TRUE(ReadWorkingPicture(snapshot).picture == original);
     }
 
     /// False when the effect ended in a run-time error. Everything else that is thrown fails the
@@ -53,7 +53,6 @@ class EffectsOnSizes : public testing::Test {
         PutOnCanvas(w, picture);
         try {
             const Step step{&effect, std::nullopt};
-            ChainProgress progress;
             RunChain(w, std::span(&step, 1), Middle, "", progress);
             return true;
         } catch (const EffectFailed&) {
@@ -66,6 +65,7 @@ class EffectsOnSizes : public testing::Test {
 
     TemporaryFolder folder;
     const std::string snapshot = folder / "temp.bml";
+    ChainProgress progress;
     int runs = 0;
     int faults = 0;
 };

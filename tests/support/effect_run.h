@@ -74,7 +74,7 @@ inline Surface Varied(int width, int height)
     Surface surface(width, height);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
-            surface.PSet(x, y, (x * 7919 + y * 104729 + 12345) & White);
+            surface.PSet(x, y, static_cast<Colour>(x * 7919U + y * 104729U + 12345U) & White);
     return surface;
 }
 
