@@ -47,9 +47,19 @@ Child::Child(const std::vector<std::string>& command,
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    const int error = posix_spawn(&id_, words.front().c_str(), &actions, nullptr,
+    // Whatever the tests themselves survive, their child is to die of it.
+    sigset_t deadly;
+    sigemptyset(&deadly);
+    sigaddset(&deadly, SIGHUP);
+    sigaddset(&deadly, SIGTERM);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setsigdefault(&attributes, &deadly);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+    const int error = posix_spawn(&id_, words.front().c_str(), &actions, &attributes,
                                   Pointers(words).data(), Pointers(variables).data());
     posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributes);
     close(ends[1]);
     pipe_ = ends[0];
     if (error != 0) throw std::runtime_error(words.front() + " cannot be started");
@@ -79,6 +89,14 @@ std::optional<std::string> Child::Line(int patience)
         if (got <= 0) return std::nullopt;
         unread_.append(more, static_cast<std::size_t>(got));
     }
+}
+
+std::vector<std::string> Child::Rest()
+{
+    std::vector<std::string> lines;
+    while (const std::optional<std::string> line = Line())
+        lines.push_back(*line);
+    return lines;
 }
 
 void Child::Signal(int number) const

@@ -19,6 +19,8 @@ class Child {
 
     /// Its next line; nothing when it has ended, or has told nothing for `patience` milliseconds.
     std::optional<std::string> Line(int patience = 20000);
+    /// All lines up to its end.
+    std::vector<std::string> Rest();
     /// Sends the signal.
     void Signal(int number) const;
     /// Waits for its end. Its exit status, or the negative number of the signal that ended it.

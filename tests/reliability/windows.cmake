@@ -44,9 +44,33 @@ if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
   pixano_no_false_alarm(pixano-victim)
   add_library(deadly_changes SHARED ${RELIABILITY}/deadly_changes.cpp)
   target_link_libraries(deadly_changes PRIVATE pixano_options)
-  pixano_reliability_tests(crash_test crash_test.cpp child.cpp knowledge.cpp)
+  pixano_reliability_tests(crash_test crash_test.cpp recovery_test.cpp child.cpp knowledge.cpp)
   target_compile_definitions(crash_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>"
                                                 PIXANO_DEADLY_CHANGES="$<TARGET_FILE:deadly_changes>")
   add_dependencies(crash_test pixano-victim deadly_changes)
   pixano_long_form(crash_test)
 endif()
+
+pixano_reliability_tests(working_files_test working_files_test.cpp)
+
+pixano_reliability_tests(meanwhile_test meanwhile_test.cpp)
+
+add_executable(pixano-visitor ${RELIABILITY}/visitor.cpp)
+target_include_directories(pixano-visitor PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(pixano-visitor PRIVATE pixano_windows Qt6::Test GTest::gtest)
+pixano_no_false_alarm(pixano-visitor)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Gui)
+add_library(decoy MODULE ${RELIABILITY}/decoy/decoy.cpp)
+set_target_properties(decoy PROPERTIES AUTOMOC ON)
+target_link_libraries(decoy PRIVATE pixano_options Qt6::Gui)
+pixano_reliability_tests(foreign_folder_test foreign_folder_test.cpp child.cpp)
+target_compile_definitions(foreign_folder_test
+                           PRIVATE PIXANO_VISITOR="$<TARGET_FILE:pixano-visitor>"
+                                   PIXANO_DECOY_LIBRARY="$<TARGET_FILE:decoy>")
+add_dependencies(foreign_folder_test pixano-visitor decoy)
+
+# The display dies under the program; clicks and keys while it works, on a real one.
+add_test(NAME display_dies
+         COMMAND ${RELIABILITY}/display_dies.sh $<TARGET_FILE:pixano> $<TARGET_FILE:pixano-batch>)
+set_tests_properties(display_dies PROPERTIES LABELS "reliability;e2e" TIMEOUT 180
+                                             ENVIRONMENT "EVIDENCE=${CMAKE_BINARY_DIR}/e2e")

@@ -1,0 +1,86 @@
+// The windowed program visiting a picture that somebody else has made: opens it, tries every
+// command on it but saving, and ends: pixano-visitor PICTURE.
+#include "shell/commands.h"
+#include "shell/menu_table.h"
+#include "shell/palette_commands.h"
+#include "shell/start.h"
+#include "support/scripted_dialogs.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <iostream>
+
+namespace pixano::test {
+namespace {
+
+void EverythingButSaving(Session& s)
+{
+    for (int index = 1; index <= 60; ++index)
+        if (EffectOfEntry(index) != nullptr) Click(s, index);
+    for (const int index : {entry::Undo, entry::Redo, entry::Orig, entry::Redo})
+        Click(s, index);
+    for (const PaletteButton& button : PaletteButtons()) {
+        // A slider window that comes up is confirmed.
+        QTimer::singleShot(0, [] {
+            if (auto* const modal = QApplication::activeModalWidget())
+                modal->findChild<QPushButton*>("Command1")->click();
+        });
+        Press(s, button);
+        QCoreApplication::processEvents();
+    }
+}
+
+class Visitor {
+  public:
+    Visitor(Session& session, ScriptedDialogs& dialogs) : session_(session), dialogs_(dialogs) {}
+
+    void Live()
+    {
+        QTimer::singleShot(0, [this] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            if (modal != nullptr && modal->objectName() == "Form6") {
+                QTest::mouseClick(modal->findChild<QWidget*>("Picture1"), Qt::LeftButton);
+                Live();
+            } else if (session_.busy) {
+                Live();
+            } else {
+                Visit();
+            }
+        });
+    }
+
+  private:
+    void Visit()
+    {
+        std::cout << (session_.doc.open ? "open" : "not open") << std::endl;
+        EverythingButSaving(session_);
+        if (session_.doc.Modificato == 1) dialogs_.answers.push_back(false);
+        Click(session_, entry::Esci);
+    }
+
+    Session& session_;
+    ScriptedDialogs& dialogs_;
+};
+
+}  // namespace
+}  // namespace pixano::test
+
+int main(int argc, char* argv[])
+{
+    using namespace pixano;
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    test::ScriptedDialogs dialogs;
+    Session session(dialogs, Timer(1));
+    test::Visitor visitor(session, dialogs);
+    visitor.Live();
+    Options options;
+    options.picture = argv[1];
+    const int status = RunAlone(session, options);
+    for (const test::ShownBox& box : dialogs.told)
+        std::cout << "told " << box.text.toStdString() << std::endl;
+    return status;
+}
