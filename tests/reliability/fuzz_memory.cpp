@@ -16,6 +16,8 @@ std::atomic<unsigned char> fill{0};
 /// Whether there are so many bytes; takes them.
 bool Take(std::size_t count)
 {
+    constexpr std::size_t Small = 128 * 1024;  // more than one buffer for a file
+    if (count < Small) return true;
     if (count > room) return false;
     if (room < NoLimit) room -= count;
     return true;

@@ -15,7 +15,8 @@ inline constexpr bool MallocIsBounded = false;
 inline constexpr bool MallocIsBounded = true;
 #endif
 
-/// While this lives, so many bytes can be had and no more; what is given back does not count.
+/// While this lives, so many bytes can be had and no more; what is given back does not count, nor
+/// do small pieces.
 class MemoryRoom {
   public:
     explicit MemoryRoom(std::size_t bytes);

@@ -7,6 +7,8 @@
 #include <climits>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace pixano::test {
 namespace {
@@ -90,6 +92,25 @@ class FailingSave : public testing::TestWithParam<Way> {
         return {failed, told.empty()};
     }
 
+    /// Saves in a process of its own that is killed at its `n`-th call; false when it has fewer.
+    bool KilledAt(long n) const
+    {
+        Prepare();
+        const pid_t child = fork();
+        if (child == 0) {
+            BeginToFail({.first = n,
+                         .last = n,
+                         .as = FailingCalls::As::Death,
+                         .oldFileSystem = way.oldFileSystem});
+            way.save(picture, path);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+        return WIFSIGNALED(status);
+    }
+
     /// How many files in the folder, named or not, are open.
     long OpenFiles() const
     {
@@ -171,9 +192,41 @@ TEST_P(FailingSave, AllCallsFailFromOneOnward)
     }
 }
 
+TEST_P(FailingSave, WhatMayHaveLostBytesIsNoSave)
+{
+    for (const unsigned kind : {Writes, Synchronises, Closes, Names}) {
+        const Result result = Save({.last = LONG_MAX, .only = kind});
+        EXPECT_EQ(result.saved, result.failed == 0) << kind;
+        // Only working files are not synchronised.
+        EXPECT_TRUE(result.failed > 0 || (kind == Synchronises && way.save == WriteBitmap));
+    }
+    EXPECT_FALSE(Save({.only = Closes}).saved);
+}
+
+// Killed at its first call, at the second, and so on.
+TEST_P(FailingSave, AKilledSaveLeavesTheOldFileOrTheNewOne)
+{
+    long left = 0;
+    long n = 1;
+    for (; KilledAt(n); ++n) {
+        const Bytes now = ReadFile(real);
+        EXPECT_TRUE(now == whole || (way.before == Nothing ? !fs::exists(real) : now == old)) << n;
+        for (const std::string& name : folder.Names()) {
+            if (!name.starts_with(".pixano-")) continue;
+            ++left;
+            fs::remove(folder / name);
+        }
+    }
+    EXPECT_GT(n, FewestCalls);
+    // It has a name of its own only while it is closed and put in its place, by an exchange or else
+    // by a renaming.
+    EXPECT_TRUE(way.oldFileSystem || left <= 3) << left;
+    EXPECT_EQ(folder.Names().size(), way.before == Link ? 2U : 1U);
+}
+
 TEST_P(FailingSave, AnInterruptedCallIsRepeated)
 {
-    const FailingCalls orders{.error = EINTR, .interruptible = true};
+    const FailingCalls orders{.error = EINTR, .only = Interruptible};
     const auto saved = [](Result result) { EXPECT_TRUE(result.saved); };
     EXPECT_GE(EachCallInTurn(orders, false, saved), FewestCalls - 1);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -23,11 +24,13 @@ std::atomic<long> room{0};
 FailingCalls orders;
 
 /// Whether this call is one of those that fail; counts it.
-bool Fails(bool interruptible)
+bool Fails(Call kind)
 {
-    if (!active || (orders.interruptible && !interruptible)) return false;
+    if (!active || (orders.only & kind) == 0) return false;
     const long number = ++calls;
-    return number >= orders.first && number <= orders.last;
+    if (number < orders.first || number > orders.last) return false;
+    if (orders.as == FailingCalls::As::Death) raise(SIGKILL);
+    return true;
 }
 
 int Failed(int error)
@@ -52,26 +55,26 @@ bool IsFileOrFolder(int descriptor)
 }
 
 /// A call whose whole failure is an error.
-template <class Call>
-int FailingOr(bool interruptible, Call call)
+template <class Make>
+int FailingOr(Call kind, Make call)
 {
-    if (Fails(interruptible) && orders.as == FailingCalls::As::Error) return Failed(orders.error);
+    if (Fails(kind) && orders.as == FailingCalls::As::Error) return Failed(orders.error);
     return static_cast<int>(call());
 }
 
-template <class Call>
-int OnDescriptor(int descriptor, bool interruptible, Call call)
+template <class Make>
+int OnDescriptor(int descriptor, Call kind, Make call)
 {
     if (!active || !IsFileOrFolder(descriptor)) return static_cast<int>(call());
-    return FailingOr(interruptible, call);
+    return FailingOr(kind, call);
 }
 
 /// `call` writes as many bytes as it is told.
-template <class Call>
-ssize_t Writing(int descriptor, std::size_t count, Call call)
+template <class Make>
+ssize_t Writing(int descriptor, std::size_t count, Make call)
 {
     if (!active || !IsFileOrFolder(descriptor)) return call(count);
-    if (Fails(true)) {
+    if (Fails(Writes)) {
         if (orders.as == FailingCalls::As::Error) return Failed(orders.error);
         ++failed;
         return orders.as == FailingCalls::As::Half ? call((count + 1) / 2) : 0;
@@ -88,7 +91,7 @@ int OpenAt(int folder, const char* path, int flags, mode_t mode)
 {
     if (active && orders.oldFileSystem && (flags & O_TMPFILE) == O_TMPFILE)
         return Refused(EOPNOTSUPP);
-    return FailingOr(true, [=] { return syscall(SYS_openat, folder, path, flags, mode); });
+    return FailingOr(Opens, [=] { return syscall(SYS_openat, folder, path, flags, mode); });
 }
 
 /// Takes the orders of a program into which this library is preloaded.
@@ -190,31 +193,32 @@ ssize_t writev(int descriptor, const iovec* parts, int count)
 
 int fsync(int descriptor)
 {
-    return pixano::test::OnDescriptor(descriptor, true,
+    return pixano::test::OnDescriptor(descriptor, pixano::test::Synchronises,
                                       [=] { return syscall(SYS_fsync, descriptor); });
 }
 
 int fdatasync(int descriptor)
 {
-    return pixano::test::OnDescriptor(descriptor, true,
+    return pixano::test::OnDescriptor(descriptor, pixano::test::Synchronises,
                                       [=] { return syscall(SYS_fdatasync, descriptor); });
 }
 
 int fchmod(int descriptor, mode_t mode)
 {
-    return pixano::test::OnDescriptor(descriptor, true,
+    return pixano::test::OnDescriptor(descriptor, pixano::test::Changes,
                                       [=] { return syscall(SYS_fchmod, descriptor, mode); });
 }
 
 int fchown(int descriptor, uid_t owner, gid_t group)
 {
-    return pixano::test::OnDescriptor(
-        descriptor, true, [=] { return syscall(SYS_fchown, descriptor, owner, group); });
+    return pixano::test::OnDescriptor(descriptor, pixano::test::Changes, [=] {
+        return syscall(SYS_fchown, descriptor, owner, group);
+    });
 }
 
 int ftruncate(int descriptor, off_t size)
 {
-    return pixano::test::OnDescriptor(descriptor, true,
+    return pixano::test::OnDescriptor(descriptor, pixano::test::Changes,
                                       [=] { return syscall(SYS_ftruncate, descriptor, size); });
 }
 
@@ -228,15 +232,16 @@ int close(int descriptor)
 {
     const bool counts = pixano::test::active && pixano::test::IsFileOrFolder(descriptor);
     const int result = static_cast<int>(syscall(SYS_close, descriptor));
-    return counts ? pixano::test::FailingOr(true, [=] { return result; }) : result;
+    return counts ? pixano::test::FailingOr(pixano::test::Closes, [=] { return result; }) : result;
 }
 
 int renameat2(int folder, const char* from, int newFolder, const char* to, unsigned flags)
 {
     if (pixano::test::active && pixano::test::orders.oldFileSystem && flags != 0)
         return pixano::test::Refused(EINVAL);
-    return pixano::test::FailingOr(
-        false, [=] { return syscall(SYS_renameat2, folder, from, newFolder, to, flags); });
+    return pixano::test::FailingOr(pixano::test::Names, [=] {
+        return syscall(SYS_renameat2, folder, from, newFolder, to, flags);
+    });
 }
 
 int renameat(int folder, const char* from, int newFolder, const char* to)
@@ -251,8 +256,9 @@ int rename(const char* from, const char* to)
 
 int linkat(int folder, const char* from, int newFolder, const char* to, int flags)
 {
-    return pixano::test::FailingOr(
-        false, [=] { return syscall(SYS_linkat, folder, from, newFolder, to, flags); });
+    return pixano::test::FailingOr(pixano::test::Names, [=] {
+        return syscall(SYS_linkat, folder, from, newFolder, to, flags);
+    });
 }
 
 int link(const char* from, const char* to)

@@ -6,20 +6,34 @@
 
 namespace pixano::test {
 
+/// What a call does to a file. One bit each, so that several can be named.
+enum Call : unsigned {
+    Opens = 1,
+    Writes = 2,
+    Synchronises = 4,
+    Closes = 8,
+    Names = 16,    ///< gives it a name, or another one
+    Changes = 32,  ///< its owner, its permissions, its size
+    AnyCall = 63,
+    /// The calls that a signal may interrupt.
+    Interruptible = AnyCall & ~Names
+};
+
 /// Which calls fail. They are counted from 1; only those on regular files and folders count.
 struct FailingCalls {
     enum class As {
         Error,    ///< with `error`
         Half,     ///< a write takes half of the bytes; other calls succeed
         Nothing,  ///< a write takes nothing and gives no reason; other calls succeed
+        Death     ///< the process is killed instead
     };
 
     long first = 1;
     long last = 1;
     int error = EIO;
     As as = As::Error;
-    /// Only calls that a signal may interrupt: open, write, synchronise, close.
-    bool interruptible = false;
+    /// Only these count.
+    unsigned only = AnyCall;
     /// The file system can neither make files without a name nor exchange two of them.
     bool oldFileSystem = false;
     /// How many bytes may be written altogether before the disk is full.
