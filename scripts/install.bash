@@ -13,8 +13,10 @@ test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb openbox xdotool imagemagick x11-utils
     clang-format clang-tidy cppcheck
-    bash-completion
+    bash-completion parallel
 )
+# What measuring it beside other tools needs on top of both.
+bench_packages=(graphicsmagick imagemagick hyperfine parallel time)
 
 # What making the Debian package needs on top of the first list.
 package_packages=(dpkg-dev file)

@@ -1,0 +1,161 @@
+// The windowed program beside what it cannot do without: plainly writing and reading its files, and
+// bare decoding of a JPEG. No screen is needed. Usage: pixano-window-bench [COLUMNS ROWS]; prints
+// one line for each measurement.
+#include "effects/catalogue.h"
+#include "measure.h"
+#include "pictures/picture_files.h"
+#include "shell/commands.h"
+#include "shell/effect_frame.h"
+#include "shell/menu_table.h"
+#include "shell/opening.h"
+#include "shell/places.h"
+#include "shell/start.h"
+#include "shell/start_end.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <jpeglib.h>
+
+namespace pixano::bench {
+namespace {
+
+constexpr int Turns = 3;
+
+/// A user who is asked nothing.
+class NoDialogs : public Dialogs {
+  public:
+    bool Ask(BoxIcon /*icon*/, const QString& /*title*/, const QString& /*text*/) override
+    {
+        return false;
+    }
+    void Tell(BoxIcon /*icon*/, const QString& /*title*/, const QString& text) override
+    {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+    std::optional<QString> AskOpenName(const QString& /*folder*/) override { return std::nullopt; }
+    std::optional<QString> AskSaveName(const QString& /*folder*/) override { return std::nullopt; }
+};
+
+void WritePlain(const QString& name, const QByteArray& bytes)
+{
+    QFile::remove(name);
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        file.write(bytes) != bytes.size())
+        std::exit(1);
+}
+
+QByteArray ReadPlain(const QString& name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) std::exit(1);
+    return file.readAll();
+}
+
+/// Snapshot, pixel file and preview's copy; the last two are read back.
+void PlainFiles(const QByteArray& bitmap, const QByteArray& text)
+{
+    WritePlain("plain.bml", bitmap);
+    WritePlain("plain.ser", text);
+    ReadPlain("plain.ser");
+    WritePlain("plain.tmp", bitmap);
+    ReadPlain("plain.tmp");
+    QFile::remove("plain.ser");
+}
+
+void BareDecoding(const std::string& path)
+{
+    std::FILE* const file = std::fopen(path.c_str(), "rb");
+    if (file == nullptr) std::exit(1);
+    jpeg_decompress_struct info{};
+    jpeg_error_mgr errors{};
+    info.err = jpeg_std_error(&errors);
+    jpeg_create_decompress(&info);
+    jpeg_stdio_src(&info, file);
+    jpeg_read_header(&info, TRUE);
+    jpeg_start_decompress(&info);
+    std::vector<JSAMPLE> row(std::size_t{info.output_width} * info.output_components);
+    JSAMPROW rows = row.data();
+    while (info.output_scanline < info.output_height)
+        jpeg_read_scanlines(&info, &rows, 1);
+    jpeg_finish_decompress(&info);
+    jpeg_destroy_decompress(&info);
+    std::fclose(file);
+}
+
+/// Takes turns; prints how many times `compared` the `measured` takes, by the shortest of each.
+template <typename Compared, typename Measured>
+void Row(const char* name, Compared compared, Measured measured)
+{
+    double own = std::numeric_limits<double>::max();
+    double other = own;
+    for (int turn = 0; turn < Turns; ++turn) {
+        other = std::min(other, Timed(compared));
+        own = std::min(own, Timed(measured));
+    }
+    std::printf("%s: %.2f (%.0f ms)\n", name, own / other, own * 1e3);
+}
+
+/// The pixel file's text of a capture of the canvas.
+QByteArray PixelText(Session& s)
+{
+    FindEffect("Capovolgi")->run(s.work);
+    s.work.ElabSer.Close();
+    const QByteArray text = ReadPlain(file::Pixels);
+    s.work.ElabSer.Kill();
+    return text;
+}
+
+void RunRows(Session& s, int width, int height)
+{
+    SavePicture(Photograph(width, height), "foto.jpg");
+    Row(
+        "open JPEG / bare decoding", [] { BareDecoding("foto.jpg"); },
+        [&] {
+            OpenNamed(s, QDir::current().filePath("foto.jpg"));
+            s.doc.FileAperto.clear();
+            QApplication::processEvents();
+        });
+    s.doc.Modificato = 0;
+    OpenNamed(s, QDir::current().filePath("foto.jpg"));
+    SaveBitmap(s.work.Picture1, "foto.bmp");
+    const QByteArray bitmap = ReadPlain("foto.bmp");
+    const QByteArray text = PixelText(s);
+    Row(
+        "click on \"Specchio\" / plain files", [&] { PlainFiles(bitmap, text); },
+        [&] {
+            Click(s, FindEffect("Specchio")->entry);
+            QApplication::processEvents();
+        });
+}
+
+int Main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    QDir::setCurrent(folder.path());
+    NoDialogs dialogs;
+    Session session(dialogs, Timer(1));
+    ConnectEvents(session);
+    session.doc.CartellaAvvio = folder.path();
+    RunRows(session, argc == 3 ? std::atoi(argv[1]) : 4000, argc == 3 ? std::atoi(argv[2]) : 3000);
+    QDir::setCurrent("/");
+    return 0;
+}
+
+}  // namespace
+}  // namespace pixano::bench
+
+int main(int argc, char* argv[])
+{
+    return pixano::bench::Main(argc, argv);
+}
