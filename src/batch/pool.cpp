@@ -16,6 +16,7 @@ void ForEachPlace(std::size_t count, unsigned threads,
         for (std::size_t place = next++; place < count; place = next++)
             job(place);
     };
+    // cppcheck-suppress variableScope ; its end waits for the threads
     std::vector<std::jthread> others;
     try {
         // This thread is one of them.

@@ -40,7 +40,7 @@ void CattuVett(Work& w)
 {
     const int last = std::min(w.Larg, Matrix::LastIndex);
     for (int y = 0; y <= w.Alt; ++y) {
-        const auto cells = w.Vettore.Row(y).first(static_cast<std::size_t>(last + 1));
+        const auto cells = w.Vettore.Row(y).first(static_cast<std::size_t>(last) + 1);
         const auto pixels = PixelsOf(w.Picture1, y, last);
         std::ranges::transform(pixels, cells.begin(), Surface::ColourOf);
         std::ranges::fill(cells.subspan(pixels.size()), Outside);

@@ -37,6 +37,7 @@ class Matrix {
     };
     /// Zeroed pages cost nothing until they are touched, so an unused matrix takes neither time nor
     /// memory; a vector would write all nine megabytes.
+    // cppcheck-suppress unusedPrivateFunction ; the initialiser below calls it
     static Colour* Zeroed()
     {
         void* cells = std::calloc(Side * Side, sizeof(Colour));

@@ -22,6 +22,7 @@ inline std::int32_t CLng(double value)
     constexpr double Limit = 0x1p31 + 0.5;  // what lies beyond cannot fit, and is no long for sure
     if (!(std::fabs(value) <= Limit)) throw Fault(FaultKind::Overflow);
     const long rounded = std::lrint(value);
+    // cppcheck-suppress knownConditionTrueFalse ; a long may have more than 32 bits
     if (rounded != static_cast<std::int32_t>(rounded)) throw Fault(FaultKind::Overflow);
     return static_cast<std::int32_t>(rounded);
 }

@@ -59,9 +59,10 @@ void WriteNew(const std::string& path, const std::string& text)
 std::string LineOf(double value)
 {
     std::array<char, 512> digits{};  // the largest double has 309 digits before the point
-    const auto end =
-        std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed).ptr;
-    return std::string(digits.begin(), end) + "\r\n";
+    char* const end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed)
+            .ptr;
+    return std::string(digits.data(), end) + "\r\n";
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ class Text : public PixelFile::Store {
         if (!file_) throw Fault(FaultKind::FileAccess, name_);
         std::setvbuf(file_.get(), nullptr, _IONBF, 0);
         PrepareBuffers();
-        unread_ = {text_.data(), 0};
+        unread_ = {text_.data(), text_.data()};
         atEnd_ = false;
     }
 

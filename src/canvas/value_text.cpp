@@ -3,6 +3,7 @@
 #include "canvas/fault.h"
 #include "canvas/rounding.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -24,12 +25,14 @@ constexpr FourDigits DigitsOf(std::uint32_t n)
 }
 
 /// The last four digits of a number.
-constexpr auto Tails = [] {
+constexpr std::array<FourDigits, 10000> AllTails()
+{
     std::array<FourDigits, 10000> table{};
     for (std::uint32_t n = 0; n < table.size(); ++n)
         table[n] = DigitsOf(n);
     return table;
-}();
+}
+constexpr auto Tails = AllTails();
 
 /// The digits before the last four, without leading zeros.
 struct Head {
@@ -38,8 +41,11 @@ struct Head {
 };
 
 /// As many as the largest colour has.
-constexpr auto Heads = [] {
-    std::array<Head, White / Tails.size() + 1> table{};
+constexpr std::size_t HeadCount = White / Tails.size() + 1;
+
+constexpr std::array<Head, HeadCount> AllHeads()
+{
+    std::array<Head, HeadCount> table{};
     for (std::uint32_t n = 0; n < table.size(); ++n) {
         const FourDigits digits = DigitsOf(n);
         std::uint32_t zeros = 0;
@@ -50,7 +56,8 @@ constexpr auto Heads = [] {
         table[n].count = static_cast<std::uint32_t>(digits.size()) - zeros;
     }
     return table;
-}();
+}
+constexpr auto Heads = AllHeads();
 
 constexpr std::uint64_t EachByte(std::uint8_t byte)
 {
@@ -118,8 +125,7 @@ char* AppendLine(Colour value, char* text)
         std::memcpy(text, &Tails[number % Tails.size()], sizeof(FourDigits));
         text += sizeof(FourDigits);
     }
-    std::memcpy(text, "\r\n", 2);
-    return text + 2;
+    return std::copy_n("\r\n", 2, text);
 }
 
 bool IsBlank(char c)

@@ -15,7 +15,6 @@ constexpr std::size_t FileHeaderSize = 14;
 constexpr std::size_t CoreHeaderSize = 12;    // OS/2, first version
 constexpr std::size_t LongestOs2Header = 64;  // OS/2, second version
 constexpr std::size_t ShortestHeader = 40;    // of those that have every field used here
-constexpr std::size_t HeaderWithMasks = 52;   // from here on the masks are part of the header
 constexpr std::size_t LongestHeader = 124;
 
 /// The fields as they stand in the file.
@@ -171,7 +170,7 @@ std::vector<std::uint32_t> ReadPalette(ByteSource& source, const Fields& fields)
     if (fields.colours > 0) count = std::min<std::uint64_t>(count, fields.colours);
     if (fields.pixels > fields.palette)
         count = std::min(count, (fields.pixels - fields.palette) / entry);
-    std::array<std::byte, 256 * 4> bytes{};
+    std::array<std::byte, std::size_t{256} * 4> bytes{};
     source.Seek(fields.palette);
     const std::size_t got = source.Read(std::span(bytes).first(count * entry));
     for (std::size_t i = 0; i < got / entry; ++i) {

@@ -66,7 +66,7 @@ class PngWriter {
         if (!writer.sink_.Write(std::as_bytes(std::span(bytes, count)))) writer.calls_.Leave();
     }
 
-    [[noreturn]] static void Fail(png_structp png, png_const_charp)
+    [[noreturn]] static void Fail(png_structp png, png_const_charp /*message*/)
     {
         static_cast<PngWriter*>(png_get_error_ptr(png))->calls_.Leave();
     }

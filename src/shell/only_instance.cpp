@@ -9,6 +9,8 @@
 namespace pixano {
 namespace {
 
+constexpr int Flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+
 bool IsRegular(const Descriptor& file)
 {
     struct stat status {};
@@ -18,9 +20,8 @@ bool IsRegular(const Descriptor& file)
 }  // namespace
 
 OnlyInstance::OnlyInstance(const QString& path)
+    : file_(open(path.toStdString().c_str(), Flags, 0600))
 {
-    constexpr int Flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
-    file_ = Descriptor(open(path.toStdString().c_str(), Flags, 0600));
     if (!IsRegular(file_)) throw Fault(FaultKind::FileAccess, path.toStdString());
     held_ = flock(file_.Number(), LOCK_EX | LOCK_NB) == 0;
     if (!held_ && errno != EWOULDBLOCK) throw Fault(FaultKind::FileAccess, path.toStdString());

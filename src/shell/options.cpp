@@ -28,7 +28,7 @@ const char* const UsageText = "Uso: pixano [--da-menu] [--] [FIGURA]\n"
                               "  --aiuto      mostra questo testo\n"
                               "  --versione   mostra la versione\n";
 
-const char* AnswerWithoutScreen(int argc, char* argv[])
+const char* AnswerWithoutScreen(int argc, const char* const argv[])
 {
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];

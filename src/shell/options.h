@@ -17,7 +17,7 @@ struct Options {
 extern const char* const UsageText;
 
 /// The answer to "--aiuto" or "--versione", if one of them stands before a "--"; nullptr otherwise.
-const char* AnswerWithoutScreen(int argc, char* argv[]);
+const char* AnswerWithoutScreen(int argc, const char* const argv[]);
 
 /// The options in the arguments, the program's name first; nothing when they cannot be understood.
 /// The picture may be given as a file URL.

@@ -10,7 +10,7 @@ namespace pixano {
 
 QString DataFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     const bool made = !QDir(folder).exists();
     if (!QDir().mkpath(folder)) throw Fault(FaultKind::FileAccess, folder.toStdString());
     if (made) QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

@@ -10,9 +10,9 @@ namespace pixano {
 /// An image that looks at the surface's own memory; it must not outlive it.
 inline QImage ImageOf(const Surface& surface)
 {
-    constexpr int BytesPerPixel = 4;
-    return QImage(reinterpret_cast<const uchar*>(surface.Pixels()), surface.Width(),
-                  surface.Height(), surface.Width() * BytesPerPixel, QImage::Format_RGBX8888);
+    constexpr qsizetype BytesPerPixel = 4;
+    return {reinterpret_cast<const uchar*>(surface.Pixels()), surface.Width(), surface.Height(),
+            surface.Width() * BytesPerPixel, QImage::Format_RGBX8888};
 }
 
 }  // namespace pixano
