@@ -26,7 +26,7 @@ class Busy {
         EXPECT_TRUE(strengths.open(QIODevice::WriteOnly));
         strengths.write("1\r\n2\r\n3\r\n4\r\n5\r\n");
         strengths.close();
-        desk.session.doc.CartellaProgramma = QDir::currentPath();
+        desk.session.programFolder = QDir::currentPath();
         desk.Open(Folders::Work(name));
         desk.Apply("Specchio");
         first = desk.Canvas();
