@@ -11,6 +11,8 @@
 #include <functional>
 #include <random>
 
+#include <unistd.h>
+
 namespace pixano::test {
 namespace {
 
@@ -81,7 +83,14 @@ std::vector<Act> Acts()
     return acts;
 }
 
-TEST(WhileAnEffectRuns, NoOtherCommandStarts)
+/// A dialog that must not come up would wait for ever: the signal ends the tests.
+class WhileAnEffectRuns : public testing::Test {
+  protected:
+    void SetUp() override { alarm(60); }
+    void TearDown() override { alarm(0); }
+};
+
+TEST_F(WhileAnEffectRuns, NoOtherCommandStarts)
 {
     const Folders folders;
     Surface expected;
@@ -113,7 +122,7 @@ TEST(WhileAnEffectRuns, NoOtherCommandStarts)
 }
 
 /// Keys and clicks that wait until the effect has ended are commands like any others then.
-TEST(WhileAnEffectRuns, WhatIsQueuedComesAfterwards)
+TEST_F(WhileAnEffectRuns, WhatIsQueuedComesAfterwards)
 {
     const Folders folders;
     for (unsigned seed = 1; seed <= 20; ++seed) {

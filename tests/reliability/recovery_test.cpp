@@ -140,6 +140,17 @@ TEST_F(Recovery, RefusesToStartWithoutALock)
     EXPECT_THROW(OnlyInstance(folders.Data("pixano.lock")), Fault);
 }
 
+TEST_F(Recovery, ReadsNoNoteThroughALink)
+{
+    Crash();
+    const std::string note = folders.Data("recupero.txt").toStdString();
+    const std::string moved = folders.Root().toStdString() + "/altrove.txt";
+    std::filesystem::rename(note, moved);
+    std::filesystem::create_symlink(moved, note);
+    EXPECT_THAT(NextStart(), AllOf(Lost, Not(Offered)));
+    EXPECT_TRUE(std::filesystem::exists(moved));
+}
+
 class Tampered : public Recovery, public testing::WithParamInterface<Tampering> {
   protected:
     void Tamper(const QString& file)

@@ -247,6 +247,20 @@ TEST_P(PixelFileMeanwhile, EndsTheEffectWithAMessage)
 
 INSTANTIATE_TEST_SUITE_P(Each, PixelFileMeanwhile, testing::ValuesIn(Tamperings), TamperingName);
 
+TEST(RememberedPathLink, IsNotRead)
+{
+    const Folders folders;
+    Busy busy;
+    const std::string elsewhere = folders.Root().toStdString() + "/altrove.txt";
+    tampering::Put(elsewhere, "\"/usr/share/figura.bmp\"\r\n");
+    std::filesystem::remove("percors.dat");
+    std::filesystem::create_symlink(elsewhere, "percors.dat");
+    busy.desk.dialogs.answers.push_back(false);
+    busy.desk.dialogs.openNames.push_back(std::nullopt);
+    busy.desk.Click(entry::Apri);
+    EXPECT_EQ(busy.desk.dialogs.openFolders.back(), QDir::currentPath());
+}
+
 class DiskTrouble : public Watched<> {};
 
 TEST_F(DiskTrouble, AFullDiskIsReportedAndLosesNothing)
