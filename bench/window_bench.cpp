@@ -4,11 +4,12 @@
 #include "effects/catalogue.h"
 #include "measure.h"
 #include "pictures/picture_files.h"
-#include "shell/commands.h"
 #include "shell/effect_frame.h"
+#include "shell/events.h"
 #include "shell/menu_table.h"
 #include "shell/opening.h"
 #include "shell/places.h"
+#include "shell/run.h"
 #include "shell/start.h"
 #include "shell/start_end.h"
 

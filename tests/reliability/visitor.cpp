@@ -1,8 +1,10 @@
 // The windowed program visiting a picture that somebody else has made: opens it, tries every
 // command on it but saving, and ends: pixano-visitor PICTURE.
-#include "shell/commands.h"
+#include "shell/click.h"
+#include "shell/events.h"
 #include "shell/menu_table.h"
 #include "shell/palette_commands.h"
+#include "shell/run.h"
 #include "shell/start.h"
 #include "support/scripted_dialogs.h"
 
