@@ -9,7 +9,7 @@ namespace pixano {
 
 std::optional<QByteArray> ReadOwnText(const QString& path)
 {
-    constexpr std::uint64_t Longest = 64 * 1024;
+    constexpr std::uint64_t Longest = std::uint64_t{64} * 1024;
     try {
         const RegularFile file = OpenRegularFile(path.toStdString(), Links::Refused);
         if (file.size > Longest) return std::nullopt;

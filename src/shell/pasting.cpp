@@ -41,7 +41,7 @@ QString PastedPrefix()
 QString KeptAsFile(Session& s, const QImage& image)
 {
     const QString stamp = QDateTime::currentDateTime().toString("HHmmss-zzz");
-    const QString name = PastedPrefix() + stamp + ".bmp";
+    QString name = PastedPrefix() + stamp + ".bmp";
     SaveWorkingPicture(SurfaceOf(image), name);
     s.doc.pasted.append(name);
     return name;
@@ -55,7 +55,7 @@ void OpenPasted(Session& s)
     const QList<QUrl> urls = data->urls();
     if (urls.size() == 1 && urls.front().isLocalFile())
         OpenNamed(s, urls.front().toLocalFile());
-    else if (const QImage image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
+    else if (const auto image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
         OpenNamed(s, KeptAsFile(s, image));
 }
 

@@ -33,7 +33,7 @@ QString AsideName(const QString& folder)
 QString PutAside(const QString& copy, const Surface& picture)
 {
     try {
-        const QString aside = AsideName(DataFolder());
+        QString aside = AsideName(DataFolder());
         SaveBitmap(picture, aside.toStdString());
         RemoveRecoveryNote();
         QFile::remove(copy);
