@@ -4,6 +4,7 @@
 #include "effects/catalogue.h"
 #include "measure.h"
 #include "pictures/picture_files.h"
+#include "shell/click.h"
 #include "shell/effect_frame.h"
 #include "shell/events.h"
 #include "shell/menu_table.h"
