@@ -48,7 +48,7 @@ expect_title "Capovolgi   $size"
 focus "Pixano 2.3"
 keys alt+f n Return
 expect_title "Specchio   $size"
-wait_for test ! -e "$sandbox/work/elab.ser" || fail "the pixel working file stays"
+wait_for test ! -e "$sandbox/folder/elab.ser" || fail "the pixel working file stays"
 shot 5-specchio
 
 # Back, forward, back to the beginning, forward again.
@@ -98,7 +98,7 @@ program=
 [ "$ended" -eq 0 ] || fail "the program ended with status $ended: $(cat "$sandbox/errors")"
 "$batch" -e Capovolgi -e Specchio -e Specchio -o "$sandbox/atteso.bmp" "$photo" >/dev/null
 cmp "$saved" "$sandbox/atteso.bmp" || fail "the answer yes did not save the last effect"
-[ -z "$(ls -A "$sandbox/work" | grep -v '^percors.dat$')" ] || fail "left behind: $(ls -A "$sandbox/work")"
+[ -z "$(ls -A "$sandbox/folder" | grep -v '^percors.dat$')" ] || fail "left behind: $(ls -A "$sandbox/folder")"
 [ ! -e "$XDG_DATA_HOME/pixano/temp.bml" ] && [ ! -e "$XDG_DATA_HOME/pixano/temp2.bml" ] ||
     fail "snapshots left behind"
 echo "The journey went well; its pictures are in $EVIDENCE"

@@ -57,7 +57,7 @@ shot palette-3-spostato
 keys Return
 expect_title "Vetro   $size"
 expect_title "$preview 100%"
-[ "$(sed -n 3p "$sandbox/work/valori.tip")" = $'6200\r' ] || fail "the strength was not kept"
+[ "$(sed -n 3p "$sandbox/folder/valori.tip")" = $'6200\r' ] || fail "the strength was not kept"
 shot palette-4-vetro
 
 # The two picture buttons are the last ones, seven and eight buttons after "Vetro".

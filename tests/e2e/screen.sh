@@ -9,7 +9,7 @@ EVIDENCE=${EVIDENCE:-$PWD/build/e2e}
 SCREEN_SIZE=${SCREEN_SIZE:-1280x960}
 
 sandbox=$(mktemp -d)
-mkdir -p "$EVIDENCE" "$sandbox/work"
+mkdir -p "$EVIDENCE" "$sandbox/folder"
 mkdir -m 700 "$sandbox/home"
 export HOME=$sandbox/home XDG_DATA_HOME=$sandbox/home/data XDG_RUNTIME_DIR=$sandbox/home
 export QT_QPA_PLATFORM=xcb NO_AT_BRIDGE=1
@@ -65,7 +65,7 @@ start_screen() {
 
 # Starts the program in the working folder.
 start_program() {
-    cd "$sandbox/work"
+    cd "$sandbox/folder"
     "$@" 2>"$sandbox/errors" &
     program=$!
 }

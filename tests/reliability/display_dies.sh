@@ -30,7 +30,7 @@ for _ in $(seq 15); do
 done
 expect_title "Specchio   $size"
 kill -0 "$program" || fail "the program is gone"
-wait_for cmp "$sandbox/work/elabor.tmp" "$sandbox/atteso.bmp" || fail "not one effect, but something else"
+wait_for cmp "$sandbox/folder/elabor.tmp" "$sandbox/atteso.bmp" || fail "not one effect, but something else"
 
 kill -KILL "$screen"
 ended=0
@@ -48,7 +48,7 @@ wait_for is_active "Avviso!" || fail "no offer, but $(active_title)"
 shot display-1-avviso
 keys Return
 expect_title "foto.jpg   $size"
-cmp "$sandbox/work/elabor.tmp" "$sandbox/atteso.bmp" || fail "another picture was brought back"
+cmp "$sandbox/folder/elabor.tmp" "$sandbox/atteso.bmp" || fail "another picture was brought back"
 shot display-2-recuperata
 
 # Logged out: the same again.
