@@ -20,7 +20,7 @@ fail() {
 
 # Long enough for the interruption to find some pictures done, some begun and some waiting.
 effects=()
-for _ in $(seq 15); do effects+=(-e Vetro=2500 -e 'Artistico 1'); done
+for _ in $(seq 30); do effects+=(-e Vetro=2500 -e 'Artistico 1'); done
 
 for i in $(seq -w "$count"); do cp "$picture" "foto/foto$i.jpg"; done
 
