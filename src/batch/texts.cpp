@@ -32,7 +32,8 @@ Applica gli effetti di Pixano a una o più figure (BMP, JPEG o GIF), senza fines
                               senza, vale quella del file "valori.tip" accanto
                               al programma
   -o, --uscita FILE           scrive il risultato in FILE: PNG se finisce in .png,
-                              JPEG se finisce in .jpg o .jpeg, altrimenti BMP
+                              JPEG se finisce in .jpg o .jpeg, BMP se finisce
+                              in .bmp o non ha estensione
   -d, --cartella CARTELLA     scrive il risultato di NOME.* in CARTELLA/NOME.bmp
   -j, --insieme N             elabora N figure alla volta (tutti i processori se manca)
       --seme N                fa partire i numeri casuali da N, per ogni figura
