@@ -57,6 +57,8 @@ class Surface {
     /// low three bytes, &HFF in the high one.
     std::span<std::uint32_t> Row(int y) { return {&pixels_[Offset(0, y)], width_}; }
     std::span<const std::uint32_t> Row(int y) const { return {&pixels_[Offset(0, y)], width_}; }
+    /// What such a word has beside its colour.
+    static constexpr std::uint32_t Opaque = 0xFF000000;
     /// The colour in such a word.
     static Colour ColourOf(std::uint32_t pixel) { return static_cast<Colour>(pixel & ColourMask); }
     /// The rows from the top, without gaps.
@@ -67,7 +69,6 @@ class Surface {
 
   private:
     static constexpr std::uint32_t ColourMask = 0x00FFFFFF;
-    static constexpr std::uint32_t Opaque = 0xFF000000;
 
     bool Inside(int x, int y) const
     {

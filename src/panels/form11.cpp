@@ -12,8 +12,8 @@
 namespace pixano {
 namespace {
 
-constexpr int Largest = 10000;
-constexpr int Step = 100;
+constexpr int LargestPosition = 10000;
+constexpr int PositionStep = 100;
 constexpr int Page = 1000;
 
 QPushButton* Button(const QString& name, const QString& caption)
@@ -62,8 +62,8 @@ void Form11::BuildSlider()
     slider1_->setObjectName("Slider1");
     slider1_->setAccessibleName("Intensità");
     slider1_->setToolTip("Anche con le frecce, la rotella o scrivendo il valore");
-    slider1_->setRange(0, Largest);
-    slider1_->setSingleStep(Step);
+    slider1_->setRange(0, LargestPosition);
+    slider1_->setSingleStep(PositionStep);
     slider1_->setPageStep(Page);
     slider1_->setTickPosition(QSlider::TicksBelow);
     slider1_->setTickInterval(Page);
@@ -79,9 +79,9 @@ void Form11::ShowStrength(double value)
 {
     constexpr int SignificantDigits = 15;
     label1_->setText(QString::number(value, 'g', SignificantDigits));
-    const int position = CLng(std::clamp<double>(value, -1, Largest + 1));
+    const int position = CLng(std::clamp<double>(value, -1, LargestPosition + 1));
     slider1_->setValue(position);
-    if (position < 0 || position > Largest) TakePosition(slider1_->value());
+    if (position < 0 || position > LargestPosition) TakePosition(slider1_->value());
 }
 
 void Form11::resizeEvent(QResizeEvent* event)

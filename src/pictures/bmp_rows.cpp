@@ -10,8 +10,6 @@
 namespace pixano {
 namespace {
 
-constexpr std::uint32_t Opaque = 0xFF000000;
-
 /// Turns the bytes of a row's first pixels into these pixels. Three bytes past the row's last may
 /// be looked at, not used.
 using RowReader = std::function<void(const std::byte*, std::span<std::uint32_t>)>;
@@ -19,7 +17,7 @@ using RowReader = std::function<void(const std::byte*, std::span<std::uint32_t>)
 void ReadBlueGreenRed(const std::byte* bytes, std::span<std::uint32_t> row)
 {
     for (std::uint32_t& pixel : row) {
-        pixel = ByteSwapped(Load32(bytes) << 8) | Opaque;
+        pixel = ByteSwapped(Load32(bytes) << 8) | Surface::Opaque;
         bytes += 3;
     }
 }
@@ -54,7 +52,7 @@ struct Channels {
     }
     std::uint32_t Of(std::uint32_t pixel) const
     {
-        return Opaque | red.Of(pixel) | green.Of(pixel) << 8 | blue.Of(pixel) << 16;
+        return Surface::Opaque | red.Of(pixel) | green.Of(pixel) << 8 | blue.Of(pixel) << 16;
     }
     bool AreBytes() const { return red.IsByte() && green.IsByte() && blue.IsByte(); }
 
@@ -88,8 +86,8 @@ RowReader LongReader(const Channels& channels)
             b = channels.blue.Shift()](const std::byte* bytes, std::span<std::uint32_t> row) {
         for (std::size_t x = 0; x < row.size(); ++x) {
             const std::uint32_t pixel = Load32(bytes + 4 * x);
-            row[x] =
-                Opaque | (pixel >> r & 255) | (pixel >> g & 255) << 8 | (pixel >> b & 255) << 16;
+            row[x] = Surface::Opaque | (pixel >> r & 255) | (pixel >> g & 255) << 8 |
+                     (pixel >> b & 255) << 16;
         }
     };
 }

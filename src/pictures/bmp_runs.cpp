@@ -6,8 +6,6 @@
 namespace pixano {
 namespace {
 
-constexpr std::uint32_t Opaque = 0xFF000000;
-
 /// Where the next pixel goes, counted in the file's order of rows. A run that leaves its row is
 /// cut.
 class Pen {
@@ -139,7 +137,7 @@ class RunReader {
         const auto blue = static_cast<std::uint32_t>(NextByte());
         const auto green = static_cast<std::uint32_t>(NextByte());
         const auto red = static_cast<std::uint32_t>(NextByte());
-        return Opaque | red | green << 8 | blue << 16;
+        return Surface::Opaque | red | green << 8 | blue << 16;
     }
 
     ByteSource& source_;

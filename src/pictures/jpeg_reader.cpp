@@ -22,7 +22,7 @@ constexpr int MostScans = 500;
 constexpr std::int64_t MostScannedPixels = std::int64_t{8} << 30;
 
 /// The layout of a surface's pixels: red in the lowest byte of a word, &HFF in the highest.
-constexpr J_COLOR_SPACE SurfaceLayout =
+constexpr J_COLOR_SPACE ReadLayout =
     std::endian::native == std::endian::little ? JCS_EXT_RGBA : JCS_EXT_ABGR;
 
 bool HasInks(const jpeg_decompress_struct& jpeg)
@@ -39,7 +39,7 @@ void InksToPixels(std::span<std::uint32_t> row, bool inverted)
         const auto inks = std::bit_cast<std::array<std::uint8_t, 4>>(pixel);
         const unsigned light = inks[3] ^ flip;
         const auto shade = [&](unsigned ink) { return ((ink ^ flip) * light + 127) / 255; };
-        pixel = 0xFF000000 | shade(inks[0]) | shade(inks[1]) << 8 | shade(inks[2]) << 16;
+        pixel = Surface::Opaque | shade(inks[0]) | shade(inks[1]) << 8 | shade(inks[2]) << 16;
     }
 }
 
@@ -66,7 +66,7 @@ class JpegReader {
         const auto width = static_cast<int>(jpeg_.image_width);
         const auto height = static_cast<int>(jpeg_.image_height);
         UprightCanvas canvas(width, height, ExifOrientation(source_.Exif()));
-        jpeg_.out_color_space = HasInks(jpeg_) ? JCS_CMYK : SurfaceLayout;
+        jpeg_.out_color_space = HasInks(jpeg_) ? JCS_CMYK : ReadLayout;
         present_ = height;
         Run([this] { jpeg_start_decompress(&jpeg_); });
         Run([this, &canvas] { ReadRows(canvas); });

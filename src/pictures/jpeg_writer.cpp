@@ -10,23 +10,23 @@
 namespace pixano {
 namespace {
 
-constexpr std::size_t BufferSize = 1 << 16;
+constexpr std::size_t OutputSize = 1 << 16;
 
-constexpr J_COLOR_SPACE SurfaceLayout =
+constexpr J_COLOR_SPACE WrittenLayout =
     std::endian::native == std::endian::little ? JCS_EXT_RGBX : JCS_EXT_XBGR;
 
 /// libjpeg's view of a sink.
 class JpegTarget : public jpeg_destination_mgr {
   public:
-    explicit JpegTarget(ByteSink& sink) : jpeg_destination_mgr{}, sink_(sink), buffer_(BufferSize)
+    explicit JpegTarget(ByteSink& sink) : jpeg_destination_mgr{}, sink_(sink), buffer_(OutputSize)
     {
         init_destination = [](j_compress_ptr jpeg) { Of(jpeg).Empty(); };
         empty_output_buffer = [](j_compress_ptr jpeg) -> boolean {
-            Of(jpeg).Put(jpeg, BufferSize);
+            Of(jpeg).Put(jpeg, OutputSize);
             return TRUE;
         };
         term_destination = [](j_compress_ptr jpeg) {
-            Of(jpeg).Put(jpeg, BufferSize - Of(jpeg).free_in_buffer);
+            Of(jpeg).Put(jpeg, OutputSize - Of(jpeg).free_in_buffer);
         };
     }
 
@@ -36,7 +36,7 @@ class JpegTarget : public jpeg_destination_mgr {
     void Empty()
     {
         next_output_byte = buffer_.data();
-        free_in_buffer = BufferSize;
+        free_in_buffer = OutputSize;
     }
     void Put(j_compress_ptr jpeg, std::size_t count)
     {
@@ -81,7 +81,7 @@ class JpegWriter {
         jpeg_.image_width = static_cast<JDIMENSION>(surface.Width());
         jpeg_.image_height = static_cast<JDIMENSION>(surface.Height());
         jpeg_.input_components = 4;
-        jpeg_.in_color_space = SurfaceLayout;
+        jpeg_.in_color_space = WrittenLayout;
         jpeg_set_defaults(&jpeg_);
         jpeg_set_quality(&jpeg_, Quality, TRUE);
         // The colours as fine as the light: effects draw edges one pixel wide.
