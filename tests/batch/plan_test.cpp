@@ -46,21 +46,18 @@ TEST(Plan, RefusesTwoResultsOfOneName)
 TEST(Plan, RefusesToReplaceAPictureThatIsRead)
 {
     const TemporaryFolder folder;
-    const std::string picture = folder.File("a.bmp").string();
+    const std::string picture = folder / "a.bmp";
     WriteBytes(picture, "x");
-    WriteBytes(folder.File("b.jpg").string(), "x");
-    fs::create_symlink(picture, folder.File("link.bmp"));
-    fs::create_hard_link(picture, folder.File("twin.bmp"));
+    WriteBytes(folder / "b.jpg", "x");
+    fs::create_symlink(picture, folder / "link.bmp");
+    fs::create_hard_link(picture, folder / "twin.bmp");
     EXPECT_THROW(PlanPictures(To(picture, picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(To(folder.File("./a.bmp").string(), picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(To(folder.File("link.bmp").string(), picture)), WrongCommandLine);
-    EXPECT_THROW(PlanPictures(To(folder.File("twin.bmp").string(), picture)), WrongCommandLine);
-    EXPECT_THROW(
-        PlanPictures(Into(folder.File("").string(), {folder.File("b.jpg").string(), picture})),
-        WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder / "./a.bmp", picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder / "link.bmp", picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(To(folder / "twin.bmp", picture)), WrongCommandLine);
+    EXPECT_THROW(PlanPictures(Into(folder / "", {folder / "b.jpg", picture})), WrongCommandLine);
     // b.bmp does not exist, and would replace nothing.
-    EXPECT_EQ(PlanPictures(Into(folder.File("").string(), {folder.File("b.jpg").string()})).size(),
-              1U);
+    EXPECT_EQ(PlanPictures(Into(folder / "", {folder / "b.jpg"})).size(), 1U);
 }
 
 TEST(Plan, RefusesFormatsThatAreNotWritten)

@@ -52,13 +52,13 @@ Ran RunProgram(const std::vector<std::string>& command, const std::string& folde
     const TemporaryFolder said;
     FileActions actions;
     actions.Open(STDIN_FILENO, input, O_RDONLY);
-    actions.Open(STDOUT_FILENO, said.File("out").string(), O_WRONLY | O_CREAT);
-    actions.Open(STDERR_FILENO, said.File("err").string(), O_WRONLY | O_CREAT);
+    actions.Open(STDOUT_FILENO, said / "out", O_WRONLY | O_CREAT);
+    actions.Open(STDERR_FILENO, said / "err", O_WRONLY | O_CREAT);
     actions.ChangeFolder(folder);
     int status = 0;
     ::waitpid(Start(command, actions), &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), BytesOf(said.File("out")),
-            BytesOf(said.File("err"))};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), BytesOf(said / "out"),
+            BytesOf(said / "err")};
 }
 
 }  // namespace pixano::batch::test

@@ -50,8 +50,8 @@ class Tool : public testing::Test {
     std::string Bytes(const std::string& name) const { return BytesOf(File(name)); }
     bool Exists(const std::string& name) const { return std::filesystem::exists(File(name)); }
 
-    std::string Folder() const { return folder.File("").string(); }
-    std::string File(const std::string& name) const { return folder.File(name).string(); }
+    std::string Folder() const { return folder / ""; }
+    std::string File(const std::string& name) const { return folder / name; }
     auto FileCount() const
     {
         using Entries = std::filesystem::directory_iterator;

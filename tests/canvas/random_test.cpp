@@ -20,13 +20,13 @@ Draws FirstOf(Random& random)
     return draws;
 }
 
-struct Expected {
+struct Seeded {
     std::uint64_t reading;
     Draws draws;
 };
 
 // Calculated from the formulas of the seeding and of a draw, apart from this program.
-constexpr std::array<Expected, 7> All{{
+constexpr std::array<Seeded, 7> Seeds{{
     {0, {4841478, 3405014, 7997183, 12072394}},
     {1, {10081177, 8335207, 1751891, 1513994}},
     {2, {4753487, 4499676, 7373421, 5150263}},
@@ -38,7 +38,7 @@ constexpr std::array<Expected, 7> All{{
 
 TEST(Random, DrawsTheSameNumbersForTheSameReading)
 {
-    for (const Expected& expected : All) {
+    for (const Seeded& expected : Seeds) {
         Random random{Timer(expected.reading)};
         EXPECT_EQ(FirstOf(random), expected.draws) << expected.reading;
     }
@@ -47,11 +47,11 @@ TEST(Random, DrawsTheSameNumbersForTheSameReading)
 TEST(Random, ReadsTheTimerOnceWhenMadeAndOnceAtEveryReseed)
 {
     Random random{Timer(0)};
-    EXPECT_EQ(FirstOf(random), All[0].draws);
+    EXPECT_EQ(FirstOf(random), Seeds[0].draws);
     random.Randomize();
-    EXPECT_EQ(FirstOf(random), All[1].draws);
+    EXPECT_EQ(FirstOf(random), Seeds[1].draws);
     random.Randomize();
-    EXPECT_EQ(FirstOf(random), All[2].draws);
+    EXPECT_EQ(FirstOf(random), Seeds[2].draws);
 }
 
 TEST(Random, StartsAfreshAtAReseedHoweverMuchWasDrawn)
@@ -60,7 +60,7 @@ TEST(Random, StartsAfreshAtAReseedHoweverMuchWasDrawn)
     for (int i = 0; i < 1000; ++i)
         random.Rnd();
     random.Randomize();
-    EXPECT_EQ(FirstOf(random), All[4].draws);
+    EXPECT_EQ(FirstOf(random), Seeds[4].draws);
 }
 
 TEST(Random, StaysFromZeroToBelowOneAndFillsThatEvenly)

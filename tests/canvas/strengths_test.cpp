@@ -32,7 +32,7 @@ class StrengthFile : public testing::Test {
     }
 
     TemporaryFolder folder;
-    std::string path = folder.File("valori.tip").string();
+    std::string path = folder / "valori.tip";
 };
 
 TEST_F(StrengthFile, HoldsFiveNumbersOneALine)
@@ -75,7 +75,7 @@ TEST_F(StrengthFile, MissingOrNoFileIsAFault)
         EXPECT_EQ(fault.Kind(), FaultKind::FileNotFound);
         EXPECT_NE(std::string(fault.what()).find(path), std::string::npos);
     }
-    EXPECT_THROW(LeggiValori(folder.File("").string(), valori), Fault);
+    EXPECT_THROW(LeggiValori(folder / "", valori), Fault);
 }
 
 TEST_F(StrengthFile, ANumberTooLargeIsAFault)
@@ -94,15 +94,15 @@ TEST_F(StrengthFile, ReplacesAnOldOneAndLeavesNothingBeside)
     WriteBytes(path, "old, and longer than the new one will ever be: 0123456789 0123456789");
     SalvaValori(path, {0, 1, 2, 3, 4, 5});
     EXPECT_EQ(BytesOf(path), "1\r\n2\r\n3\r\n4\r\n5\r\n");
-    EXPECT_EQ(std::distance(Entries(folder.File("")), Entries()), 1);
+    EXPECT_EQ(std::distance(Entries(folder / ""), Entries()), 1);
 }
 
 TEST_F(StrengthFile, ThatCannotBeWrittenIsAFault)
 {
     std::filesystem::create_directory(path);
     EXPECT_THROW(SalvaValori(path, {}), Fault);
-    EXPECT_EQ(std::distance(Entries(folder.File("")), Entries()), 1);
-    EXPECT_THROW(SalvaValori(folder.File("missing/valori.tip").string(), {}), Fault);
+    EXPECT_EQ(std::distance(Entries(folder / ""), Entries()), 1);
+    EXPECT_THROW(SalvaValori(folder / "missing/valori.tip", {}), Fault);
 }
 
 }  // namespace

@@ -8,8 +8,8 @@ namespace pixano::test {
 namespace {
 
 constexpr float Huge = std::numeric_limits<float>::max();
-constexpr float Infinite = std::numeric_limits<float>::infinity();
-constexpr float NoNumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float InfinitePlace = std::numeric_limits<float>::infinity();
+constexpr float NoPlace = std::numeric_limits<float>::quiet_NaN();
 constexpr int Largest = std::numeric_limits<int>::max();
 constexpr int Smallest = std::numeric_limits<int>::min();
 
@@ -72,7 +72,7 @@ TEST(Surface, HasNoPixelAtWhatIsNoPlace)
 {
     Surface surface = Numbered();
     const Surface before = surface;
-    for (const float place : {NoNumber, Infinite, -Infinite, Huge, -Huge, 4294967296.0F,
+    for (const float place : {NoPlace, InfinitePlace, -InfinitePlace, Huge, -Huge, 4294967296.0F,
                               2147483648.0F, 16777216.0F, -16777216.0F}) {
         EXPECT_EQ(surface.Point(place, 1.0F), -1);
         EXPECT_EQ(surface.Point(1.0F, place), -1);

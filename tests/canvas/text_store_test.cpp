@@ -26,7 +26,7 @@ class TextFile : public testing::Test {
     }
 
     TemporaryFolder folder;
-    fs::path path = folder.File("elab.ser");
+    fs::path path = folder / "elab.ser";
     PixelFile file{TextStore(path.string())};
 };
 
@@ -139,7 +139,7 @@ TEST_F(TextFile, IsNotFoundWhenItIsMissing)
 
 TEST_F(TextFile, CannotBeMadeInAFolderThatIsMissing)
 {
-    PixelFile lost(TextStore(folder.File("no/elab.ser").string()));
+    PixelFile lost(TextStore(folder / "no/elab.ser"));
     EXPECT_EQ(FaultIn([&] { lost.OpenForOutput(); }), FaultKind::FileAccess);
 }
 
@@ -165,7 +165,7 @@ TEST_F(TextFile, IsNoFolder)
 
 TEST_F(TextFile, DoesNotFollowALink)
 {
-    const fs::path other = folder.File("letter.txt");
+    const fs::path other = folder / "letter.txt";
     WriteBytes(other, "1\r\n");
     fs::create_symlink(other, path);
     EXPECT_EQ(FaultIn([&] { file.Input(); }), FaultKind::FileAccess);
@@ -177,7 +177,7 @@ TEST_F(TextFile, DoesNotFollowALink)
 
 TEST_F(TextFile, DoesNotMakeTheFileThatADeadLinkNames)
 {
-    const fs::path other = folder.File("letter.txt");
+    const fs::path other = folder / "letter.txt";
     fs::create_symlink(other, path);
     EXPECT_EQ(FaultIn([&] { file.Input(); }), FaultKind::FileAccess);
     Write({4});

@@ -15,9 +15,9 @@ class ValueText : public testing::Test {
     /// Reads the text to its first fault; `fault` tells which.
     std::vector<Colour> Read(const std::string& text)
     {
-        const auto path = folder.File("elab.ser");
+        const auto path = folder / "elab.ser";
         WriteBytes(path, text);
-        PixelFile file(TextStore(path.string()));
+        PixelFile file(TextStore(path));
         std::vector<Colour> values;
         fault = FaultIn([&] {
             for (;;)
@@ -37,58 +37,58 @@ class ValueText : public testing::Test {
     std::optional<FaultKind> fault;
 };
 
-using Values = std::vector<Colour>;
+using Numbers = std::vector<Colour>;
 
 TEST_F(ValueText, IsANumberALine)
 {
-    EXPECT_EQ(ReadAll("12\r\n-7\r\n16777215\r\n"), (Values{12, -7, 16777215}));
+    EXPECT_EQ(ReadAll("12\r\n-7\r\n16777215\r\n"), (Numbers{12, -7, 16777215}));
 }
 
 TEST_F(ValueText, EndsAtAnyLineEndAndAtTheEndOfTheFile)
 {
-    EXPECT_EQ(ReadAll("1\n2\r3\r\n4"), (Values{1, 2, 3, 4}));
-    EXPECT_EQ(ReadAll("5\r"), Values{5});
+    EXPECT_EQ(ReadAll("1\n2\r3\r\n4"), (Numbers{1, 2, 3, 4}));
+    EXPECT_EQ(ReadAll("5\r"), Numbers{5});
     EXPECT_TRUE(ReadAll("").empty());
 }
 
 TEST_F(ValueText, EndsAtACommaToo)
 {
-    EXPECT_EQ(ReadAll("1,2,-3\r\n4\r\n"), (Values{1, 2, -3, 4}));
-    EXPECT_EQ(ReadAll("1,,2\r\n"), (Values{1, 0, 2}));
+    EXPECT_EQ(ReadAll("1,2,-3\r\n4\r\n"), (Numbers{1, 2, -3, 4}));
+    EXPECT_EQ(ReadAll("1,,2\r\n"), (Numbers{1, 0, 2}));
 }
 
 TEST_F(ValueText, MayStandBetweenBlanks)
 {
-    EXPECT_EQ(ReadAll("  12 \r\n\t13\t, 14\r\n"), (Values{12, 13, 14}));
+    EXPECT_EQ(ReadAll("  12 \r\n\t13\t, 14\r\n"), (Numbers{12, 13, 14}));
 }
 
 TEST_F(ValueText, MayStandInQuotes)
 {
-    EXPECT_EQ(ReadAll("\"7\"\r\n\"8\",9\r\n"), (Values{7, 8, 9}));
+    EXPECT_EQ(ReadAll("\"7\"\r\n\"8\",9\r\n"), (Numbers{7, 8, 9}));
 }
 
 TEST_F(ValueText, OfAnEmptyLineIsZero)
 {
-    EXPECT_EQ(ReadAll("\r\n5\r\n\r\n\r\n6\r\n"), (Values{0, 5, 0, 0, 6}));
-    EXPECT_EQ(ReadAll("\"\"\r\n"), Values{0});
+    EXPECT_EQ(ReadAll("\r\n5\r\n\r\n\r\n6\r\n"), (Numbers{0, 5, 0, 0, 6}));
+    EXPECT_EQ(ReadAll("\"\"\r\n"), Numbers{0});
 }
 
 TEST_F(ValueText, IsRoundedHalvesToTheEvenNeighbour)
 {
-    EXPECT_EQ(ReadAll("1.5\r\n2.5\r\n-0.5\r\n2.6\r\n1e3\r\n"), (Values{2, 2, 0, 3, 1000}));
+    EXPECT_EQ(ReadAll("1.5\r\n2.5\r\n-0.5\r\n2.6\r\n1e3\r\n"), (Numbers{2, 2, 0, 3, 1000}));
 }
 
 TEST_F(ValueText, ReachesBothEndsOfThirtyTwoBits)
 {
     EXPECT_EQ(ReadAll("2147483647\r\n-2147483648\r\n0000000000123\r\n"),
-              (Values{2147483647, -2147483647 - 1, 123}));
+              (Numbers{2147483647, -2147483647 - 1, 123}));
 }
 
 TEST_F(ValueText, IsNoWord)
 {
     for (const char* const text :
          {"abc", "12x", "x12", "--1", "1 2", "-", "\"a b\"", "1.2.3", "inf", "-nan"}) {
-        EXPECT_EQ(Read(std::string("1\r\n2\r\n") + text + "\r\n3\r\n"), (Values{1, 2})) << text;
+        EXPECT_EQ(Read(std::string("1\r\n2\r\n") + text + "\r\n3\r\n"), (Numbers{1, 2})) << text;
         EXPECT_EQ(fault, FaultKind::TypeMismatch) << text;
     }
 }
@@ -96,15 +96,15 @@ TEST_F(ValueText, IsNoWord)
 TEST_F(ValueText, IsNoNumberBeyondThirtyTwoBits)
 {
     for (const char* const text : {"99999999999", "2147483648", "-2147483649", "1e20", "1e400"}) {
-        EXPECT_EQ(Read(std::string("1\r\n") + text + "\r\n"), Values{1}) << text;
+        EXPECT_EQ(Read(std::string("1\r\n") + text + "\r\n"), Numbers{1}) << text;
         EXPECT_EQ(fault, FaultKind::Overflow) << text;
     }
 }
 
 TEST_F(ValueText, CutShortGivesWhatIsThereAndThenFails)
 {
-    EXPECT_EQ(ReadAll("100\r\n200\r\n30"), (Values{100, 200, 30}));
-    EXPECT_EQ(ReadAll("100\r\n200\r\n"), (Values{100, 200}));
+    EXPECT_EQ(ReadAll("100\r\n200\r\n30"), (Numbers{100, 200, 30}));
+    EXPECT_EQ(ReadAll("100\r\n200\r\n"), (Numbers{100, 200}));
 }
 
 TEST_F(ValueText, OfEndlessLengthIsNoNumber)
@@ -122,7 +122,7 @@ TEST_F(ValueText, MayBeCutAnywhereByTheReading)
         constexpr std::size_t Count = 60000;
         for (std::size_t i = 0; i < Count; ++i)
             text += std::to_string(10000000 + i) + "\r\n";
-        const Values values = ReadAll(text);
+        const Numbers values = ReadAll(text);
         ASSERT_EQ(values.size(), Count + 1);
         EXPECT_EQ(values[0], std::stoi(std::string(digits, '1')));
         for (std::size_t i = 0; i < Count; ++i)
@@ -140,7 +140,7 @@ TEST_F(ValueText, OfALongLineMayBeCutAnywhereByTheReading)
         std::string text(blanks, ' ');
         for (std::size_t i = 0; i < count; ++i)
             text += lines;
-        const Values values = ReadAll(text);
+        const Numbers values = ReadAll(text);
         ASSERT_EQ(values.size(), 2 * count) << blanks;
         for (std::size_t i = 0; i < count; ++i) {
             ASSERT_EQ(values[2 * i], 7);
@@ -153,7 +153,7 @@ TEST_F(ValueText, IsTheSameByLinesAndOneByOne)
 {
     std::string plain;
     std::string blanks;
-    Values expected;
+    Numbers expected;
     for (const Colour value : {0, 9, 10, 255, 9999, 65535, 1234567, 16777215, 99999999, -1, -255}) {
         plain += std::to_string(value) + "\r\n";
         blanks.append(" ").append(std::to_string(value)).append(" \r\n");

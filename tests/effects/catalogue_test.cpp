@@ -19,11 +19,6 @@
 namespace pixano::test {
 namespace {
 
-struct Size {
-    int width;
-    int height;
-};
-
 constexpr std::array<Size, 16> Sizes{{{1, 1},
                                       {1, 2},
                                       {1, 9},
@@ -56,14 +51,14 @@ TEST(Catalogue, FindsEachEffectByItsName)
 
 TEST(Catalogue, GivesNoMenuEntryToTwoEffects)
 {
-    constexpr int Entries = 62;
+    constexpr int MenuEntries = 62;
     std::set<int> entries;
     for (const Effect& effect : Catalogue()) {
         if (effect.entry == 0) continue;
-        EXPECT_TRUE(effect.entry >= 1 && effect.entry <= Entries) << effect.name;
+        EXPECT_TRUE(effect.entry >= 1 && effect.entry <= MenuEntries) << effect.name;
         EXPECT_TRUE(entries.insert(effect.entry).second) << effect.name;
     }
-    for (int index = -1; index <= Entries + 1; ++index) {
+    for (int index = -1; index <= MenuEntries + 1; ++index) {
         const Effect* const started = EffectOfEntry(index);
         EXPECT_EQ(started != nullptr, entries.contains(index)) << index;
         EXPECT_TRUE(started == nullptr || started->entry == index) << index;
@@ -205,7 +200,7 @@ std::string NameOf(const testing::TestParamInfo<const Effect*>& info)
     return name + "_" + std::to_string(info.index);
 }
 
-std::vector<const Effect*> All()
+std::vector<const Effect*> WholeCatalogue()
 {
     std::vector<const Effect*> effects;
     for (const Effect& effect : Catalogue())
@@ -213,7 +208,7 @@ std::vector<const Effect*> All()
     return effects;
 }
 
-INSTANTIATE_TEST_SUITE_P(Catalogue, EveryEffect, testing::ValuesIn(All()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Catalogue, EveryEffect, testing::ValuesIn(WholeCatalogue()), NameOf);
 
 }  // namespace
 }  // namespace pixano::test

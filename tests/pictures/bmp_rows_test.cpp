@@ -13,13 +13,6 @@ constexpr Colour Blue = Rgb(0, 0, 255);
 /// Blue, green, red, filler: the colours of these tests as four-byte palette entries.
 const Bytes RedGreenBlueWhite{0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0, 255, 255, 255, 0};
 
-Colours ReadColours(const Bytes& file)
-{
-    const PictureRead read = file.Read();
-    EXPECT_FALSE(read.truncated);
-    return ColoursOf(read.picture);
-}
-
 TEST(BmpRows, TrueColourBottomUpWithPadding)
 {
     // Rows of two pixels take six bytes and two of padding; the lower row comes first.

@@ -23,13 +23,6 @@ Bytes Runs(unsigned bits, const Bytes& pixels, int width = 4, int height = 2)
     return Bmp(head, palette, pixels);
 }
 
-Colours ReadColours(const Bytes& file)
-{
-    const PictureRead read = file.Read();
-    EXPECT_FALSE(read.truncated);
-    return ColoursOf(read.picture);
-}
-
 TEST(BmpRuns, EightBitRunsAndSinglePixels)
 {
     // Lower row: three B, one A. Upper row: A B C A one by one, in two words.

@@ -86,6 +86,14 @@ inline Colours ColoursOf(const Surface& surface)
     return colours;
 }
 
+/// The pixels of a file that is whole.
+inline Colours ReadColours(const Bytes& file)
+{
+    const PictureRead read = file.Read();
+    EXPECT_FALSE(read.truncated);
+    return ColoursOf(read.picture);
+}
+
 /// A colour by its red, green and blue.
 constexpr Colour Rgb(int red, int green, int blue)
 {

@@ -1,7 +1,7 @@
 // The formats that pictures are written in, by the name's extension or to any sink.
+#include "pictures/byte_files.h"
 #include "pictures/descriptor.h"
 #include "pictures/jpeg_maker.h"
-#include "pictures/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

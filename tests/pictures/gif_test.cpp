@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-namespace pixano::test {
+namespace pixano::test::gif {
 namespace {
 
 using testing::HasSubstr;
@@ -13,13 +13,6 @@ constexpr Colour B = GifColours[1];
 constexpr Colour C = GifColours[2];
 constexpr Colour D = GifColours[3];
 constexpr Colour Hole = Background;
-
-Colours ReadColours(const Bytes& file)
-{
-    const PictureRead read = file.Read();
-    EXPECT_FALSE(read.truncated);
-    return ColoursOf(read.picture);
-}
 
 Bytes File(std::initializer_list<Bytes> pieces)
 {
@@ -203,4 +196,4 @@ TEST(Gif, SizesBeyondTheBounds)
 }
 
 }  // namespace
-}  // namespace pixano::test
+}  // namespace pixano::test::gif

@@ -27,6 +27,12 @@ Bytes MakeJpeg(const JpegPlan& plan);
 Bytes MakeJpeg(const Surface& surface, const std::function<void(jpeg_compress_struct&)>& set = {},
                const std::function<void(jpeg_compress_struct&)>& write = {});
 
+/// Several scans, each finer than the last.
+inline void Progressive(jpeg_compress_struct& jpeg)
+{
+    jpeg_simple_progression(&jpeg);
+}
+
 /// The pixels that libjpeg gives in the order red, green, blue.
 Colours DecodedByLibjpeg(const Bytes& file);
 

@@ -20,11 +20,6 @@ void HalveColours(jpeg_compress_struct& jpeg)
     jpeg.comp_info[0].h_samp_factor = jpeg.comp_info[0].v_samp_factor = 2;
 }
 
-void MakeProgressive(jpeg_compress_struct& jpeg)
-{
-    jpeg_simple_progression(&jpeg);
-}
-
 TEST(Jpeg, OneColour)
 {
     // Grey is kept exactly: light 128, no tint.
@@ -42,7 +37,7 @@ TEST(Jpeg, PixelsAreLibjpegsOwn)
 
 TEST(Jpeg, ProgressiveAndRestartMarkers)
 {
-    ExpectAsLibjpeg(MakeJpeg(Shaded(83, 61), MakeProgressive));
+    ExpectAsLibjpeg(MakeJpeg(Shaded(83, 61), Progressive));
     ExpectAsLibjpeg(MakeJpeg(Shaded(83, 61), [](auto& jpeg) { jpeg.restart_interval = 3; }));
     ExpectAsLibjpeg(MakeJpeg(Shaded(83, 61), [](auto& jpeg) { jpeg.arith_code = TRUE; }));
 }
@@ -116,7 +111,7 @@ TEST(Jpeg, ACutFileShowsTheBackgroundBelowTheCut)
 
 TEST(Jpeg, ACutProgressiveFileIsCoarse)
 {
-    const Bytes whole = MakeJpeg(Shaded(64, 64), MakeProgressive);
+    const Bytes whole = MakeJpeg(Shaded(64, 64), Progressive);
     const PictureRead read = whole.Without(whole.Size() / 3).Read();
     EXPECT_TRUE(read.truncated);
     EXPECT_EQ(read.picture.Width(), 64);

@@ -1,6 +1,6 @@
 // Opening files: what is no regular file is refused, and nothing waits.
 #include "pictures/bmp_maker.h"
-#include "pictures/temporary_folder.h"
+#include "pictures/byte_files.h"
 
 #include <gmock/gmock.h>
 

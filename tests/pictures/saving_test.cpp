@@ -1,5 +1,5 @@
 // Saving: the exact bytes, the old file kept when anything fails, links kept.
-#include "pictures/temporary_folder.h"
+#include "pictures/byte_files.h"
 #include "support/hindrances.h"
 
 #include <gmock/gmock.h>

@@ -80,11 +80,6 @@ Bytes LargeJpeg(const std::function<void(jpeg_compress_struct&)>& set)
     return WithSides(MakeJpeg(Shaded(16, 16), set), Side, Side);
 }
 
-void Progressive(jpeg_compress_struct& jpeg)
-{
-    jpeg_simple_progression(&jpeg);
-}
-
 Bytes LargeInks()
 {
     JpegPlan plan{.width = 8, .height = 8, .space = JCS_CMYK, .set = Progressive};

@@ -13,10 +13,10 @@ void Coarse(jpeg_compress_struct& jpeg)
     jpeg_set_quality(&jpeg, 60, TRUE);
 }
 
-void Progressive(jpeg_compress_struct& jpeg)
+void CoarseProgressive(jpeg_compress_struct& jpeg)
 {
     Coarse(jpeg);
-    jpeg_simple_progression(&jpeg);
+    Progressive(jpeg);
 }
 
 void Halved(jpeg_compress_struct& jpeg)
@@ -28,7 +28,7 @@ void Halved(jpeg_compress_struct& jpeg)
 void HalvedProgressive(jpeg_compress_struct& jpeg)
 {
     Halved(jpeg);
-    jpeg_simple_progression(&jpeg);
+    Progressive(jpeg);
 }
 
 void Restarting(jpeg_compress_struct& jpeg)
@@ -39,7 +39,7 @@ void Restarting(jpeg_compress_struct& jpeg)
 
 void Arithmetic(jpeg_compress_struct& jpeg)
 {
-    Progressive(jpeg);
+    CoarseProgressive(jpeg);
     jpeg.arith_code = TRUE;
 }
 
@@ -82,10 +82,10 @@ std::vector<Bytes> JpegFiles()
 {
     const Surface picture = Shaded(37, 26);
     std::vector<Bytes> files;
-    for (const auto set : {Coarse, Progressive, Halved, HalvedProgressive, Restarting, Arithmetic,
-                           OneScanForEachColour})
+    for (const auto set : {Coarse, CoarseProgressive, Halved, HalvedProgressive, Restarting,
+                           Arithmetic, OneScanForEachColour})
         files.push_back(MakeJpeg(picture, set));
-    for (const auto set : {Coarse, Progressive}) {
+    for (const auto set : {Coarse, CoarseProgressive}) {
         files.push_back(MakeJpeg(picture, set, WriteExif));
         files.push_back(OtherColours(JCS_GRAYSCALE, 1, set));
         files.push_back(OtherColours(JCS_CMYK, 4, set));

@@ -35,11 +35,11 @@ class FailingTool : public Tool {
             std::to_string(first) + ' ' + std::to_string(last) + ' ' + std::to_string(error);
         setenv("LD_PRELOAD", FAILING_CALLS, 1);
         setenv("PIXANO_FAILING_CALLS", orders.c_str(), 1);
-        setenv("PIXANO_FAILED_CALLS", reports.File("failed").c_str(), 1);
+        setenv("PIXANO_FAILED_CALLS", (reports / "failed").c_str(), 1);
         const Ran ran = RunOn("b");
         unsetenv("LD_PRELOAD");
         Check(ran);
-        return std::stol(BytesOf(reports.File("failed")));
+        return std::stol(BytesOf(reports / "failed"));
     }
 
     void Check(const Ran& ran) const
@@ -55,12 +55,12 @@ class FailingTool : public Tool {
     {
         // The picture is opened and closed; the folder and the result are opened, it is written,
         // synchronised, named, closed and put in its place.
-        constexpr long FewestCalls = 9;
+        constexpr long FewestOfARun = 9;
         for (const int error : {ENOSPC, EIO, EACCES}) {
             long n = 1;
             while (RunWhileFailing(n, onward ? LONG_MAX : n, error) > 0 && !HasFailure())
                 ++n;
-            EXPECT_GT(n, FewestCalls);
+            EXPECT_GT(n, FewestOfARun);
         }
     }
 

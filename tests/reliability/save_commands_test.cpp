@@ -83,11 +83,9 @@ class FailingCommand : public Program {
     Surface picture;
 };
 
-constexpr int Errors[] = {ENOSPC, EIO, EACCES, EDQUOT, EROFS};
-
 // The folder and the file are opened, the file is written, synchronised, named, closed and put in
 // its place.
-constexpr long FewestCalls = 7;
+constexpr long FewestOfACommand = 7;
 
 TEST_F(FailingCommand, SaveFile)
 {
@@ -96,7 +94,7 @@ TEST_F(FailingCommand, SaveFile)
             dialogs.answers.push_back(true);
             SaveAs(target);
         });
-        EXPECT_GE(calls, FewestCalls);
+        EXPECT_GE(calls, FewestOfACommand);
         ExpectSaved();
         // As after another effect.
         WriteBytes(target.toStdString(), old);
@@ -112,7 +110,7 @@ TEST_F(FailingCommand, SavingWhenTheProgramEnds)
         dialogs.answers.push_back(true);
         ClickEntry(entry::Esci);
     });
-    EXPECT_GE(calls, FewestCalls);
+    EXPECT_GE(calls, FewestOfACommand);
     ExpectSaved();
     EXPECT_EQ(session.ending, 0);
 }
@@ -124,7 +122,7 @@ TEST_F(FailingCommand, SavingUnderANewNameWhenTheProgramEnds)
         dialogs.saveNames.push_back(target);
         ClickEntry(entry::Esci);
     });
-    EXPECT_GE(calls, FewestCalls);
+    EXPECT_GE(calls, FewestOfACommand);
     ExpectSaved();
     EXPECT_EQ(session.ending, 0);
 }
@@ -136,7 +134,7 @@ TEST_F(FailingCommand, SavingWhenTheCanvasIsClosed)
         dialogs.saveNames.push_back(target);
         session.form2.close();
     });
-    EXPECT_GE(calls, FewestCalls);
+    EXPECT_GE(calls, FewestOfACommand);
     ExpectSaved();
     EXPECT_FALSE(session.form2.isVisible());
 }
@@ -148,7 +146,7 @@ TEST_F(FailingCommand, SavingWhenThePreviewIsClosed)
         dialogs.saveNames.push_back(target);
         session.form9.close();
     });
-    EXPECT_GE(calls, FewestCalls);
+    EXPECT_GE(calls, FewestOfACommand);
     ExpectSaved();
 }
 
@@ -162,7 +160,7 @@ TEST_F(FailingCommand, SavingWhenAnotherPictureIsOpened)
         dialogs.openNames = {std::nullopt};
         ClickEntry(entry::Apri);
     });
-    EXPECT_GE(calls, FewestCalls);
+    EXPECT_GE(calls, FewestOfACommand);
     ExpectSaved();
 }
 

@@ -1,5 +1,5 @@
 // Saving while the system fails: whichever call it is, the file is the old one or the new one.
-#include "pictures/temporary_folder.h"
+#include "pictures/byte_files.h"
 #include "reliability/preload/failing_calls.h"
 
 #include <gmock/gmock.h>
@@ -169,8 +169,6 @@ class FailingSave : public testing::TestWithParam<Way> {
     const Bytes old = Bytes().Add("quel che c'era prima");
     Bytes whole;
 };
-
-constexpr int Errors[] = {ENOSPC, EIO, EACCES, EDQUOT, EROFS};
 
 // At least: the folder and the file are opened, the file is written, closed and put in its place.
 constexpr long FewestCalls = 5;

@@ -1,5 +1,5 @@
 // Saving on a real disk that is too small: a file system of one megabyte, in memory.
-#include "pictures/temporary_folder.h"
+#include "pictures/byte_files.h"
 #include "reliability/preload/failing_calls.h"
 
 #include <gmock/gmock.h>

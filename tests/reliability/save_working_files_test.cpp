@@ -3,7 +3,7 @@
 #include "shell/working_pictures.h"
 
 #include "canvas/fault.h"
-#include "pictures/temporary_folder.h"
+#include "pictures/byte_files.h"
 #include "support/hindrances.h"
 
 #include <QString>

@@ -2,7 +2,7 @@
 // tells a run-time error, and the snapshot taken before gives back every byte.
 #include "batch/chain.h"
 #include "effects/catalogue.h"
-#include "pictures/temporary_folder.h"
+#include "pictures/byte_files.h"
 #include "reliability/fuzz_time.h"
 #include "support/effect_run.h"
 

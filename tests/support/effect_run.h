@@ -3,6 +3,7 @@
 
 #include "canvas/work.h"
 #include "effects/catalogue.h"
+#include "support/faults.h"
 #include "support/letters.h"
 
 #include <cstdint>
@@ -66,6 +67,18 @@ class EffectRun {
 
     RecordedProgress progress;
     Work work;
+};
+
+/// The run-time error that the effect ends in; nothing when it runs through.
+inline std::optional<FaultKind> FaultOf(EffectRun& run, void (*effect)(Work&))
+{
+    return FaultIn([&] { run.Apply(effect); });
+}
+
+/// Of a picture, in pixels.
+struct Size {
+    int width;
+    int height;
 };
 
 /// A picture of that size in which no two neighbours, and hardly any two pixels, are alike.

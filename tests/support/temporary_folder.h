@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <stdexcept>
 #include <string>
 
@@ -26,7 +27,16 @@ class TemporaryFolder {
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    std::filesystem::path File(const std::string& name) const { return path_ / name; }
+    std::string operator/(const std::string& name) const { return path_ / name; }
+    std::string Path() const { return path_; }
+    /// The names of all that is in the folder, hidden files too.
+    std::set<std::string> Names() const
+    {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_))
+            names.insert(entry.path().filename());
+        return names;
+    }
 
   private:
     std::filesystem::path path_;

@@ -27,7 +27,7 @@ const Values Even{{0x000001, 0x000100, 0x010000, 0xFFFFFF},
 
 // Of two partners, p met first and q: D = |p - q|. Painted in place, p becomes D and then q becomes
 // |q - D|. Painted at the partner, q becomes D and then p becomes |D - p|.
-const std::vector<Artistico> All{
+const std::vector<Artistico> Formulas{
     {ArtUno,
      Mirror::Both,
      Result::InPlace,
@@ -82,33 +82,35 @@ Sheet Expected(const Artistico& effect, const Surface& picture)
 
 TEST(Artistico, OddSidesWorkedOutByHand)
 {
-    for (std::size_t i = 0; i < All.size(); ++i)
-        EXPECT_EQ(ValuesOf(EffectRun(Painted(Odd)).Apply(All[i].run).work.Picture1), All[i].odd)
+    for (std::size_t i = 0; i < Formulas.size(); ++i)
+        EXPECT_EQ(ValuesOf(EffectRun(Painted(Odd)).Apply(Formulas[i].run).work.Picture1),
+                  Formulas[i].odd)
             << "Artistico " << i + 1;
 }
 
 TEST(Artistico, EvenSidesWorkedOutByHand)
 {
-    for (std::size_t i = 0; i < All.size(); ++i)
-        EXPECT_EQ(ValuesOf(EffectRun(Painted(Even)).Apply(All[i].run).work.Picture1), All[i].even)
+    for (std::size_t i = 0; i < Formulas.size(); ++i)
+        EXPECT_EQ(ValuesOf(EffectRun(Painted(Even)).Apply(Formulas[i].run).work.Picture1),
+                  Formulas[i].even)
             << "Artistico " << i + 1;
 }
 
 TEST(Artistico, EveryPairOnAllSizes)
 {
-    for (std::size_t i = 0; i < All.size(); ++i)
+    for (std::size_t i = 0; i < Formulas.size(); ++i)
         for (const Size size : SmallSizes) {
             const Surface picture = Varied(size.width, size.height);
             EffectRun run(picture);
-            run.Apply(All[i].run);
-            EXPECT_TRUE(Expected(All[i], picture).Shows(run.work.Picture1))
+            run.Apply(Formulas[i].run);
+            EXPECT_TRUE(Expected(Formulas[i], picture).Shows(run.work.Picture1))
                 << "Artistico " << i + 1 << " on " << size.width << "x" << size.height;
         }
 }
 
 TEST(Artistico, TellOneProgressValueARowAfterShowingTheWindow)
 {
-    for (const auto& effect : All) {
+    for (const auto& effect : Formulas) {
         EffectRun run(Varied(2, 5));
         run.Apply(effect.run);
         EXPECT_EQ(run.progress.values, Steps(0, 4));
@@ -182,7 +184,7 @@ TEST(Artistico, ClampADifferenceAboveWhiteFromTheThirdOn)
 
 TEST(Artistico, LeaveColumnsAndRowsBeyondTheDocumentAlone)
 {
-    for (const auto& effect : All) {
+    for (const auto& effect : Formulas) {
         EffectRun run({"abc", "def", "ghi"});
         run.work.Larg = 2;
         run.work.Alt = 2;
@@ -195,7 +197,7 @@ TEST(Artistico, LeaveColumnsAndRowsBeyondTheDocumentAlone)
 
 TEST(Artistico, OnlyTheFirstReseedsAndNoneDraws)
 {
-    for (const auto& effect : All) {
+    for (const auto& effect : Formulas) {
         EffectRun run(Varied(3, 3), 70);
         run.Apply(effect.run);
         EXPECT_EQ(run.work.Rnd(), ReferenceRandom(effect.run == ArtUno ? 71 : 70).Rnd());

@@ -8,7 +8,7 @@
 namespace pixano::test {
 namespace {
 
-constexpr int Selector = 4;
+constexpr int ColorRndSelector = 4;
 
 /// What one trial draws; the last three only when there is a copy to paste.
 struct Trial {
@@ -63,7 +63,7 @@ TEST(ColorRnd, EvenSidesWorkedOutByHand)
     const std::uint64_t seed = SeedOfOneCopy(8, 4);
     const Colour k = ShiftOfFirstCopy(seed, 8, 4);
     EffectRun run(Painted(before), seed);
-    Use(run, Selector, 0).Apply(ColorRnd);
+    Use(run, ColorRndSelector, 0).Apply(ColorRnd);
 
     Values after = before;
     after[2] = {20, 21, 0xA00000 - k, 0xB00000 - k, 0xC00000 - k, 25, 26, 27};
@@ -81,7 +81,7 @@ TEST(ColorRnd, PastesTheColumnAndTheRowOutsideWhereItsStepMeetsThem)
     const Colour k = ShiftOfFirstCopy(seed, 9, 6);
     const Surface picture = Varied(9, 6);
     EffectRun run(picture, seed);
-    Use(run, Selector, 0).Apply(ColorRnd);
+    Use(run, ColorRndSelector, 0).Apply(ColorRnd);
 
     Sheet after(picture);
     after.Paint(2, 2, picture.Point(0, 0) - k);
@@ -122,7 +122,7 @@ TEST(ColorRnd, EveryCopyOnAllSizes)
             for (const std::uint64_t seed : {1, 2, 3}) {
                 const Surface picture = Varied(size.width, size.height);
                 EffectRun run(picture, seed);
-                Use(run, Selector, 10000).Apply(ColorRnd);
+                Use(run, ColorRndSelector, 10000).Apply(ColorRnd);
                 EXPECT_TRUE(Strewn(picture, 7, seed).Shows(run.work.Picture1))
                     << size.width << "x" << size.height << ", seed " << seed;
             }
@@ -139,7 +139,7 @@ TEST(ColorRnd, TakesItsChancesFromWholeTwoHundredsOfStrength)
          {Case{0, 57}, Case{199, 57}, Case{199.9, 57}, Case{200, 56}, Case{5000, 32},
           Case{11199, 2}, Case{-1, 58}}) {
         EffectRun run(picture, 9);
-        Use(run, Selector, strength).Apply(ColorRnd);
+        Use(run, ColorRndSelector, strength).Apply(ColorRnd);
         EXPECT_TRUE(Strewn(picture, chances, 9).Shows(run.work.Picture1)) << strength;
         EXPECT_FALSE(Sheet(picture).Shows(run.work.Picture1)) << strength;
     }
@@ -150,7 +150,7 @@ TEST(ColorRnd, PastesNothingFromAStrengthOf11200On)
     const Surface picture = Varied(60, 500);
     for (const double strength : {11200.0, 11399.0, 11400.0, 11600.0, 20000.0, 1e12}) {
         EffectRun run(picture, 9);
-        EXPECT_EQ(Use(run, Selector, strength).Apply(ColorRnd).work.Picture1, picture);
+        EXPECT_EQ(Use(run, ColorRndSelector, strength).Apply(ColorRnd).work.Picture1, picture);
     }
 }
 
@@ -158,7 +158,7 @@ TEST(ColorRnd, PastesNothingFromAStrengthOf11200On)
 TEST(ColorRnd, ReseedsInEveryTrial)
 {
     EffectRun run(Varied(5, 3), 70);
-    Use(run, Selector, 20000).Apply(ColorRnd);
+    Use(run, ColorRndSelector, 20000).Apply(ColorRnd);
     ReferenceRandom random(74);
     random.Rnd();
     random.Rnd();
@@ -172,7 +172,7 @@ TEST(ColorRnd, FailsBeyondTheMatrixBeforeAnythingIsShown)
     for (const Size size : {Size{1501, 8}, Size{8, 1501}}) {
         const Surface picture = Varied(size.width, size.height);
         EffectRun run(picture);
-        Use(run, Selector, 5000);
+        Use(run, ColorRndSelector, 5000);
         EXPECT_EQ(FaultOf(run, ColorRnd), FaultKind::SubscriptOutOfRange);
         EXPECT_EQ(run.work.Picture1, picture);
         EXPECT_EQ(run.progress.shownAfter, -1);

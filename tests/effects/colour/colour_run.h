@@ -1,21 +1,14 @@
-// What the tests of the colour effects share: sizes, strengths, and the fault that a run ends in.
+// What the tests of the colour effects share: sizes, strengths, and one run.
 #pragma once
 
-#include "canvas/fault.h"
 #include "support/effect_run.h"
-
-#include <gtest/gtest.h>
+#include "support/values.h"
 
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace pixano::test {
 
-struct Size {
-    int width;
-    int height;
-};
 inline const std::vector<Size> SmallSizes{{1, 1}, {1, 8},   {9, 1},   {2, 2},   {3, 3},
                                           {7, 5}, {16, 16}, {99, 99}, {101, 81}};
 /// The largest pictures that fit into a matrix.
@@ -29,15 +22,16 @@ inline EffectRun& Use(EffectRun& run, int selector, double strength)
     return run;
 }
 
-/// What kind of fault ends the effect; nothing when it runs through.
-inline std::optional<FaultKind> FaultOf(EffectRun& run, void (*effect)(Work&))
+/// The picture after the effect.
+inline Values After(void (*effect)(Work&), const Values& picture)
 {
-    try {
-        run.Apply(effect);
-    } catch (const Fault& fault) {
-        return fault.Kind();
-    }
-    return {};
+    return ValuesOf(EffectRun(Painted(picture)).Apply(effect).work.Picture1);
+}
+/// The picture after the effect with a strength of its own.
+inline Values After(void (*effect)(Work&), int selector, double strength, const Values& picture)
+{
+    EffectRun run(Painted(picture));
+    return ValuesOf(Use(run, selector, strength).Apply(effect).work.Picture1);
 }
 
 }  // namespace pixano::test

@@ -9,11 +9,6 @@
 namespace pixano::test {
 namespace {
 
-Values After(void (*effect)(Work&), const Values& picture)
-{
-    return ValuesOf(EffectRun(Painted(picture)).Apply(effect).work.Picture1);
-}
-
 // The limit is &H9BA3C0. (0, 0) and (2, 2) differ by it exactly, (1, 0) and (1, 2) by one more.
 // (0, 2) and (2, 1) are taken against partners already replaced: &HFF00 - &HFEF0, and
 // &H800000 - &H7FFFFF; so is (2, 2), which meets its own value.

@@ -9,11 +9,6 @@
 namespace pixano::test {
 namespace {
 
-Values After(void (*effect)(Work&), const Values& picture)
-{
-    return ValuesOf(EffectRun(Painted(picture)).Apply(effect).work.Picture1);
-}
-
 // From the second pixel on, each is compared with its predecessor's old colour.
 TEST(Fantastic1, OddSidesWorkedOutByHand)
 {

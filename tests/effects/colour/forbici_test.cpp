@@ -8,7 +8,7 @@
 namespace pixano::test {
 namespace {
 
-constexpr int Selector = 5;
+constexpr int ForbiciSelector = 5;
 // With a first draw of exactly one half these strengths stretch by 0.25 and by 0.5 a row:
 // (51 + 49) / 2 / 200 and (51 + 149) / 2 / 200.
 constexpr double ByAQuarter = -10000;
@@ -27,7 +27,7 @@ std::uint64_t SeedOfOneHalf()
 TEST(Forbici, OddHeightWorkedOutByHand)
 {
     EffectRun run({"abcdef", "ghijkl", "mnopqr"}, SeedOfOneHalf());
-    Use(run, Selector, ByAHalf).Apply(Forbici);
+    Use(run, ForbiciSelector, ByAHalf).Apply(Forbici);
     EXPECT_EQ(run.Result(), (Letters{"~~~ccd", "opq~l~", "opq~l~"}));
 }
 
@@ -36,7 +36,7 @@ TEST(Forbici, OddHeightWorkedOutByHand)
 TEST(Forbici, EvenSidesWorkedOutByHand)
 {
     EffectRun run({"abcd", "efgh", "ijkl", "mnop"}, SeedOfOneHalf());
-    Use(run, Selector, ByAHalf).Apply(Forbici);
+    Use(run, ForbiciSelector, ByAHalf).Apply(Forbici);
     EXPECT_EQ(run.Result(), (Letters{"~bcc", "o~h~", "klkl", "o~h~"}));
 }
 
@@ -47,7 +47,7 @@ TEST(Forbici, FirstRowAtAStretchOfOneQuarter)
     Letters rows(36, "ijklmnop");
     rows[0] = "abcdefgh";
     EffectRun run(rows, SeedOfOneHalf());
-    Use(run, Selector, ByAQuarter).Apply(Forbici);
+    Use(run, ForbiciSelector, ByAQuarter).Apply(Forbici);
     EXPECT_EQ(run.Result()[0], "aabbbccc");
 }
 
@@ -86,7 +86,7 @@ TEST(Forbici, MakesMirroredRowsAlikeUpToTheCutOfTheUpperOne)
     const std::uint64_t seed = 12;
     const double stretch = StretchOf(50, seed);
     EffectRun run(Varied(40, 31), seed);
-    Use(run, Selector, 200).Apply(Forbici);
+    Use(run, ForbiciSelector, 200).Apply(Forbici);
     for (int r = 1; 2 * r < 31; ++r)
         for (int x = 0; x < 40 && (x + 1) * (r + 1) * stretch <= 40; ++x)
             EXPECT_EQ(run.work.Picture1.Point(x, r), run.work.Picture1.Point(x, 31 - r));
@@ -103,7 +103,7 @@ TEST(Forbici, RaisesOnlyStrengthsBelowTwoHundred)
          {Case{0, 50}, Case{199.5, 50}, Case{200, 50}, Case{399, 50}, Case{400, 49}, Case{9999, 2},
           Case{10000, 1}, Case{-200, 51}, Case{-1, 51}}) {
         EffectRun run(picture, 6);
-        Use(run, Selector, strength).Apply(Forbici);
+        Use(run, ForbiciSelector, strength).Apply(Forbici);
         EXPECT_TRUE(Cut(picture, StretchOf(rows, 6)).Shows(run.work.Picture1)) << strength;
     }
 }
@@ -115,7 +115,7 @@ TEST(Forbici, EveryRowOnAllSizes)
             for (const std::uint64_t seed : {1, 2, 3}) {
                 const Surface picture = Varied(size.width, size.height);
                 EffectRun run(picture, seed);
-                Use(run, Selector, 5000).Apply(Forbici);
+                Use(run, ForbiciSelector, 5000).Apply(Forbici);
                 EXPECT_TRUE(Cut(picture, StretchOf(26, seed)).Shows(run.work.Picture1))
                     << size.width << "x" << size.height << ", seed " << seed;
             }
@@ -128,12 +128,12 @@ TEST(Forbici, AddsUpStepsAndPlaces)
 {
     const Surface picture = Varied(101, 81);
     EffectRun run(picture, SeedOfOneHalf());
-    Use(run, Selector, 5000).Apply(Forbici);
+    Use(run, ForbiciSelector, 5000).Apply(Forbici);
     EXPECT_EQ(run.work.Picture1.Point(59, 4), picture.Point(19, 4));
     EXPECT_TRUE(Cut(picture, StretchOf(26, SeedOfOneHalf())).Shows(run.work.Picture1));
 
     EffectRun other(picture, SeedOfOneHalf());
-    Use(other, Selector, 3200).Apply(Forbici);
+    Use(other, ForbiciSelector, 3200).Apply(Forbici);
     EXPECT_TRUE(Cut(picture, StretchOf(35, SeedOfOneHalf())).Shows(other.work.Picture1));
 }
 
@@ -142,7 +142,7 @@ TEST(Forbici, AddsUpStepsAndPlaces)
 TEST(Forbici, DrawsTheFirstColumnAlongTheRowsWithoutStretch)
 {
     EffectRun run({"ab", "cd", "ef"});
-    Use(run, Selector, 10200).Apply(Forbici);
+    Use(run, ForbiciSelector, 10200).Apply(Forbici);
     EXPECT_EQ(run.Result(), (Letters{"~~", "ee", "ee"}));
 }
 
@@ -152,7 +152,7 @@ TEST(Forbici, FailsWhereARowRunsBackwardsOutOfTheMatrix)
 {
     Surface picture = Varied(300, 4);
     EffectRun run(picture, SeedOfOneHalf());
-    Use(run, Selector, 10400);
+    Use(run, ForbiciSelector, 10400);
     EXPECT_EQ(FaultOf(run, Forbici), FaultKind::SubscriptOutOfRange);
     EXPECT_EQ(run.progress.values, Steps(0, 0));
     EXPECT_EQ(run.progress.shownAfter, 0);
@@ -167,7 +167,7 @@ TEST(Forbici, FailsBeyondTheMatrixBeforeAnythingIsShown)
     for (const Size size : {Size{1501, 8}, Size{8, 1501}}) {
         const Surface picture = Varied(size.width, size.height);
         EffectRun run(picture);
-        Use(run, Selector, 5000);
+        Use(run, ForbiciSelector, 5000);
         EXPECT_EQ(FaultOf(run, Forbici), FaultKind::SubscriptOutOfRange);
         EXPECT_EQ(run.work.Picture1, picture);
         EXPECT_EQ(run.progress.shownAfter, -1);
@@ -178,7 +178,7 @@ TEST(Forbici, FailsBeyondTheMatrixBeforeAnythingIsShown)
 TEST(Forbici, ReseedsInEveryRowAndDrawsTwice)
 {
     EffectRun run(Varied(5, 3), 70);
-    Use(run, Selector, 5000).Apply(Forbici);
+    Use(run, ForbiciSelector, 5000).Apply(Forbici);
     ReferenceRandom random(74);
     random.Rnd();
     random.Rnd();

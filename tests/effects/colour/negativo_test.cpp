@@ -6,16 +6,10 @@
 namespace pixano::test {
 namespace {
 
-Values After(void (*effect)(Work&), double strength, const Values& picture)
-{
-    EffectRun run(Painted(picture));
-    return ValuesOf(Use(run, 1, strength).Apply(effect).work.Picture1);
-}
-
 // 16800000 + 20000 = &H100A720; the byte above the three that are drawn falls away.
 TEST(Negativo, OddSidesWorkedOutByHand)
 {
-    EXPECT_EQ(After(Negativo, 1000,
+    EXPECT_EQ(After(Negativo, 1, 1000,
                     {{0x000000, 0x000001, 0xFFFFFF},
                      {0x00A720, 0x00A721, 0x800000},
                      {0x010000, 0x0000FF, 0xC0C0C0}}),
@@ -27,7 +21,7 @@ TEST(Negativo, OddSidesWorkedOutByHand)
 // 16800000 = &H1005900.
 TEST(Negativo, EvenSidesWithoutStrengthWorkedOutByHand)
 {
-    EXPECT_EQ(After(Negativo, 0, {{0xFFFFFF, 0x000000}, {0x005900, 0x0000FF}}),
+    EXPECT_EQ(After(Negativo, 1, 0, {{0xFFFFFF, 0x000000}, {0x005900, 0x0000FF}}),
               (Values{{22785, 0x005900}, {0x000000, 0x005801}}));
 }
 
@@ -35,7 +29,7 @@ TEST(Negativo, EvenSidesWithoutStrengthWorkedOutByHand)
 // &H1005902.
 TEST(Negativo, RoundsAHalfToTheEvenNeighbour)
 {
-    EXPECT_EQ(After(Negativo, 0.125, {{0, 1}}), (Values{{0x005902, 0x005902}}));
+    EXPECT_EQ(After(Negativo, 1, 0.125, {{0, 1}}), (Values{{0x005902, 0x005902}}));
 }
 
 TEST(Negativo, TwiceRestoresThePicture)
@@ -67,7 +61,7 @@ TEST(Negativo, EveryPixelOnAllSizes)
 // 1000 = &H3E8.
 TEST(Colorazione, OddSidesWorkedOutByHand)
 {
-    EXPECT_EQ(After(Colorazione, 1,
+    EXPECT_EQ(After(Colorazione, 1, 1,
                     {{0x000000, 0x0003E8, 0xFFFFFF},
                      {0x010000, 0x0000E7, 0x0004E8},
                      {0x0003E7, 0x800000, 0x0003FF}}),
@@ -79,7 +73,7 @@ TEST(Colorazione, OddSidesWorkedOutByHand)
 // 1000 x 65.536 = &H10000: blue goes down by one.
 TEST(Colorazione, EvenSidesWorkedOutByHand)
 {
-    EXPECT_EQ(After(Colorazione, 65.536, {{0x010203, 0xFF0000}, {0x000001, 0xFFFFFF}}),
+    EXPECT_EQ(After(Colorazione, 1, 65.536, {{0x010203, 0xFF0000}, {0x000001, 0xFFFFFF}}),
               (Values{{0x000203, 0xFE0000}, {0xFF0001, 0xFEFFFF}}));
 }
 
@@ -109,7 +103,7 @@ TEST(Colorazione, EveryPixelOnAllSizes)
 // 1000 x 0.0625 = 62.5: -0.5 goes to 0, 0.5 to 0, 1.5 to 2.
 TEST(Colorazione, RoundsAHalfToTheEvenNeighbour)
 {
-    EXPECT_EQ(After(Colorazione, 0.0625, {{62, 63, 64}}), (Values{{0, 0, 2}}));
+    EXPECT_EQ(After(Colorazione, 1, 0.0625, {{62, 63, 64}}), (Values{{0, 0, 2}}));
 }
 
 // 2131000000 = &H7F047AC0 fits for black; with white added it is above 2147483647.

@@ -1,6 +1,5 @@
 #include "effects/composite/composite.h"
 #include "effects/composite/expected_draws.h"
-#include "effects/composite/fault_of.h"
 #include "effects/geometry/geometry.h"
 #include "support/effect_run.h"
 

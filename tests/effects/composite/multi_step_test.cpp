@@ -1,5 +1,4 @@
 #include "effects/composite/composite.h"
-#include "effects/composite/fault_of.h"
 #include "support/effect_run.h"
 
 #include <gtest/gtest.h>

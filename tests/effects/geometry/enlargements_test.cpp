@@ -13,7 +13,7 @@ struct Enlarged {
 
 // Of the odd picture the second halves start at 2.5, which reads pixel 2. "Centro" reads 1 to 3 of
 // both: Int(4 / 4) to Int(4 - 1), Int(5 / 4) to Int(5 - 1.25).
-const std::vector<Enlarged> All{
+const std::vector<Enlarged> Enlargements{
     {"Top", Top, {"abcd", "abcd", "efgh", "efgh"}, {"abcde", "abcde", "fghij", "fghij", "klmno"}},
     {"Bottom",
      Bottom,
@@ -51,7 +51,7 @@ const std::vector<Enlarged> All{
 
 TEST(Enlargements, FillTheCanvasWithTheRegionDoubled)
 {
-    for (const Enlarged& enlarged : All) {
+    for (const Enlarged& enlarged : Enlargements) {
         SCOPED_TRACE(enlarged.name);
         EffectRun run({"abcd", "efgh", "ijkl", "mnop"});
         EXPECT_EQ(run.Apply(enlarged.effect).Result(), enlarged.even);
@@ -220,7 +220,7 @@ TEST(Enlargements, ThatDoubleRowsTellEverySecondRow)
 
 TEST(Enlargements, CaptureBeforeTheWindowIsShown)
 {
-    for (const Enlarged& enlarged : All)
+    for (const Enlarged& enlarged : Enlargements)
         EXPECT_EQ(JournalRun(Varied(7, 5)).Apply(enlarged.effect).diary,
                   (Diary{"create", "finish", "show", "open", "close", "kill"}))
             << enlarged.name;
@@ -228,7 +228,7 @@ TEST(Enlargements, CaptureBeforeTheWindowIsShown)
 
 TEST(Enlargements, KeepAPictureOfOneColour)
 {
-    for (const Enlarged& enlarged : All) {
+    for (const Enlarged& enlarged : Enlargements) {
         const Surface plain(11, 8, 0x336699);
         EXPECT_EQ(EffectRun(plain).Apply(enlarged.effect).work.Picture1, plain) << enlarged.name;
     }
@@ -236,7 +236,7 @@ TEST(Enlargements, KeepAPictureOfOneColour)
 
 TEST(Enlargements, KeepTheSizeInUse)
 {
-    for (const Enlarged& enlarged : All) {
+    for (const Enlarged& enlarged : Enlargements) {
         EffectRun run(Varied(7, 5));
         run.Apply(enlarged.effect);
         EXPECT_EQ(run.work.Larg, 7);

@@ -11,11 +11,6 @@
 
 namespace pixano::test {
 
-struct Size {
-    int width;
-    int height;
-};
-
 inline constexpr auto Sizes = std::to_array<Size>({
     {1, 1},
     {1, 2},

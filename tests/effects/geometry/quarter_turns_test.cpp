@@ -38,17 +38,6 @@ TEST(RotazMeno, KeepsTheSizeOfTheCanvas)
     EXPECT_EQ(run.work.Picture1.Height(), 100);
 }
 
-FaultKind FaultOf(EffectRun& run, void (*effect)(Work&))
-{
-    try {
-        run.Apply(effect);
-    } catch (const Fault& fault) {
-        return fault.Kind();
-    }
-    ADD_FAILURE() << "no fault";
-    return {};
-}
-
 // The first row index is CLng(1/3 - 1) = -1.
 TEST(RotazPiu, FailsOnAPictureThreeTimesAsWideAsHighWithTheCanvasCleared)
 {

@@ -19,6 +19,9 @@ enum Call : unsigned {
     Interruptible = AnyCall & ~Names
 };
 
+/// What a disk or its keeper may answer.
+inline constexpr int Errors[] = {ENOSPC, EIO, EACCES, EDQUOT, EROFS};
+
 /// Which calls fail. They are counted from 1; only those on regular files and folders count.
 struct FailingCalls {
     enum class As {
