@@ -10,18 +10,17 @@ if(IS_DIRECTORY /dev/shm)
   list(APPEND RELIABILITY_LONG TMPDIR=/dev/shm)
 endif()
 
-# Built as the other tests are, see there. GCC 12 takes an optional text that is moved from for one that
-# was never filled.
-function(pixano_compiled_as_test name)
-  target_compile_options(${name} PRIVATE -O1 $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+# A program of the tests that runs the windows.
+function(pixano_windowed name)
+  list(TRANSFORM ARGN PREPEND ${RELIABILITY}/)
+  add_executable(${name} ${ARGN})
+  target_precompile_headers(${name} REUSE_FROM windows_main)
+  target_link_libraries(${name} PRIVATE pixano_windows Qt6::Test test_options)
 endfunction()
 
 function(pixano_reliability_tests name)
-  list(TRANSFORM ARGN PREPEND ${RELIABILITY}/)
-  add_executable(${name} ${ARGN} windows_main.cpp)
-  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_link_libraries(${name} PRIVATE pixano_windows Qt6::Test GTest::gmock GTest::gtest)
-  pixano_compiled_as_test(${name})
+  pixano_windowed(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE windows_main)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES LABELS reliability TIMEOUT 240
                                           ENVIRONMENT "${RELIABILITY_SHORT}")
@@ -38,11 +37,7 @@ pixano_long_form(sequences_test)
 
 # Killed, and started again. Not with the sanitizers: nothing may be loaded before theirs.
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
-  add_executable(pixano-victim ${RELIABILITY}/victim.cpp ${RELIABILITY}/player.cpp
-                               ${RELIABILITY}/model.cpp)
-  target_include_directories(pixano-victim PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_link_libraries(pixano-victim PRIVATE pixano_windows Qt6::Test GTest::gtest)
-  pixano_compiled_as_test(pixano-victim)
+  pixano_windowed(pixano-victim victim.cpp player.cpp model.cpp)
   add_library(deadly_changes SHARED ${RELIABILITY}/deadly_changes.cpp)
   target_link_libraries(deadly_changes PRIVATE pixano_options)
   pixano_reliability_tests(crash_test crash_test.cpp recovery_test.cpp child.cpp knowledge.cpp)
@@ -56,10 +51,7 @@ pixano_reliability_tests(working_files_test working_files_test.cpp)
 
 pixano_reliability_tests(meanwhile_test meanwhile_test.cpp)
 
-add_executable(pixano-visitor ${RELIABILITY}/visitor.cpp)
-target_include_directories(pixano-visitor PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-target_link_libraries(pixano-visitor PRIVATE pixano_windows Qt6::Test GTest::gtest)
-pixano_compiled_as_test(pixano-visitor)
+pixano_windowed(pixano-visitor visitor.cpp)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Gui)
 add_library(decoy MODULE ${RELIABILITY}/decoy/decoy.cpp)
 set_target_properties(decoy PROPERTIES AUTOMOC ON)
