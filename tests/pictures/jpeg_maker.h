@@ -33,6 +33,13 @@ inline void Progressive(jpeg_compress_struct& jpeg)
     jpeg_simple_progression(&jpeg);
 }
 
+/// The file with the sides of its frame header replaced.
+Bytes WithSides(Bytes file, int width, int height);
+
+/// A progressive grey file (77 everywhere) in which the last of three scans, which goes through all
+/// pixels again and changes none, comes `scans` times: a script may name each bit only once.
+Bytes WithScans(int width, int height, int scans);
+
 /// The pixels that libjpeg gives in the order red, green, blue.
 Colours DecodedByLibjpeg(const Bytes& file);
 

@@ -20,46 +20,6 @@ using testing::HasSubstr;
 constexpr int Side = 4096;
 constexpr double Pixels = double{Side} * Side;
 
-/// The file with the sides of its frame header replaced.
-Bytes WithSides(Bytes file, int width, int height)
-{
-    std::vector<std::byte>& bytes = file.Vector();
-    std::size_t i = 2;
-    while (bytes[i + 1] != std::byte{0xC0} && bytes[i + 1] != std::byte{0xC2})
-        i += 2 + (std::to_integer<std::size_t>(bytes[i + 2]) << 8 |
-                  std::to_integer<std::size_t>(bytes[i + 3]));
-    bytes[i + 5] = static_cast<std::byte>(height >> 8);
-    bytes[i + 6] = static_cast<std::byte>(height & 255);
-    bytes[i + 7] = static_cast<std::byte>(width >> 8);
-    bytes[i + 8] = static_cast<std::byte>(width & 255);
-    return file;
-}
-
-/// A progressive file in which the last scan, which goes through all pixels again and changes
-/// none, comes `scans` times.
-Bytes WithScans(int width, int height, int scans)
-{
-    static constexpr jpeg_scan_info Script[] = {
-        {1, {0}, 0, 0, 0, 0}, {1, {0}, 1, 63, 0, 1}, {1, {0}, 1, 63, 1, 0}};
-    JpegPlan plan{.width = width, .height = height, .space = JCS_GRAYSCALE};
-    plan.samples.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 77);
-    plan.set = [](jpeg_compress_struct& jpeg) {
-        jpeg.scan_info = Script;
-        jpeg.num_scans = 3;
-    };
-    Bytes file = MakeJpeg(plan);
-    std::vector<std::byte>& bytes = file.Vector();
-    std::size_t last = bytes.size() - 2;
-    while (bytes[last] != std::byte{0xFF} || bytes[last + 1] != std::byte{0xDA})
-        --last;
-    const std::vector<std::byte> scan(bytes.begin() + static_cast<std::ptrdiff_t>(last),
-                                      bytes.end() - 2);
-    bytes.resize(bytes.size() - 2);
-    for (int i = 1; i < scans; ++i)
-        bytes.insert(bytes.end(), scan.begin(), scan.end());
-    return file.Add({0xFF, 0xD9});
-}
-
 Bytes LargeBitmap()
 {
     return Bmp({.width = Side, .height = Side}, {}, Bytes().Zeros(100));
