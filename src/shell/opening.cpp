@@ -78,7 +78,7 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
             s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
                            "Il file " + name + " è incompleto: mancano alcuni pixel.");
     }
-    RememberPath(s.doc, name);
+    if (!s.doc.pasted.contains(name)) RememberPath(s.doc, name);
     if (!read) {
         s.doc.NomeFile = name;
         return;
@@ -120,8 +120,8 @@ void Open(Session& s, AskName askName)
 void Apri_Click(Session& s)
 {
     Open(s, [&](const QString& remembered) {
-        return s.dialogs.AskOpenName(remembered.isEmpty() ? s.doc.firstFolder
-                                                          : QFileInfo(remembered).path());
+        const bool chosen = !remembered.isEmpty() && !s.doc.pasted.contains(remembered);
+        return s.dialogs.AskOpenName(chosen ? QFileInfo(remembered).path() : s.doc.firstFolder);
     });
 }
 

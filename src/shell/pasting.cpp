@@ -52,6 +52,8 @@ QString KeptAsFile(Session& s, const QImage& image)
 void OpenPasted(Session& s)
 {
     const QMimeData* const data = QApplication::clipboard()->mimeData();
+    // Some desktops have nothing at all for an empty clipboard.
+    if (data == nullptr) return;
     const QList<QUrl> urls = data->urls();
     if (urls.size() == 1 && urls.front().isLocalFile())
         OpenNamed(s, urls.front().toLocalFile());

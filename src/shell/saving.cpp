@@ -23,13 +23,19 @@ bool MayReplace(Session& s, const QString& name)
                          "File " + name + " già esistente, sostituire i file?");
 }
 
+/// Where the save dialog starts: not where the program keeps a picture that was pasted.
+QString FolderToSaveIn(const Document& doc)
+{
+    if (doc.pasted.contains(doc.Cartella + doc.NomeCorto)) return doc.firstFolder;
+    return doc.Cartella.isEmpty() ? doc.CartellaAvvio : doc.Cartella;
+}
+
 /// The name chosen in the save dialog, asked again as long as a file of that name may not be
 /// replaced.
 std::optional<QString> AskName(Session& s)
 {
-    const QString folder = s.doc.Cartella.isEmpty() ? s.doc.CartellaAvvio : s.doc.Cartella;
     for (;;) {
-        const std::optional<QString> chosen = s.dialogs.AskSaveName(folder);
+        const std::optional<QString> chosen = s.dialogs.AskSaveName(FolderToSaveIn(s.doc));
         if (!chosen) return std::nullopt;
         const QString name = WithBitmapExtension(*chosen);
         if (!QFileInfo::exists(name) || MayReplace(s, name)) return name;

@@ -9,6 +9,8 @@
 #include "reliability/tampering.h"
 #include "shell/only_instance.h"
 
+#include <QClipboard>
+
 #include <gmock/gmock.h>
 
 namespace pixano::test {
@@ -109,6 +111,25 @@ TEST_F(Recovery, KnowsNamesWithLineEndsAndPercentSigns)
     Crash("fo%0Ato\n d'été.bmp");
     EXPECT_THAT(NextStart(),
                 AllOf(Contains(HasSubstr("fo%0Ato  d'été.bmp")), Contains(Ready(unsaved))));
+}
+
+TEST_F(Recovery, BringsAPastedPictureBackAndKeepsItsFileUntilTheEnd)
+{
+    QImage copied(5, 3, QImage::Format_RGB32);
+    copied.fill(Qt::red);
+    copied.setPixelColor(0, 0, Qt::blue);
+    QApplication::clipboard()->setImage(copied);
+    {
+        Desk desk;
+        emit desk.session.form1.Pasted();
+        desk.Apply("Specchio");
+        unsaved = Checksum(desk.Canvas());
+        WriteBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
+    }
+    const auto pasted = [this] { return QDir(folders.Data("")).entryList({"appunti-*"}); };
+    EXPECT_EQ(pasted().size(), 1);
+    EXPECT_THAT(NextStart(), AllOf(Offered, Contains(Ready(unsaved)), Contains("status 0")));
+    EXPECT_EQ(pasted().size(), 0);
 }
 
 TEST_F(Recovery, NeverTakesARunningProgramForACrash)

@@ -42,28 +42,30 @@ struct History {
     }
 };
 
-/// The program in an empty folder, with an empty data folder, as it is before its start.
-class UnstartedProgram : public testing::Test {
+/// The session in an empty folder, with an empty data folder; nothing has connected its events yet.
+class SessionInFolders : public testing::Test {
   protected:
-    UnstartedProgram() : before_(QDir::currentPath())
+    SessionInFolders() : before_(QDir::currentPath())
     {
         ForgetEarlierEnd();
         qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
         QDir(folder_.path()).mkdir("work");
         QDir::setCurrent(folder_.filePath("work"));
-        ConnectEvents(session);
     }
-    ~UnstartedProgram() override { QDir::setCurrent(before_); }
+    ~SessionInFolders() override { QDir::setCurrent(before_); }
 
-    /// Runs the start-up; `closing` is done to the start-up picture's window once it is up.
-    void Start(const std::function<void(QWidget&)>& closing)
+    /// Does that to the start-up picture's window once it is up.
+    static void OnceStartUpPictureIsUp(const std::function<void(QWidget&)>& closing)
     {
         QTimer::singleShot(0, [closing] {
             QWidget* const modal = QApplication::activeModalWidget();
             ASSERT_NE(modal, nullptr);
             closing(*modal);
         });
-        pixano::Run(session, "Avvio", FaultEnds::Program, [&] { Form_Load(session); });
+    }
+    static void ClickAway(QWidget& startUpPicture)
+    {
+        QTest::mouseClick(startUpPicture.findChild<QWidget*>("Picture1"), Qt::LeftButton);
     }
 
     /// A path in the folder that the program runs in.
@@ -153,15 +155,23 @@ class UnstartedProgram : public testing::Test {
     QString before_;
 };
 
+/// The program as it is before its start.
+class UnstartedProgram : public SessionInFolders {
+  protected:
+    UnstartedProgram() { ConnectEvents(session); }
+
+    /// Runs the start-up; `closing` is done to the start-up picture's window once it is up.
+    void Start(const std::function<void(QWidget&)>& closing)
+    {
+        OnceStartUpPictureIsUp(closing);
+        pixano::Run(session, "Avvio", FaultEnds::Program, [&] { Form_Load(session); });
+    }
+};
+
 /// Starts the program and clicks the start-up picture away.
 class Program : public UnstartedProgram {
   protected:
-    Program()
-    {
-        Start([](QWidget& window) {
-            QTest::mouseClick(window.findChild<QWidget*>("Picture1"), Qt::LeftButton);
-        });
-    }
+    Program() { Start(ClickAway); }
 };
 
 }  // namespace pixano::test

@@ -1,0 +1,158 @@
+// The command line of the windowed program: what is understood, and what the real program answers
+// to what is not.
+#include "shell/options.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace pixano::test {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::optional<Options> Parsed(const QStringList& arguments)
+{
+    return OptionsFrom(QStringList{"pixano"} + arguments);
+}
+
+/// The picture that these arguments name; "?" when they are not understood.
+std::string PictureIn(const QStringList& arguments)
+{
+    const std::optional<Options> options = Parsed(arguments);
+    return options ? options->picture.toStdString() : "?";
+}
+
+const char* Answer(std::vector<const char*> arguments)
+{
+    arguments.insert(arguments.begin(), "pixano");
+    return AnswerWithoutScreen(static_cast<int>(arguments.size()), arguments.data());
+}
+
+TEST(ProgramOptions, NameNoPictureWhenThereAreNone)
+{
+    const std::optional<Options> options = Parsed({});
+    ASSERT_TRUE(options);
+    EXPECT_TRUE(options->picture.isEmpty());
+    EXPECT_FALSE(options->fromMenu);
+}
+
+TEST(ProgramOptions, TakeAPathAsItIs)
+{
+    EXPECT_EQ(PictureIn({"/tmp/due parole 50%25.bmp"}), "/tmp/due parole 50%25.bmp");
+    EXPECT_EQ(PictureIn({"foto.jpg"}), "foto.jpg");
+}
+
+TEST(ProgramOptions, TakeAFileUrlForAPath)
+{
+    EXPECT_EQ(PictureIn({"file:///tmp/due%20parole%20perch%C3%A9.bmp"}),
+              "/tmp/due parole perch\xC3\xA9.bmp");
+    EXPECT_EQ(PictureIn({"FILE:///tmp/a.bmp"}), "/tmp/a.bmp");
+}
+
+TEST(ProgramOptions, TakeEveryOtherAddressForAName)
+{
+    EXPECT_EQ(PictureIn({"https://example.org/a.bmp"}), "https://example.org/a.bmp");
+}
+
+TEST(ProgramOptions, TellAStartFromTheMenu)
+{
+    const std::optional<Options> options = Parsed({"--da-menu", "a.bmp"});
+    ASSERT_TRUE(options);
+    EXPECT_TRUE(options->fromMenu);
+    EXPECT_EQ(options->picture, "a.bmp");
+    EXPECT_TRUE(Parsed({"a.bmp", "--da-menu"})->fromMenu);
+}
+
+TEST(ProgramOptions, TakeWhatFollowsTwoDashesForAName)
+{
+    EXPECT_EQ(PictureIn({"--", "-a.bmp"}), "-a.bmp");
+    EXPECT_EQ(PictureIn({"--", "--da-menu"}), "--da-menu");
+    EXPECT_FALSE(Parsed({"--", "--da-menu"})->fromMenu);
+    EXPECT_EQ(Answer({"--", "--aiuto"}), nullptr);
+}
+
+TEST(ProgramOptions, AreNotUnderstoodWhenUnknownOrTooMany)
+{
+    for (const QStringList& arguments : {QStringList{"--sbagliata"},
+                                         {"-x"},
+                                         {"-"},
+                                         {"a.bmp", "--sbagliata"},
+                                         {"a.bmp", "b.bmp"},
+                                         {"--", "a.bmp", "--"}})
+        EXPECT_FALSE(Parsed(arguments)) << arguments.join(' ').toStdString();
+}
+
+TEST(ProgramOptions, AreAnsweredWithoutAScreenWhereTheyOnlyAsk)
+{
+    for (const char* const asking : {"--aiuto", "--help", "-h"}) {
+        EXPECT_STREQ(Answer({asking}), UsageText) << asking;
+        EXPECT_STREQ(Answer({"a.bmp", asking}), UsageText) << asking;
+    }
+    for (const char* const asking : {"--versione", "--version"})
+        EXPECT_STREQ(Answer({asking}), "Pixano 2.3\n") << asking;
+    EXPECT_EQ(Answer({"a.bmp"}), nullptr);
+    EXPECT_EQ(Answer({}), nullptr);
+}
+
+TEST(ProgramOptions, AreAllInTheUsageText)
+{
+    EXPECT_THAT(UsageText, StartsWith("Uso: pixano "));
+    for (const char* const option : {"--da-menu", "--aiuto", "--versione", "FIGURA"})
+        EXPECT_THAT(UsageText, HasSubstr(option));
+}
+
+/// How the real program ended, and what it wrote.
+struct Ended {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+Ended Started(const QStringList& arguments, const QString& platform)
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", platform);
+    environment.remove("DISPLAY");
+    program.setProcessEnvironment(environment);
+    program.start(PIXANO, arguments);
+    if (!program.waitForFinished()) return {};
+    return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1,
+            program.readAllStandardOutput().toStdString(),
+            program.readAllStandardError().toStdString()};
+}
+
+TEST(RealProgram, AnswersWithoutAScreen)
+{
+    const Ended help = Started({"--aiuto"}, "xcb");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.out, UsageText);
+    const Ended version = Started({"--versione"}, "xcb");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.out, "Pixano 2.3\n");
+}
+
+TEST(RealProgram, TellsItsUsageAndEndsWithTwoAtAnUnknownOption)
+{
+    const Ended ended = Started({"--sbagliata"}, "offscreen");
+    EXPECT_EQ(ended.status, 2);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_THAT(ended.err, EndsWith(UsageText));
+}
+
+TEST(RealProgram, OpensNoWindowForTwoPictures)
+{
+    const Ended ended = Started({"a.bmp", "b.bmp"}, "offscreen");
+    EXPECT_EQ(ended.status, 2);
+    EXPECT_THAT(ended.err, EndsWith(UsageText));
+}
+
+}  // namespace
+}  // namespace pixano::test
