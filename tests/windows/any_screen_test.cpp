@@ -87,6 +87,15 @@ TEST_F(AnyScreen, LeavesThePaletteFreeBesideALargePicture)
     }
 }
 
+TEST_F(AnyScreen, PutsThePreviewIntoTheCornerBesideThePalette)
+{
+    OpenSquare(80);
+    const QPoint corner(session.form10.x(), Screen().bottom());
+    const QPoint apart = corner - session.form9.frameGeometry().bottomRight();
+    EXPECT_THAT(apart.x(), testing::AllOf(testing::Ge(0), testing::Le(20)));
+    EXPECT_THAT(apart.y(), testing::AllOf(testing::Ge(0), testing::Le(40)));
+}
+
 TEST_F(AnyScreen, KeepsTheStatedSizeOfAPictureThatFits)
 {
     const int side = Screen().width() - 100;
