@@ -16,8 +16,6 @@ namespace pixano {
 
 namespace {
 
-/// The palette stands this far from the right edge of the screen, and is no wider.
-constexpr double FromRightEdge = 3250;
 /// What a window manager's frame is taken to be: left and right together, top and bottom together.
 constexpr int Borders = 8;
 constexpr int TitleAndBorder = 30;
@@ -27,9 +25,11 @@ constexpr int BesideCaption = 6;
 /// How many buttons of each box stand side by side.
 constexpr std::array PerRow{3, 4, 2, 2};
 
+constexpr double TwipsFromRightEdge = 3250;
+
 constexpr int InsideWidth()
 {
-    return static_cast<int>(FromRightEdge / TwipsPerPixel) - Borders;
+    return static_cast<int>(TwipsFromRightEdge / TwipsPerPixel) - Borders;
 }
 
 void Apply(const QWidget& palette, const char* name, Switch on)
@@ -101,6 +101,11 @@ Form10::Form10() : boxes_{Frame("Funzioni "), Frame("Riflessi "), Frame("Effetti
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         LayInRows(*boxes_[i], PerRow.at(i), i + 1 < boxes_.size() ? Margin : 0);
     ArrangeFor(screen()->availableGeometry().height());
+}
+
+int Form10::FromRightEdge()
+{
+    return Pixels(TwipsFromRightEdge);
 }
 
 QPushButton* Form10::BuildButton(const PaletteButton& row)
@@ -178,7 +183,7 @@ void Form10::setVisible(bool visible)
     // Closed and shown again it is loaded anew, in its own place.
     if (visible && !isVisible()) {
         ArrangeFor(screen()->availableGeometry().height());
-        move(screen()->size().width() - Pixels(FromRightEdge), 0);
+        move(screen()->size().width() - FromRightEdge(), 0);
     }
     QWidget::setVisible(visible);
 }

@@ -27,6 +27,9 @@ class Form10 : public QWidget {
   public:
     Form10();
 
+    /// The palette stands this far from the right edge of the screen, and is no wider.
+    static int FromRightEdge();
+
     void EnableHistory(const HistorySwitches& switches);
     /// The mouse pointer of a program that is at work, or the usual one.
     void ShowHourglass(bool shown);

@@ -1,6 +1,7 @@
 #include "panels/form7.h"
 
 #include "panels/centred.h"
+#include "windows/free_screen.h"
 
 #include <QFile>
 #include <QPushButton>
@@ -21,6 +22,7 @@ QString Description()
 Form7::Form7()
 {
     constexpr QSize TextSize(460, 210);
+    constexpr QSize Beside(24, 60);  // margins, and the button below
     setObjectName("Form7");
     setWindowTitle(QString());
     setAccessibleName("Descrizione del programma");
@@ -28,7 +30,7 @@ Form7::Form7()
     text->setObjectName("RichTextBox1");
     text->setAccessibleName("Descrizione del programma");
     text->setOpenLinks(false);
-    text->setMinimumSize(TextSize);
+    text->setMinimumSize(TextSize.boundedTo(LargestInside(*this) - Beside));
     text->setHtml(Description());
     auto* const close = new QPushButton("OK");
     close->setObjectName("Command1");

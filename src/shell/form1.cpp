@@ -1,11 +1,13 @@
 #include "shell/form1.h"
 
+#include "panels/form10.h"
 #include "shell/menu_table.h"
 #include "windows/dropped_file.h"
 
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
@@ -36,8 +38,16 @@ Form1::Form1()
     auto* const paste = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_V), this);
     paste->setContext(Qt::ApplicationShortcut);
     connect(paste, &QShortcut::activated, this, &Form1::Pasted);
-    constexpr int Width = 520;
-    setFixedSize(std::max(Width, menuBar()->sizeHint().width()), menuBar()->sizeHint().height());
+    setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
+}
+
+int Form1::InsideWidth() const
+{
+    constexpr int Roomy = 520;
+    constexpr int Borders = 8;
+    // In the middle of the screen, and yet beside the palette if the menus allow it.
+    const int beside = screen()->size().width() - 2 * Form10::FromRightEdge() - Borders;
+    return std::max(std::min(Roomy, beside), menuBar()->sizeHint().width());
 }
 
 void Form1::BuildMenus()

@@ -44,6 +44,7 @@ class Form1 : public QMainWindow {
 
   private:
     void BuildMenus();
+    int InsideWidth() const;
     QAction* AddEntry(int index);
     void AddShortcut(const QKeySequence& keys, int index);
 

@@ -39,11 +39,11 @@ class ModifiedUntilOpened {
 };
 
 /// The preview starts in the lower right corner, where neither canvas nor palette covers it.
-void PlaceBesidePalette(QWidget& preview, const QWidget& palette)
+void PlaceBesidePalette(QWidget& preview)
 {
     constexpr QPoint Frame(8, 34);
     const QRect free = preview.screen()->availableGeometry();
-    const QPoint corner(std::min(palette.x(), free.right()), free.bottom());
+    const QPoint corner(preview.screen()->size().width() - Form10::FromRightEdge(), free.bottom());
     const QPoint place = corner - QPoint(preview.width(), preview.height()) - Frame;
     preview.move(std::max(place.x(), free.left()), std::max(place.y(), free.top()));
 }
@@ -163,7 +163,7 @@ void Carica(Session& s, Surface picture)
     s.form9.Image1().SetStretch(false);
     s.form9.Image1().SetPicture(w.Picture1);
     s.form9.SetInside({Pixels(w.Larg * PreviewWidth), Pixels(w.Alt * PreviewHeight)});
-    if (!s.form9.isVisible()) PlaceBesidePalette(s.form9, s.form10);
+    if (!s.form9.isVisible()) PlaceBesidePalette(s.form9);
     s.form9.show();
     BringForward(s.form10);
     BringForward(s.form1);

@@ -1,13 +1,17 @@
 #include "shell/screen_dialogs.h"
 
 #include "panels/centred.h"
+#include "windows/free_screen.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QRegularExpression>
+#include <QTreeView>
 
 namespace pixano {
 namespace {
@@ -52,6 +56,13 @@ class YesNoBox : public QMessageBox {
     }
 };
 
+/// The text with places, which nobody sees, where a name too long for a line can go on in the next.
+QString Breakable(QString text)
+{
+    static const QRegularExpression partOfLongName(R"(([^\s/]{24})(?=[^\s/]))");
+    return text.replace(partOfLongName, QStringLiteral(u"\\1\u200b"));
+}
+
 void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)
 {
     box.setObjectName("MsgBox");
@@ -59,12 +70,23 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
     box.setWindowTitle(title);
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
-    box.setText(text);
+    box.setText(Breakable(text));
+}
+
+/// The toolkit's own sizes cut the columns off, and are larger than a small screen.
+void ShowWholeColumns(QFileDialog& dialog)
+{
+    constexpr QSize Roomy(780, 460);
+    dialog.resize(Roomy.boundedTo(LargestInside(dialog)));
+    auto* const header = dialog.findChild<QTreeView*>("treeView")->header();
+    for (int column = 1; column < header->count(); ++column)
+        header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
 }
 
 std::optional<QString> Chosen(QFileDialog& dialog)
 {
     dialog.setObjectName("CommonDialog1");
+    ShowWholeColumns(dialog);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     const QStringList names = dialog.selectedFiles();
     if (names.isEmpty()) return std::nullopt;

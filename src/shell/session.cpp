@@ -12,6 +12,8 @@ Session::Session(Dialogs& dialogBoxes, Timer timer)
       work(TextStore(file::Pixels.toStdString()), progress, timer),
       form2(work.Picture1)
 {
+    form2.leftFree = Form10::FromRightEdge();
+    form9.leftFree = Form10::FromRightEdge();
     form4.effectName = [this] { return doc.Effetto; };
 }
 

@@ -7,6 +7,7 @@
 #include "shell/recovery.h"
 #include "shell/saving.h"
 #include "shell/working_pictures.h"
+#include "windows/free_screen.h"
 #include "windows/twips.h"
 
 #include <QDir>
@@ -23,6 +24,8 @@ void PlaceMainWindow(Form1& window)
     const double top =
         screen.height() / 2.0 - window.height() / 2.0 - AboveTheMiddle / TwipsPerPixel;
     window.move(qRound(left), qRound(top));
+    // On a low screen that is above its upper edge, where nobody could reach the menus.
+    KeepOnScreen(window);
 }
 
 bool CloseDocument(Session& s)

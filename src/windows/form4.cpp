@@ -36,6 +36,8 @@ Form4::Form4() : bar_(new QProgressBar)
     bar_->setObjectName("ProgressBar1");
     bar_->setAccessibleName("Avanzamento");
     bar_->setRange(0, BarMaximum);
+    // The title says how much is done; the bar is painted less often and would say less.
+    bar_->setTextVisible(false);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(bar_);
     setFixedSize(Inside.expandedTo(layout->sizeHint()));

@@ -1,8 +1,10 @@
 #include "windows/held_window.h"
 
+#include "windows/free_screen.h"
+
 #include <QCloseEvent>
-#include <QScreen>
-#include <QWindow>
+
+#include <algorithm>
 
 namespace pixano {
 
@@ -18,17 +20,18 @@ HeldWindow::HeldWindow(QWidget* inside)
 void HeldWindow::SetInside(QSize size)
 {
     stated_ = size.expandedTo(QSize(1, 1));
-    resize(stated_.boundedTo(FreeScreen()));
+    const QSize before = this->size();
+    resize(Held());
     ShowBarsOnlyWhenHeld();
+    // Grown where it stands, it would grow off the screen.
+    if (isVisible() && this->size() != before) KeepOnScreen(*this);
 }
 
-QSize HeldWindow::FreeScreen() const
+QSize HeldWindow::Held() const
 {
-    // A frame that is not there yet is taken to be as wide as common ones are.
-    constexpr QMargins UsualFrame(4, 30, 4, 4);
-    const QMargins known = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
-    const QSize available = screen()->availableGeometry().size();
-    return available.shrunkBy(known.isNull() ? UsualFrame : known).expandedTo(QSize(1, 1));
+    QSize most = LargestInside(*this);
+    if (stated_.width() > most.width()) most.setWidth(std::max(most.width() - leftFree, 1));
+    return stated_.boundedTo(most);
 }
 
 void HeldWindow::ShowBarsOnlyWhenHeld()

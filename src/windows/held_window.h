@@ -18,6 +18,9 @@ class HeldWindow : public QScrollArea {
     /// smaller.
     void SetInside(QSize size);
 
+    /// What a window that is wider than the screen leaves free beside it, for another one.
+    int leftFree = 0;
+
     /// Asked when the user closes the window; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
 
@@ -26,7 +29,7 @@ class HeldWindow : public QScrollArea {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    QSize FreeScreen() const;
+    QSize Held() const;
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();
 

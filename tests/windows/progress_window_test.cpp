@@ -34,6 +34,11 @@ class ProgressShown : public testing::Test {
     Form4 window;
 };
 
+TEST_F(ProgressShown, LeavesTheNumberToTheTitle)
+{
+    EXPECT_FALSE(Bar().isTextVisible());
+}
+
 TEST_F(ProgressShown, CountsFromNoneToFourHundred)
 {
     EXPECT_EQ(Bar().minimum(), 0);
