@@ -16,7 +16,7 @@ test_packages=(
     bash-completion parallel
 )
 # What measuring it beside other tools needs on top of both.
-bench_packages=(graphicsmagick imagemagick hyperfine parallel time)
+bench_packages=(graphicsmagick imagemagick time)
 
 # What making the Debian package needs on top of the first list.
 package_packages=(dpkg-dev file)

@@ -25,8 +25,8 @@ for _ in $(seq 30); do effects+=(-e Vetro=2500 -e 'Artistico 1'); done
 for i in $(seq -w "$count"); do cp "$picture" "foto/foto$i.jpg"; done
 
 # All pictures, two at once.
-run_all=(parallel --will-cite --jobs 2 --joblog registro.txt --resume-failed
-    "$tool" --silenzioso -j 1 --seme 7 "${effects[@]@Q}" -d risultati '{}' ::: foto/*.jpg)
+run_all=(parallel --will-cite -q --jobs 2 --joblog registro.txt --resume-failed
+    "$tool" --silenzioso -j 1 --seme 7 "${effects[@]}" -d risultati '{}' ::: foto/*.jpg)
 
 # Which pictures the log says are done, one a line, each as often as it says so.
 logged_done() {
