@@ -11,7 +11,8 @@
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(false);
     // The file dialog keeps how its columns were.
     const QTemporaryDir settings;

@@ -24,8 +24,9 @@ void PlaceMainWindow(Form1& window)
     const double top =
         screen.height() / 2.0 - window.height() / 2.0 - AboveTheMiddle / TwipsPerPixel;
     window.move(qRound(left), qRound(top));
-    // On a low screen that is above its upper edge, where nobody could reach the menus.
-    KeepOnScreen(window);
+    // A place above the upper edge is kept where a pixel is a pixel. Enlarged, though, a screen of
+    // the usual size is so low that the menus would be out of reach.
+    if (window.devicePixelRatio() > 1) KeepOnScreen(window);
 }
 
 bool CloseDocument(Session& s)
