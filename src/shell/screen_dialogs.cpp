@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace pixano {
@@ -25,6 +26,22 @@ QMessageBox::Icon IconOf(BoxIcon icon)
         return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
+}
+
+/// What the icon says to those who do not see it.
+QString NameOf(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::None:
+        return {};
+    case BoxIcon::Question:
+        return "Domanda";
+    case BoxIcon::Exclamation:
+        return "Avviso";
+    case BoxIcon::Critical:
+        return "Errore";
+    }
+    return {};
 }
 
 /// A question with the answers yes and no. Escape and the close button are no answers: "no" throws
@@ -56,6 +73,8 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
 {
     box.setObjectName("MsgBox");
     box.setIcon(IconOf(icon));
+    if (auto* const shown = box.findChild<QLabel*>("qt_msgboxex_icon_label"))
+        shown->setAccessibleName(NameOf(icon));
     box.setWindowTitle(title);
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
