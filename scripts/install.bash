@@ -12,6 +12,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb openbox xdotool imagemagick x11-utils
+    at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     clang-format clang-tidy cppcheck
     bash-completion parallel
 )

@@ -70,6 +70,7 @@ QAction* Form1::AddEntry(int index)
     if (HasChildren(index)) {
         auto* const menu = new QMenu(this);
         menu->setObjectName(row.name);
+        menu->setAccessibleName(QString(caption).remove('&'));
         action->setMenu(menu);
     }
     action->setObjectName(row.name);

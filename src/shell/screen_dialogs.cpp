@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QTreeView>
@@ -29,6 +30,22 @@ QMessageBox::Icon IconOf(BoxIcon icon)
         return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
+}
+
+/// What the icon says to those who do not see it.
+QString NameOf(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::None:
+        return {};
+    case BoxIcon::Question:
+        return "Domanda";
+    case BoxIcon::Exclamation:
+        return "Avviso";
+    case BoxIcon::Critical:
+        return "Errore";
+    }
+    return {};
 }
 
 /// A question with the answers yes and no. Escape and the close button are no answers: "no" throws
@@ -67,6 +84,8 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
 {
     box.setObjectName("MsgBox");
     box.setIcon(IconOf(icon));
+    if (auto* const shown = box.findChild<QLabel*>("qt_msgboxex_icon_label"))
+        shown->setAccessibleName(NameOf(icon));
     box.setWindowTitle(title);
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);

@@ -10,6 +10,7 @@
 #include "shell/run.h"
 #include "shell/screen_dialogs.h"
 #include "shell/start_end.h"
+#include "windows/assistive.h"
 
 #include <QApplication>
 #include <QDir>
@@ -87,6 +88,7 @@ void PrepareApplication(QApplication& application)
     QApplication::setApplicationVersion("2.3");
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
+    TellAssistiveTools();
     // Dialogs of the desktop would speak its language, whatever it is.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));

@@ -23,6 +23,7 @@ cleanup() {
             echo "The screen as it was: $EVIDENCE/failure.png" >&2
     fi
     [ -z "$program" ] || kill "$program" 2>/dev/null || true
+    [ -z "${bus:-}" ] || kill "$bus" 2>/dev/null || true
     [ -z "${manager:-}" ] || kill "$manager" 2>/dev/null || true
     [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
     wait 2>/dev/null || true
@@ -61,6 +62,16 @@ start_screen() {
     openbox >/dev/null 2>&1 &
     manager=$!
     wait_for manages_windows || fail "openbox does not start"
+}
+
+# Starts a session bus of its own, for assistive tools; their part of it starts when it is asked for.
+start_bus() {
+    local address=$sandbox/bus
+    dbus-daemon --session --nofork --print-address=3 3>"$address" >/dev/null 2>&1 &
+    bus=$!
+    wait_for test -s "$address" || fail "no session bus"
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$address")
+    export DBUS_SESSION_BUS_ADDRESS
 }
 
 # Starts the program in the working folder.

@@ -3,6 +3,7 @@
 #include "support/program.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -78,6 +79,22 @@ TEST_F(RealBox, TellsUntilItIsClosed)
     });
     dialogs.Tell(BoxIcon::Critical, "Attenzione!", "testo");
     EXPECT_TRUE(shown);
+}
+
+TEST_F(RealBox, NamesItsIconForThoseWhoDoNotSeeIt)
+{
+    for (const auto& [icon, name] : {std::pair(BoxIcon::Question, "Domanda"),
+                                     {BoxIcon::Exclamation, "Avviso"},
+                                     {BoxIcon::Critical, "Errore"}}) {
+        QString told;
+        Meanwhile([&](QMessageBox& box) {
+            for (const QLabel* const label : box.findChildren<QLabel*>())
+                if (!label->pixmap().isNull()) told = label->accessibleName();
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        dialogs.Tell(icon, "Attenzione!", "testo");
+        EXPECT_EQ(told, name);
+    }
 }
 
 class RealFileDialog : public UnstartedProgram {

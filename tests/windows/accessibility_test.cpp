@@ -121,6 +121,41 @@ TEST_F(Accessibility, EveryControlHasANameForToolsAndOneForPeople)
     }
 }
 
+TEST_F(Accessibility, WindowsAndPicturesAreToldAsWhatTheyAre)
+{
+    const auto roleOf = [](QWidget& widget) {
+        return QAccessible::queryAccessibleInterface(&widget)->role();
+    };
+    for (QWidget* const window : std::initializer_list<QWidget*>{
+             &session.form1, &session.form2, &session.form4, &session.form9, &session.form10})
+        EXPECT_EQ(roleOf(*window), QAccessible::Window) << window->objectName().toStdString();
+    for (QWidget* const dialog :
+         std::initializer_list<QWidget*>{&form5, &form6, &form7, &form8, &form11})
+        EXPECT_EQ(roleOf(*dialog), QAccessible::Dialog) << dialog->objectName().toStdString();
+    EXPECT_EQ(roleOf(session.form2.Picture1()), QAccessible::Graphic);
+    EXPECT_EQ(roleOf(session.form9.Image1()), QAccessible::Graphic);
+}
+
+TEST_F(Accessibility, AWindowTellsItsTitleToo)
+{
+    EXPECT_EQ(NameOf(session.form2), "Figura elaborata: a.bmp 9x7");
+    EXPECT_EQ(NameOf(session.form9), "Anteprima: a.bmp (9 x 7) - 100%");
+    EXPECT_EQ(NameOf(session.form10), "Strumenti");
+    Apply("Specchio");
+    EXPECT_EQ(NameOf(session.form2), "Figura elaborata: Specchio 9x7");
+}
+
+TEST_F(Accessibility, EveryMenuHasAName)
+{
+    int menus = 0;
+    for (QMenu* const menu : session.form1.findChildren<QMenu*>(Qt::FindDirectChildrenOnly)) {
+        ++menus;
+        EXPECT_NE(NameOf(*menu), "") << menu->objectName().toStdString();
+        EXPECT_THAT(NameOf(*menu), testing::Not(testing::HasSubstr("&")));
+    }
+    EXPECT_EQ(menus, 15);
+}
+
 TEST_F(Accessibility, ControlsAreThereAtAll)
 {
     const auto countOf = [](const QWidget& window) { return ControlsOf(window).size(); };
