@@ -40,7 +40,7 @@ fail() {
 # Waits up to 20 seconds until the command succeeds.
 wait_for() {
     local _
-    for _ in $(seq 200); do
+    for _ in $(seq "${patience:-200}"); do
         "$@" >/dev/null 2>&1 && return 0
         sleep 0.1
     done
@@ -52,16 +52,26 @@ manages_windows() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
+# Xvfb may tell its number a moment before anyone can connect, and openbox tries only once.
 start_screen() {
-    local number=$sandbox/display
-    Xvfb -displayfd 3 -screen 0 "${SCREEN_SIZE}x24" -nolisten tcp 3>"$number" 2>/dev/null &
-    screen=$!
-    wait_for test -s "$number" || fail "Xvfb does not start"
-    DISPLAY=:$(cat "$number")
-    export DISPLAY
-    openbox >/dev/null 2>&1 &
-    manager=$!
-    wait_for manages_windows || fail "openbox does not start"
+    local number=$sandbox/display patience=80 _
+    for _ in 1 2 3; do
+        Xvfb -displayfd 3 -screen 0 "${SCREEN_SIZE}x24" -nolisten tcp 3>"$number" 2>/dev/null &
+        screen=$!
+        wait_for test -s "$number" || fail "Xvfb does not start"
+        DISPLAY=:$(cat "$number")
+        export DISPLAY
+        if wait_for xprop -root; then
+            openbox >/dev/null 2>&1 &
+            manager=$!
+            if wait_for manages_windows; then return 0; fi
+            kill "$manager" 2>/dev/null || true
+        fi
+        kill "$screen" 2>/dev/null || true
+        wait
+        : >"$number"
+    done
+    fail "no screen with openbox on it can be started"
 }
 
 # Starts a session bus of its own, for assistive tools; their part of it starts when it is asked for.
