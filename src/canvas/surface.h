@@ -1,6 +1,7 @@
 // The pixels of the canvas: point-read, point-set, clear. Knows no window and no file.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -85,9 +86,11 @@ class Surface {
     static int Nearest(float coordinate)
     {
         constexpr float Limit = 1 << 24;  // far outside any surface, still exact in an int
-        if (!(coordinate > -0.5F && coordinate < Limit)) return -1;
-        const int truncated = static_cast<int>(coordinate);
-        return truncated + (coordinate - static_cast<float>(truncated) > 0.5F ? 1 : 0);
+        if (!(std::fabs(coordinate) < Limit)) return -1;
+        // Halves would go to the even neighbour: a little off takes them down, too little to take
+        // any other Single there.
+        constexpr double Little = 0x1p-26;
+        return static_cast<int>(std::lrint(coordinate - Little));
     }
 
     /// Wider than a pixel, so that no painted pixel can be mistaken for a side that changed.

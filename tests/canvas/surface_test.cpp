@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace pixano::test {
@@ -54,6 +55,18 @@ TEST(Surface, TakesTheNearestPixelAndOfAHalfTheLower)
     EXPECT_EQ(surface.Point(0.0F, 49.51F), 50000);
     EXPECT_EQ(surface.Point(3.0F, 4.0F), 4003);
     EXPECT_EQ(surface.Point(1e-30F, -1e-30F), 0);
+}
+
+TEST(Surface, TellsEverySingleBesideAHalfFromIt)
+{
+    const Surface surface = Numbered();
+    for (int x = 0; x < 59; ++x) {
+        const float half = static_cast<float>(x) + 0.5F;
+        EXPECT_EQ(surface.Point(std::nextafter(half, 0.0F), 0.0F), x);
+        EXPECT_EQ(surface.Point(half, 0.0F), x);
+        EXPECT_EQ(surface.Point(std::nextafter(half, Infinite), 0.0F), x + 1);
+    }
+    EXPECT_EQ(surface.Point(std::nextafter(-0.5F, 0.0F), 0.0F), 0);
 }
 
 TEST(Surface, BeginsAndEndsHalfAPixelBesideTheFirstAndLast)
