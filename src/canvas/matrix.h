@@ -23,7 +23,7 @@ class Matrix {
     {
         if (static_cast<unsigned>(column) > LastIndex || static_cast<unsigned>(row) > LastIndex)
             throw Fault(FaultKind::SubscriptOutOfRange);
-        return cells_[static_cast<std::size_t>(row) * Side + static_cast<std::size_t>(column)];
+        return cells_[static_cast<std::size_t>(row) * Stride + static_cast<std::size_t>(column)];
     }
 
     /// The cells of that row, column by column. Throws SubscriptOutOfRange outside 0 to 1500.
@@ -31,6 +31,10 @@ class Matrix {
 
   private:
     static constexpr std::size_t Side = LastIndex + 1;
+    /// From row to row: a whole number of cache lines, or processors do not see a walk down a
+    /// column coming, and an odd one, or such a walk crowds into a part of the cache.
+    static constexpr std::size_t CacheLine = 64 / sizeof(Colour);
+    static constexpr std::size_t Stride = ((Side + CacheLine - 1) / CacheLine | 1) * CacheLine;
 
     struct Free {
         void operator()(Colour* cells) const { std::free(cells); }
@@ -40,7 +44,7 @@ class Matrix {
     // cppcheck-suppress unusedPrivateFunction ; the initialiser below calls it
     static Colour* Zeroed()
     {
-        void* cells = std::calloc(Side * Side, sizeof(Colour));
+        void* cells = std::calloc(Side * Stride, sizeof(Colour));
         if (cells == nullptr) throw std::bad_alloc();
         return static_cast<Colour*>(cells);
     }
