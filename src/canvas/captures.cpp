@@ -38,7 +38,7 @@ void CatturaMez(Work& w)
 
 void CattuVett(Work& w)
 {
-    const int last = std::min(w.Larg, Matrix::LastIndex);
+    const int last = std::min<int>(w.Larg, Matrix::LastIndex);
     for (int y = 0; y <= w.Alt; ++y) {
         const auto cells = w.Vettore.Row(y).first(static_cast<std::size_t>(last) + 1);
         const auto pixels = PixelsOf(w.Picture1, y, last);

@@ -79,7 +79,7 @@ void RowPass(Work& w)
     do {
         for (int x = 0; x < w.Larg; ++x)
             w.Vettore(x, t) = w.Picture1.Point(x, row.Position());
-        t = std::min(t + 1, w.Alt);
+        t = std::min<int>(t + 1, w.Alt);
     } while (row.Advance());
 }
 
