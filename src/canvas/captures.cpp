@@ -38,15 +38,16 @@ void CatturaMez(Work& w)
 
 void CattuVett(Work& w)
 {
-    const int last = std::min(w.Larg, Matrix::LastIndex);
-    for (int y = 0; y <= w.Alt; ++y) {
-        const auto cells = w.Vettore.Row(y).first(static_cast<std::size_t>(last) + 1);
-        const auto pixels = PixelsOf(w.Picture1, y, last);
-        std::ranges::transform(pixels, cells.begin(), Surface::ColourOf);
-        std::ranges::fill(cells.subspan(pixels.size()), Outside);
-        // The first column that does not fit is the fault.
-        if (last < w.Larg) w.Vettore(last + 1, y) = Outside;
-    }
+    for (int y = 0; y <= w.Alt; ++y)
+        CattuRiga(w, y, w.Larg + 1, y);
+}
+
+void CattuRiga(Work& w, int y, int columns, int row)
+{
+    const int fitting = std::min(columns, Matrix::LastIndex + 1);
+    w.Picture1.Point(y, w.Vettore.Row(row, fitting));
+    // The first column that does not fit is the fault.
+    if (fitting < columns) w.Vettore(fitting, row) = Outside;
 }
 
 }  // namespace pixano

@@ -16,4 +16,8 @@ void CatturaMez(Work& w);
 /// it. Throws SubscriptOutOfRange when `Larg` or `Alt` is above 1500.
 void CattuVett(Work& w);
 
+/// Copies the first `columns` columns of the picture's row `y` into row `row` of `Vettore`. Throws
+/// SubscriptOutOfRange where they reach beyond it.
+void CattuRiga(Work& w, int y, int columns, int row);
+
 }  // namespace pixano

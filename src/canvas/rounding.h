@@ -19,12 +19,9 @@ inline double Int(double value)
 /// does not fit.
 inline std::int32_t CLng(double value)
 {
-    constexpr double Limit = 0x1p31 + 0.5;  // what lies beyond cannot fit, and is no long for sure
-    if (!(std::fabs(value) <= Limit)) throw Fault(FaultKind::Overflow);
-    const long rounded = std::lrint(value);
-    // cppcheck-suppress knownConditionTrueFalse ; a long may have more than 32 bits
-    if (rounded != static_cast<std::int32_t>(rounded)) throw Fault(FaultKind::Overflow);
-    return static_cast<std::int32_t>(rounded);
+    // The least and the first too large of the values that round to such an integer.
+    if (!(value >= -0x1p31 - 0.5 && value < 0x1p31 - 0.5)) throw Fault(FaultKind::Overflow);
+    return static_cast<std::int32_t>(std::lrint(value));
 }
 
 /// The quotient. Throws DivisionByZero.

@@ -7,13 +7,26 @@ namespace pixano {
 Surface::Surface(int width, int height, Colour colour)
     : width_(static_cast<std::size_t>(width)),
       height_(static_cast<std::size_t>(height)),
-      pixels_(width_ * height_, static_cast<std::uint32_t>(colour) | Opaque)
+      pixels_(width_ * height_, WordOf(colour))
 {
+}
+
+void Surface::Point(int y, std::span<Colour> colours) const
+{
+    const std::size_t inside = Reached(y, colours.size());
+    if (inside > 0) std::ranges::transform(Row(y).first(inside), colours.begin(), ColourOf);
+    std::ranges::fill(colours.subspan(inside), Outside);
+}
+
+void Surface::PSet(int y, std::span<const Colour> colours)
+{
+    const std::size_t inside = Reached(y, colours.size());
+    if (inside > 0) std::ranges::transform(colours.first(inside), Row(y).begin(), WordOf);
 }
 
 void Surface::Cls()
 {
-    std::fill(pixels_.begin(), pixels_.end(), static_cast<std::uint32_t>(Background) | Opaque);
+    std::fill(pixels_.begin(), pixels_.end(), WordOf(Background));
 }
 
 }  // namespace pixano

@@ -1,6 +1,8 @@
 // The pixels of the canvas: point-read, point-set, clear. Knows no window and no file.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -39,16 +41,20 @@ class Surface {
     }
     Colour Point(float x, float y) const { return Point(Nearest(x), Nearest(y)); }
     Colour Point(double x, double y) const = delete;
+    /// The colours of row `y` from the left edge on, as many as there is room for.
+    void Point(int y, std::span<Colour> colours) const;
 
     /// Paints (x, y) with the low three bytes of `colour` (two's complement, so -1 is white).
     /// A place outside the surface is ignored.
     void PSet(int x, int y, Colour colour)
     {
         std::uint32_t* const pixels = pixels_.data();
-        if (Inside(x, y)) pixels[Offset(x, y)] = static_cast<std::uint32_t>(colour) | Opaque;
+        if (Inside(x, y)) pixels[Offset(x, y)] = WordOf(colour);
     }
     void PSet(float x, float y, Colour colour) { PSet(Nearest(x), Nearest(y), colour); }
     void PSet(double x, double y, Colour colour) = delete;
+    /// Paints row `y` from the left edge on.
+    void PSet(int y, std::span<const Colour> colours);
 
     /// Paints everything with `Background`.
     void Cls();
@@ -70,6 +76,10 @@ class Surface {
   private:
     static constexpr std::uint32_t ColourMask = 0x00FFFFFF;
 
+    static std::uint32_t WordOf(Colour colour)
+    {
+        return static_cast<std::uint32_t>(colour) | Opaque;
+    }
     bool Inside(int x, int y) const
     {
         // Both sides are looked up at once, so that a loop over a row can do it before it starts.
@@ -77,6 +87,11 @@ class Surface {
         const std::size_t height = height_;
         // Unsigned comparisons tell negative places too.
         return static_cast<unsigned>(x) < width && static_cast<unsigned>(y) < height;
+    }
+    /// How many of `places` in row `y`, counted from the left edge, are inside.
+    std::size_t Reached(int y, std::size_t places) const
+    {
+        return static_cast<unsigned>(y) < height_ ? std::min(places, width_) : 0;
     }
     std::size_t Offset(int x, int y) const
     {
@@ -86,9 +101,11 @@ class Surface {
     static int Nearest(float coordinate)
     {
         constexpr float Limit = 1 << 24;  // far outside any surface, still exact in an int
-        if (!(coordinate > -0.5F && coordinate < Limit)) return -1;
-        const int truncated = static_cast<int>(coordinate);
-        return truncated + (coordinate - static_cast<float>(truncated) > 0.5F ? 1 : 0);
+        if (!(std::fabs(coordinate) < Limit)) return -1;
+        // Halves would go to the even neighbour: a little off takes them down, too little to take
+        // any other Single there.
+        constexpr double Little = 0x1p-26;
+        return static_cast<int>(std::lrint(coordinate - Little));
     }
 
     /// Wider than a pixel, so that no painted pixel can be mistaken for a side that changed.

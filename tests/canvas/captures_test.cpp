@@ -107,5 +107,15 @@ TEST(CattuVett, FailsAtTheFirstRowAboveFifteenHundred)
     EXPECT_EQ(run.work.Vettore(2, 1500), Outside);
 }
 
+TEST(CattuRiga, CopiesPartOfARowToAnyRow)
+{
+    EffectRun run({"abc", "def"});
+    CattuRiga(run.work, 1, 2, 5);
+    EXPECT_EQ(run.work.Vettore(0, 5), ColourOf('d'));
+    EXPECT_EQ(run.work.Vettore(1, 5), ColourOf('e'));
+    EXPECT_EQ(run.work.Vettore(2, 5), 0);
+    EXPECT_EQ(run.work.Vettore(0, 1), 0);
+}
+
 }  // namespace
 }  // namespace pixano::test

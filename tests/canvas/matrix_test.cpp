@@ -43,5 +43,33 @@ TEST(Matrix, FailsAtAnIndexOutsideZeroToFifteenHundred)
     EXPECT_EQ(FaultIn([&] { matrix(1500, 1500); }), std::nullopt);
 }
 
+TEST(Matrix, GivesItsRowsAndColumns)
+{
+    Matrix matrix;
+    matrix(2, 7) = 5;
+    matrix(3, 1500) = 6;
+    EXPECT_EQ(matrix.Row(7)(2), 5);
+    EXPECT_EQ(matrix.Column(2)(7), 5);
+    EXPECT_EQ(matrix.Column(3)(1500), 6);
+    matrix.Row(8)(1500) = 9;
+    matrix.Column(1500)(9) = 10;
+    EXPECT_EQ(matrix(1500, 8), 9);
+    EXPECT_EQ(matrix(1500, 9), 10);
+    EXPECT_EQ(matrix.Row(7, 3).back(), 5);
+    EXPECT_EQ(&matrix.Row(8, 1501).back(), &matrix(1500, 8));
+}
+
+TEST(Matrix, FailsOutsideItsRowsAndColumns)
+{
+    Matrix matrix;
+    for (const int index : {-1, 1501, std::numeric_limits<int>::min()}) {
+        EXPECT_EQ(FaultIn([&] { matrix.Row(index); }), FaultKind::SubscriptOutOfRange);
+        EXPECT_EQ(FaultIn([&] { matrix.Row(index, 1); }), FaultKind::SubscriptOutOfRange);
+        EXPECT_EQ(FaultIn([&] { matrix.Row(0)(index); }), FaultKind::SubscriptOutOfRange);
+        EXPECT_EQ(FaultIn([&] { matrix.Column(index); }), FaultKind::SubscriptOutOfRange);
+        EXPECT_EQ(FaultIn([&] { matrix.Column(0)(index); }), FaultKind::SubscriptOutOfRange);
+    }
+}
+
 }  // namespace
 }  // namespace pixano::test

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
+#include <vector>
 
 namespace pixano::test {
 namespace {
@@ -54,6 +56,18 @@ TEST(Surface, TakesTheNearestPixelAndOfAHalfTheLower)
     EXPECT_EQ(surface.Point(0.0F, 49.51F), 50000);
     EXPECT_EQ(surface.Point(3.0F, 4.0F), 4003);
     EXPECT_EQ(surface.Point(1e-30F, -1e-30F), 0);
+}
+
+TEST(Surface, TellsEverySingleBesideAHalfFromIt)
+{
+    const Surface surface = Numbered();
+    for (int x = 0; x < 59; ++x) {
+        const float half = static_cast<float>(x) + 0.5F;
+        EXPECT_EQ(surface.Point(std::nextafter(half, 0.0F), 0.0F), x);
+        EXPECT_EQ(surface.Point(half, 0.0F), x);
+        EXPECT_EQ(surface.Point(std::nextafter(half, Infinite), 0.0F), x + 1);
+    }
+    EXPECT_EQ(surface.Point(std::nextafter(-0.5F, 0.0F), 0.0F), 0);
 }
 
 TEST(Surface, BeginsAndEndsHalfAPixelBesideTheFirstAndLast)
@@ -132,6 +146,37 @@ TEST(Surface, PaintsTheLowThreeBytes)
     EXPECT_EQ(painted(std::numeric_limits<Colour>::min()), 0);
 }
 
+TEST(Surface, GivesARowAndTheOutsideBehindIt)
+{
+    Surface surface(3, 2, 7);
+    surface.PSet(0, 1, 5);
+    std::vector<Colour> colours(2);
+    surface.Point(1, colours);
+    EXPECT_EQ(colours, (std::vector<Colour>{5, 7}));
+    colours.resize(4);
+    surface.Point(1, colours);
+    EXPECT_EQ(colours, (std::vector<Colour>{5, 7, 7, -1}));
+    for (const int outside : {-1, 2, Largest, Smallest}) {
+        colours.assign(2, 0);
+        surface.Point(outside, colours);
+        EXPECT_EQ(colours, (std::vector<Colour>{-1, -1}));
+    }
+}
+
+TEST(Surface, PaintsARowAsFarAsItReaches)
+{
+    Surface surface(3, 2, 7);
+    surface.PSet(1, std::vector<Colour>{1, -1});
+    surface.PSet(0, std::vector<Colour>{1, 2, 0x01000003, 4});
+    for (const int outside : {-1, 2, Largest, Smallest})
+        surface.PSet(outside, std::vector<Colour>{9});
+    std::vector<Colour> colours(3);
+    surface.Point(0, colours);
+    EXPECT_EQ(colours, (std::vector<Colour>{1, 2, 3}));
+    surface.Point(1, colours);
+    EXPECT_EQ(colours, (std::vector<Colour>{1, White, 7}));
+}
+
 TEST(Surface, IsClearedToTheBackground)
 {
     Surface surface = Numbered();
@@ -146,7 +191,11 @@ TEST(Surface, OfNoPixelsIsOutsideEverywhere)
     Surface surface;
     surface.PSet(0, 0, 5);
     surface.Cls();
+    surface.PSet(0, std::vector<Colour>{5});
     EXPECT_EQ(surface.Point(0, 0), -1);
+    std::vector<Colour> colours(1);
+    surface.Point(0, colours);
+    EXPECT_EQ(colours[0], -1);
     EXPECT_EQ(surface.Width(), 0);
     EXPECT_EQ(surface.Height(), 0);
 }

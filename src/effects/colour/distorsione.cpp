@@ -45,8 +45,8 @@ void sposta(Work& w, int X, int Y, int S)
     w.Randomize();
     const int dx = DrawBelow(w, 20) - 10;
     const int dy = DrawBelow(w, 20) - 10;
-    const int right = std::min(X + S, w.Larg);
-    const int bottom = std::min(Y + S, w.Alt);
+    const int right = std::min<int>(X + S, w.Larg);
+    const int bottom = std::min<int>(Y + S, w.Alt);
     // Column by column: pixels beyond an edge pile up on it, and the last one painted stays.
     for (int i = X; i <= right; ++i) {
         const int u = std::clamp(i + dx, 0, w.Larg - 1);

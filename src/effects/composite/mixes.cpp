@@ -4,29 +4,44 @@
 #include "effects/composite/composite.h"
 
 namespace pixano {
+namespace {
 
-/// "Mix Verticale": odd columns from the picture with left and right exchanged.
+/// The odd columns of row `y` from the picture with left and right exchanged.
+void MixColumns(Work& w, int y)
+{
+    const auto cells = w.Vettore.Row(y);
+    for (int x = 1; x <= w.Larg; x += 2)
+        w.Picture1.PSet(x, y, cells(w.Larg - x));
+}
+
+/// Row `y`, if it is an odd one, from the picture with top and bottom exchanged.
+void MixRow(Work& w, int y)
+{
+    if (y % 2 == 0) return;
+    w.Picture1.PSet(y, w.Vettore.Row(w.Alt - y, w.Larg + 1));
+}
+
+}  // namespace
+
+/// "Mix Verticale": the columns mixed.
 void MixVert(Work& w)
 {
     CattuVett(w);
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
-        for (int x = 1; x <= w.Larg; x += 2)
-            w.Picture1.PSet(x, y, w.Vettore(w.Larg - x, y));
+        MixColumns(w, y);
     }
 }
 
-/// "Mix Orizzontale": odd rows from the picture with top and bottom exchanged.
+/// "Mix Orizzontale": the rows mixed.
 void MixOriz(Work& w)
 {
     CattuVett(w);
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
-        if (y % 2 == 0) continue;
-        for (int x = 0; x <= w.Larg; ++x)
-            w.Picture1.PSet(x, y, w.Vettore(x, w.Alt - y));
+        MixRow(w, y);
     }
 }
 
@@ -37,10 +52,8 @@ void MixMultif(Work& w)
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
-        for (int x = 0; x <= w.Larg; ++x) {
-            if (x % 2 != 0) w.Picture1.PSet(x, y, w.Vettore(w.Larg - x, y));
-            if (y % 2 != 0) w.Picture1.PSet(x, y, w.Vettore(x, w.Alt - y));
-        }
+        MixColumns(w, y);
+        MixRow(w, y);
     }
 }
 

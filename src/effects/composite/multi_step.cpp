@@ -1,8 +1,11 @@
 // The picture squeezed more and more towards one edge, then again from the start.
+#include "canvas/captures.h"
 #include "canvas/rounding.h"
 #include "effects/composite/composite.h"
 
 #include <algorithm>
+#include <span>
+#include <vector>
 
 namespace pixano {
 namespace {
@@ -54,33 +57,43 @@ class Stride {
     int change_ = 1;
 };
 
-/// Squeezes every row from `source` (column, row) into `target`. What is left over when column
-/// `Larg` is reached piles up there, in a column that is never painted.
+/// The lines of `lines` that a pass reads for the places 0 to `lines`. What is left over when place
+/// `lines` is reached piles up there, in a line that is never painted, and the last one stays. Just
+/// the first line where there is no end.
+std::vector<int> LinesRead(int lines, int band)
+{
+    std::vector<int> read;
+    Stride line(lines, band);
+    do {
+        if (static_cast<int>(read.size()) > lines)
+            read.back() = line.Position();
+        else
+            read.push_back(line.Position());
+    } while (band != 0 && line.Advance());
+    return read;
+}
+
+/// Squeezes every row, as `source` gives it, into `target`.
 template <typename Source>
 void ColumnPass(const Work& w, Source source, Matrix& target)
 {
-    const int larg = w.Larg;
-    const int band = ColumnBand(w);
+    const std::vector<int> columns = LinesRead(w.Larg, ColumnBand(w));
+    const int count = static_cast<int>(columns.size());
     for (int y = 0; y < w.Alt; ++y) {
-        Stride column(larg, band);
-        int t = 0;
-        do {
-            target(t, y) = source(column.Position(), y);
-            t = std::min(t + 1, larg);
-        } while (column.Advance());
+        const auto from = source(y);
+        const auto to = target.Row(y);
+        for (int t = 0; t < count; ++t)
+            to(t) = from[columns[t]];
     }
 }
 
-/// The same with all rows of the canvas, down to row `Alt` of `Vettore`.
+/// The same with all rows of the canvas, into `Vettore`.
 void RowPass(Work& w)
 {
-    Stride row(w.Alt, RowBand(w));
-    int t = 0;
-    do {
-        for (int x = 0; x < w.Larg; ++x)
-            w.Vettore(x, t) = w.Picture1.Point(x, row.Position());
-        t = std::min(t + 1, w.Alt);
-    } while (row.Advance());
+    const std::vector<int> rows = LinesRead(w.Alt, RowBand(w));
+    const int count = static_cast<int>(rows.size());
+    for (int t = 0; t < count; ++t)
+        CattuRiga(w, rows[t], w.Larg, t);
 }
 
 /// Throws InvalidCall where a column pass would never end; a pass without rows ends at once.
@@ -103,8 +116,7 @@ void Paint(Work& w, Matrix& cells)
     w.ShowProgress();
     for (int y = 0; y < w.Alt; ++y) {
         w.Avanzamento(y);
-        for (int x = 0; x < w.Larg; ++x)
-            w.Picture1.PSet(x, y, cells(x, y));
+        w.Picture1.PSet(y, cells.Row(y, w.Larg));
     }
 }
 
@@ -114,8 +126,14 @@ void Paint(Work& w, Matrix& cells)
 void Vertstep(Work& w)
 {
     RefuseEndlessColumnPass(w);
+    std::vector<Colour> row(static_cast<std::size_t>(w.Larg));
     ColumnPass(
-        w, [&](int x, int y) { return w.Picture1.Point(x, y); }, w.Vettore);
+        w,
+        [&](int y) {
+            w.Picture1.Point(y, row);
+            return std::span(row);
+        },
+        w.Vettore);
     Paint(w, w.Vettore);
 }
 
@@ -135,7 +153,7 @@ void MultiFotoStep(Work& w)
     RowPass(w);
     RefuseEndlessColumnPass(w);
     ColumnPass(
-        w, [&](int x, int y) { return w.Vettore(x, y); }, w.Vettore2);
+        w, [&](int y) { return w.Vettore.Row(y, w.Larg); }, w.Vettore2);
     Paint(w, w.Vettore2);
 }
 

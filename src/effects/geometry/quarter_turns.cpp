@@ -18,10 +18,11 @@ void RotazMeno(Work& w)
     for (int i = w.Alt; i >= 1; --i) {
         w.Avanzamento(w.Alt - i);
         a += rx;
+        const auto column = w.Vettore.Column(CLng(a));
         double b = 0;
         for (int j = 1; j <= w.Larg; ++j) {
             b += ry;
-            w.Picture1.PSet(j, i, w.Vettore(CLng(a), CLng(b)));
+            w.Picture1.PSet(j, i, column(CLng(b)));
         }
     }
 }
@@ -38,10 +39,11 @@ void RotazPiu(Work& w)
     for (int i = 0; i <= w.Alt; ++i) {
         w.Avanzamento(i);
         a += rx;
+        const auto column = w.Vettore.Column(CLng(a));
         double b = -1;
         for (int j = w.Larg; j >= 1; --j) {
             b += ry;
-            w.Picture1.PSet(j, i, w.Vettore(CLng(a), CLng(b)));
+            w.Picture1.PSet(j, i, column(CLng(b)));
         }
     }
 }
