@@ -24,12 +24,17 @@ constexpr FourDigits DigitsOf(std::uint32_t n)
             static_cast<char>('0' + n / 10 % 10), static_cast<char>('0' + n % 10)};
 }
 
-/// The last four digits of a number.
-constexpr std::array<FourDigits, 10000> AllTails()
+/// The last four digits of a number and its line end, as long as a word.
+using Tail = std::array<char, 8>;
+constexpr std::size_t TailLength = 6;
+
+constexpr std::array<Tail, 10000> AllTails()
 {
-    std::array<FourDigits, 10000> table{};
-    for (std::uint32_t n = 0; n < table.size(); ++n)
-        table[n] = DigitsOf(n);
+    std::array<Tail, 10000> table{};
+    for (std::uint32_t n = 0; n < table.size(); ++n) {
+        const FourDigits digits = DigitsOf(n);
+        table[n] = {digits[0], digits[1], digits[2], digits[3], '\r', '\n'};
+    }
     return table;
 }
 constexpr auto Tails = AllTails();
@@ -113,19 +118,19 @@ bool TakeNegative(const char*& at, Colour*& out)
     return true;
 }
 
+/// Writes words where there are fewer characters: the next one comes over the rest.
 char* AppendLine(Colour value, char* text)
 {
     const auto number = static_cast<std::uint32_t>(value);
     const std::uint32_t head = number / Tails.size();
-    if (head - 1 >= Heads.size() - 1) {  // four digits or less, or no colour
+    if (head - 1 >= Heads.size() - 1) [[unlikely]] {  // four digits or less, or no colour
         text = std::to_chars(text, text + LongestLine, value).ptr;
-    } else {
-        std::memcpy(text, &Heads[head].digits, sizeof(FourDigits));
-        text += Heads[head].count;
-        std::memcpy(text, &Tails[number % Tails.size()], sizeof(FourDigits));
-        text += sizeof(FourDigits);
+        return std::copy_n("\r\n", 2, text);
     }
-    return std::copy_n("\r\n", 2, text);
+    std::memcpy(text, &Heads[head].digits, sizeof(FourDigits));
+    text += Heads[head].count;
+    std::memcpy(text, &Tails[number % Tails.size()], sizeof(Tail));
+    return text + TailLength;
 }
 
 bool IsBlank(char c)
