@@ -65,7 +65,7 @@ TEST(Surface, TellsEverySingleBesideAHalfFromIt)
         const float half = static_cast<float>(x) + 0.5F;
         EXPECT_EQ(surface.Point(std::nextafter(half, 0.0F), 0.0F), x);
         EXPECT_EQ(surface.Point(half, 0.0F), x);
-        EXPECT_EQ(surface.Point(std::nextafter(half, Infinite), 0.0F), x + 1);
+        EXPECT_EQ(surface.Point(std::nextafter(half, InfinitePlace), 0.0F), x + 1);
     }
     EXPECT_EQ(surface.Point(std::nextafter(-0.5F, 0.0F), 0.0F), 0);
 }
