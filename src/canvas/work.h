@@ -17,9 +17,8 @@ namespace pixano {
 /// painted pixel can be mistaken for a side that changed, and loops need not look it up again.
 class Side {
   public:
-    // NOLINTNEXTLINE(google-explicit-constructor) ; assigned like an int
+    // cppcheck-suppress noExplicitConstructor ; assigned like an int
     Side(int pixels) : pixels_(pixels) {}
-    // NOLINTNEXTLINE(google-explicit-constructor) ; read like an int
     operator int() const { return static_cast<int>(pixels_); }
     Side& operator-=(int fewer)
     {
