@@ -38,10 +38,10 @@ class Text : public PixelFile::Store {
         char* const unwritten = text_.data() + unwritten_;
         unwritten_ =
             static_cast<std::size_t>(FormatLines({values_.data(), end}, unwritten) - text_.data());
-        // Whole pages: a page written in two parts costs the system almost twice.
-        const std::size_t whole = unwritten_ / PageLength * PageLength;
-        WriteOut(whole);
-        std::memmove(text_.data(), text_.data() + whole, unwritten_);
+        if (unwritten_ >= BlockLength) {
+            WriteOut(BlockLength);
+            std::memmove(text_.data(), text_.data() + BlockLength, unwritten_);
+        }
         return {values_.data(), values_.data() + ValuesPerWindow};
     }
 
@@ -88,9 +88,12 @@ class Text : public PixelFile::Store {
     }
 
   private:
-    static constexpr std::size_t ValuesPerWindow = 1 << 15;
-    static constexpr std::size_t PageLength = 4096;
-    static constexpr std::size_t TextLength = PageLength + ValuesPerWindow * LongestLine;
+    /// Few enough for the processor to have them at hand when they are formatted.
+    static constexpr std::size_t ValuesPerWindow = 1 << 12;
+    /// Characters that are written at once. Whole pages: a page written in two parts costs the
+    /// system almost twice.
+    static constexpr std::size_t BlockLength = 1 << 18;
+    static constexpr std::size_t TextLength = BlockLength + ValuesPerWindow * LongestLine;
 
     struct CloseFile {
         void operator()(std::FILE* file) const { std::fclose(file); }
