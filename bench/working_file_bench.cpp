@@ -6,7 +6,9 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <memory>
+#include <span>
 #include <stdexcept>
 #include <vector>
 
@@ -38,16 +40,17 @@ OpenFile Open(const char* mode)
 /// Bytes that are written or read at once, as the working file does.
 constexpr std::size_t BlockLength = 1 << 18;
 
-void WritePlain(std::size_t length)
+/// Writes what the working file holds. It lies in memory, as the picture does that is captured: a
+/// block that is written again and again would come from the processor's cache.
+void WritePlain(std::span<const char> text)
 {
-    static const std::vector<char> block(BlockLength, '7');
     std::filesystem::remove(PlainFile);
     const OpenFile file = Open("wbx");
-    for (std::size_t left = length; left > 0;) {
-        const std::size_t now = std::min(left, BlockLength);
-        if (std::fwrite(block.data(), 1, now, file.get()) != now)
+    while (!text.empty()) {
+        const auto block = text.first(std::min(text.size(), BlockLength));
+        if (std::fwrite(block.data(), 1, block.size(), file.get()) != block.size())
             throw std::runtime_error(PlainFile);
-        left -= now;
+        text = text.subspan(block.size());
     }
 }
 
@@ -86,19 +89,22 @@ struct Canvas {
     Work w;
 };
 
-std::size_t TextLength()
+std::vector<char> CapturedText()
 {
     Canvas canvas(TextStore(WorkingFile));
     Cattura(canvas.w);
-    return std::filesystem::file_size(WorkingFile);
+    std::ifstream file(WorkingFile, std::ios::binary);
+    std::vector<char> text(std::filesystem::file_size(WorkingFile));
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    return text;
 }
 
 void CaptureToDisk(benchmark::State& state)
 {
-    const std::size_t length = TextLength();
+    const std::vector<char> text = CapturedText();
     Canvas canvas(TextStore(WorkingFile));
     Measure(
-        state, "x_plain_write", [&] { canvas.w.ElabSer.Kill(); }, [&] { WritePlain(length); },
+        state, "x_plain_write", [&] { canvas.w.ElabSer.Kill(); }, [&] { WritePlain(text); },
         [&] { Cattura(canvas.w); },
         // Both start with the same pages of memory free.
         [] { std::filesystem::remove(PlainFile); });
@@ -117,7 +123,7 @@ void ReadBackFromDisk(benchmark::State& state)
 
 void ReadBackBesidePlainRead(benchmark::State& state)
 {
-    WritePlain(TextLength());
+    WritePlain(CapturedText());
     Canvas canvas(TextStore(WorkingFile));
     Cattura(canvas.w);
     Measure(

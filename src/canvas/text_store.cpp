@@ -1,5 +1,6 @@
 // The pixel working file as text on disk: one decimal number a line, lines ended by CR LF.
 #include "canvas/fault.h"
+#include "canvas/lines_ahead.h"
 #include "canvas/pixel_file.h"
 #include "canvas/value_text.h"
 
@@ -21,7 +22,7 @@ class Text : public PixelFile::Store {
 
     Window Create() override
     {
-        file_.reset();
+        Close();
         std::error_code error;
         // Whatever bears the name is replaced, not followed: a link or a pipe goes like a file.
         if (!fs::is_directory(fs::symlink_status(path_, error))) fs::remove(path_, error);
@@ -38,10 +39,10 @@ class Text : public PixelFile::Store {
         char* const unwritten = text_.data() + unwritten_;
         unwritten_ =
             static_cast<std::size_t>(FormatLines({values_.data(), end}, unwritten) - text_.data());
-        // Whole pages: a page written in two parts costs the system almost twice.
-        const std::size_t whole = unwritten_ / PageLength * PageLength;
-        WriteOut(whole);
-        std::memmove(text_.data(), text_.data() + whole, unwritten_);
+        if (unwritten_ >= BlockLength) {
+            WriteOut(BlockLength);
+            std::memmove(text_.data(), text_.data() + BlockLength, unwritten_);
+        }
         return {values_.data(), values_.data() + ValuesPerWindow};
     }
 
@@ -59,16 +60,21 @@ class Text : public PixelFile::Store {
         if (!fs::exists(status)) throw Fault(FaultKind::FileNotFound, name_);
         // Opening a pipe would wait for ever; a link may lead anywhere.
         if (!fs::is_regular_file(status)) throw Fault(FaultKind::FileAccess, name_);
+        Close();
         file_.reset(std::fopen(path_.c_str(), "rb"));
         if (!file_) throw Fault(FaultKind::FileAccess, name_);
         std::setvbuf(file_.get(), nullptr, _IONBF, 0);
-        PrepareBuffers();
-        unread_ = {text_.data(), text_.data()};
-        atEnd_ = false;
+        ahead_.Start(file_.get());
+        plain_ = true;
     }
 
     Window Next() override
     {
+        if (plain_) {
+            const std::span<Colour> values = ahead_.Next();
+            if (!values.empty()) return {values.data(), values.data() + values.size()};
+            ReadOnByGeneralRules();
+        }
         Colour* const first = values_.data();
         Colour* last = first;
         while (last == first) {
@@ -78,7 +84,11 @@ class Text : public PixelFile::Store {
         return {first, last};
     }
 
-    void Close() override { file_.reset(); }
+    void Close() override
+    {
+        ahead_.Stop();
+        file_.reset();
+    }
 
     void Kill() override
     {
@@ -88,9 +98,12 @@ class Text : public PixelFile::Store {
     }
 
   private:
-    static constexpr std::size_t ValuesPerWindow = 1 << 15;
-    static constexpr std::size_t PageLength = 4096;
-    static constexpr std::size_t TextLength = PageLength + ValuesPerWindow * LongestLine;
+    /// Few enough for the processor to have them at hand when they are formatted.
+    static constexpr std::size_t ValuesPerWindow = 1 << 12;
+    /// Characters that are written at once. Whole pages: a page written in two parts costs the
+    /// system almost twice.
+    static constexpr std::size_t BlockLength = 1 << 18;
+    static constexpr std::size_t TextLength = BlockLength + ValuesPerWindow * LongestLine;
 
     struct CloseFile {
         void operator()(std::FILE* file) const { std::fclose(file); }
@@ -108,6 +121,18 @@ class Text : public PixelFile::Store {
         if (std::fwrite(text_.data(), 1, length, file_.get()) != length)
             throw Fault(FaultKind::DiskFull, name_);
         unwritten_ -= length;
+    }
+
+    /// The next line is no plain one: from here the text is looked at as a whole.
+    void ReadOnByGeneralRules()
+    {
+        plain_ = false;
+        const std::size_t taken = ahead_.Stop();
+        if (std::fseek(file_.get(), static_cast<long>(taken), SEEK_SET) != 0)
+            throw Fault(FaultKind::FileAccess, name_);
+        PrepareBuffers();
+        unread_ = {text_.data(), text_.data()};
+        atEnd_ = false;
     }
 
     /// The value at the start of the unread text, which is no plain line: read on, or read it by
@@ -147,6 +172,9 @@ class Text : public PixelFile::Store {
     std::vector<char> text_;
     /// How many characters at the start of the text are still to be written.
     std::size_t unwritten_ = 0;
+    LinesAhead ahead_;
+    /// Whether the text was nothing but plain lines so far.
+    bool plain_ = false;
     std::string_view unread_;
     bool atEnd_ = false;
 };

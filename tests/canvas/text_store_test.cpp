@@ -130,6 +130,23 @@ TEST_F(TextFile, ComesBackWithMoreThanAMillionValues)
     EXPECT_EQ(FaultIn([&] { file.Input(); }), FaultKind::InputPastEnd);
 }
 
+TEST_F(TextFile, MayBeLeftAnywhereAndBegunAgain)
+{
+    file.OpenForOutput();
+    for (int i = 0; i < 200000; ++i)
+        file.Write(i);
+    file.Close();
+    for (int turn = 0; turn < 100; ++turn) {
+        for (int i = 0; i < turn * 1000 + 1; ++i)
+            ASSERT_EQ(file.Input(), i);
+        file.Close();
+    }
+    EXPECT_EQ(file.Input(), 0);
+    file.Kill();
+    Write({3});
+    EXPECT_EQ(file.Input(), 3);
+}
+
 // ---- what bears the name but is no file ----
 
 TEST_F(TextFile, IsNotFoundWhenItIsMissing)
