@@ -160,9 +160,9 @@ std::string ManyLines(std::size_t count = 100000)
     return text;
 }
 
-Values ManyValues(std::size_t count = 100000)
+Numbers ManyValues(std::size_t count = 100000)
 {
-    Values values;
+    Numbers values;
     for (std::size_t i = 0; i < count; ++i)
         values.push_back(static_cast<Colour>(i * 151));
     return values;
@@ -173,7 +173,7 @@ TEST_F(ValueText, IsReadByGeneralRulesFromAnyPlaceOn)
 {
     for (const std::size_t before : {1, 5000, 30000, 99999}) {
         const std::string text = ManyLines(before) + "7,8\n\r\n" + ManyLines() + "-5";
-        Values expected = ManyValues(before);
+        Numbers expected = ManyValues(before);
         expected.insert(expected.end(), {7, 8, 0});
         std::ranges::copy(ManyValues(), std::back_inserter(expected));
         expected.push_back(-5);
@@ -208,7 +208,7 @@ TEST_F(ValueText, OfALongTextEndsAtAnyLineEnd)
         std::string text;
         for (int i = 0; i < 100000; ++i)
             text += std::to_string(i) + end;
-        const Values values = ReadAll(text);
+        const Numbers values = ReadAll(text);
         ASSERT_EQ(values.size(), 100000U);
         EXPECT_EQ(values[65432], 65432);
     }
@@ -216,7 +216,7 @@ TEST_F(ValueText, OfALongTextEndsAtAnyLineEnd)
 
 TEST_F(ValueText, CutShortInALongTextGivesWhatIsThere)
 {
-    Values expected = ManyValues();
+    Numbers expected = ManyValues();
     expected.push_back(0);
     for (const char* const last : {"1", "-1", "123456", "12345678", "12345678\r"}) {
         expected.back() = std::stoi(last);
