@@ -68,10 +68,12 @@ void DoubleColumnsOfRow(Work& w, int y)
     }
 }
 
-/// Takes no notice of the rows captured: a row with more values than are taken here shears the rest
-/// of the picture.
-void DoubleBoth(Work& w)
+/// Doubles a region both ways. Repainting takes no notice of the rows captured: a row with more
+/// values than are taken here shears the rest of the picture.
+void DoubleBoth(Work& w, Range rows, Range columns)
 {
+    Capture(w, rows, columns);
+    w.ShowProgress();
     for (int y = 0; y <= w.Alt; y += 2) {
         w.Avanzamento(y);
         for (int x = 0; x <= w.Larg; x += 2) {
@@ -131,42 +133,32 @@ void Destro(Work& w)
 /// "Ingr. Top Sinistro": the top left quarter.
 void Sintop(Work& w)
 {
-    Capture(w, FirstHalf(w.Alt), FirstHalf(w.Larg));
-    w.ShowProgress();
-    DoubleBoth(w);
+    DoubleBoth(w, FirstHalf(w.Alt), FirstHalf(w.Larg));
 }
 
 /// "Ingr. Top Destro": the top right quarter.
 void Destop(Work& w)
 {
-    Capture(w, FirstHalf(w.Alt), SecondHalf(w.Larg));
-    w.ShowProgress();
-    DoubleBoth(w);
+    DoubleBoth(w, FirstHalf(w.Alt), SecondHalf(w.Larg));
 }
 
 /// "Ingr. Bottom Sinistro": the bottom left quarter.
 void Sinbot(Work& w)
 {
-    Capture(w, SecondHalf(w.Alt), FirstHalf(w.Larg));
-    w.ShowProgress();
-    DoubleBoth(w);
+    DoubleBoth(w, SecondHalf(w.Alt), FirstHalf(w.Larg));
 }
 
 /// "Ingr. Bottom Destro": the bottom right quarter.
 void Desbot(Work& w)
 {
-    Capture(w, SecondHalf(w.Alt), SecondHalf(w.Larg));
-    w.ShowProgress();
-    DoubleBoth(w);
+    DoubleBoth(w, SecondHalf(w.Alt), SecondHalf(w.Larg));
 }
 
 /// "Ingr. Centro": the middle, half as wide and high as the picture. Widths that leave 3 when
 /// divided by 4 come out sheared: kept exactly.
 void Incentro(Work& w)
 {
-    Capture(w, Middle(w.Alt), Middle(w.Larg));
-    w.ShowProgress();
-    DoubleBoth(w);
+    DoubleBoth(w, Middle(w.Alt), Middle(w.Larg));
 }
 
 }  // namespace pixano
