@@ -1,4 +1,4 @@
-// Where the tool's pictures lie in memory: on large pages, as far as the system has them, and
+// Where the programs' pictures lie in memory: on large pages, as far as the system has them, and
 // again in the place of the picture before. Having small or fresh pages cleared took more time than
 // most effects. Knows nothing of what the memory is for.
 #include <cstdlib>
