@@ -28,8 +28,9 @@ class Memory : public PixelFile::Store {
     {
         if (reading_ == used_) throw Fault(FaultKind::InputPastEnd);
         Colour* const first = chunks_[reading_].get();
+        Colour* const full = first + Length(reading_);
         ++reading_;
-        Colour* const last = reading_ == used_ ? end_ : first + ChunkLength;
+        Colour* const last = reading_ == used_ ? end_ : full;
         if (first == last) throw Fault(FaultKind::InputPastEnd);
         return {first, last};
     }
@@ -39,16 +40,23 @@ class Memory : public PixelFile::Store {
     void Kill() override { used_ = 0; }
 
   private:
-    /// Chunks never move: growing one long array would copy it and hold it twice meanwhile.
-    static constexpr std::size_t ChunkLength = std::size_t{1} << 18;
+    /// Chunks never move: growing one long array would copy it and hold it twice meanwhile. All but
+    /// the first are so long that they can lie on the system's large pages.
+    static constexpr std::size_t Length(std::size_t chunk)
+    {
+        constexpr std::size_t First = std::size_t{1} << 18;
+        constexpr std::size_t Later = std::size_t{1} << 21;
+        return chunk == 0 ? First : Later;
+    }
 
     Window NextChunk()
     {
         if (used_ == chunks_.size())
-            chunks_.push_back(std::make_unique_for_overwrite<Colour[]>(ChunkLength));
+            chunks_.push_back(std::make_unique_for_overwrite<Colour[]>(Length(used_)));
         Colour* const first = chunks_[used_].get();
+        Colour* const last = first + Length(used_);
         ++used_;
-        return {first, first + ChunkLength};
+        return {first, last};
     }
 
     /// Kept for the next file: memory that the system gives afresh costs more than writing to it.

@@ -62,6 +62,23 @@ TEST_F(ManyPictures, ComeOutAlikeWhateverRunsBesideThem)
     EXPECT_EQ(Bytes("alone.bmp"), Bytes("one/" + Name(7) + ".bmp"));
 }
 
+// Pictures as large as these lie in memory where others lay before.
+TEST_F(ManyPictures, LeaveNothingInThoseThatFollow)
+{
+    const std::vector<std::pair<int, int>> sizes{{1500, 1100}, {1100, 1000}, {1500, 1100},
+                                                 {1600, 1500}, {1100, 1000}, {1500, 1100}};
+    std::filesystem::create_directory(File("results"));
+    std::vector<std::string> twice{"-j", "1", "-e", "Specchio", "-e", "Specchio", "-d", "results"};
+    const auto name = [](std::size_t i) { return "large" + std::to_string(i) + ".bmp"; };
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        SaveBitmap(pixano::test::Varied(sizes[i].first, sizes[i].second), File(name(i)));
+        twice.push_back(name(i));
+    }
+    EXPECT_EQ(Run(twice).status, 0);
+    for (std::size_t i = 0; i < sizes.size(); ++i)
+        EXPECT_TRUE(Bytes("results/" + name(i)) == Bytes(name(i))) << i;
+}
+
 TEST_F(ManyPictures, AreToldInTheirOrder)
 {
     const std::string out = RunInto("results", {"-j", "4"}, false).out;
