@@ -2,6 +2,8 @@
 
 #include <QUrl>
 
+#include <algorithm>
+#include <array>
 #include <string_view>
 
 namespace pixano {
@@ -37,6 +39,15 @@ const char* AnswerWithoutScreen(int argc, const char* const argv[])
         if (argument == "--versione" || argument == "--version") return VersionText;
     }
     return nullptr;
+}
+
+bool ScreenIsMissing(const QStringList& arguments)
+{
+    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(name)) return false;
+    return std::ranges::none_of(
+        std::array{"-platform", "--platform", "-display", "--display"},
+        [&arguments](const char* name) { return arguments.contains(name); });
 }
 
 std::optional<Options> OptionsFrom(const QStringList& arguments)

@@ -19,6 +19,9 @@ extern const char* const UsageText;
 /// The answer to "--aiuto" or "--versione", if one of them stands before a "--"; nullptr otherwise.
 const char* AnswerWithoutScreen(int argc, const char* const argv[]);
 
+/// Whether neither the environment nor an argument names a screen or a platform to show windows on.
+bool ScreenIsMissing(const QStringList& arguments);
+
 /// The options in the arguments, the program's name first; nothing when they cannot be understood.
 /// The picture may be given as a file URL.
 std::optional<Options> OptionsFrom(const QStringList& arguments);

@@ -80,6 +80,12 @@ int RunSession(Session& session, const Options& options)
     return session.ending ? *session.ending : QApplication::exec();
 }
 
+int TellUsage()
+{
+    std::fputs(UsageText, stderr);
+    return 2;
+}
+
 }  // namespace
 
 void PrepareApplication(QApplication& application)
@@ -117,13 +123,19 @@ int StartProgram(int argc, char* argv[])
         std::fputs(answer, stdout);
         return 0;
     }
+    // So does this one: the toolkit would end the program by a signal.
+    if (const QStringList arguments(argv, argv + argc); ScreenIsMissing(arguments)) {
+        if (!OptionsFrom(arguments)) return TellUsage();
+        std::fputs("Pixano: non c'è uno schermo su cui mostrare le finestre (DISPLAY e "
+                   "WAYLAND_DISPLAY sono "
+                   "vuote). Senza finestre lavora pixano-batch.\n",
+                   stderr);
+        return 1;
+    }
     QApplication application(argc, argv);
     PrepareApplication(application);
     const std::optional<Options> options = OptionsFrom(QApplication::arguments());
-    if (!options) {
-        std::fputs(UsageText, stderr);
-        return 2;
-    }
+    if (!options) return TellUsage();
     ScreenDialogs dialogs;
     try {
         Session session(dialogs);

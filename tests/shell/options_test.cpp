@@ -115,12 +115,14 @@ struct Ended {
     std::string err;
 };
 
-Ended Started(const QStringList& arguments, const QString& platform)
+/// Starts it on that platform of the toolkit, or on the usual one, without a screen.
+Ended Started(const QStringList& arguments, const QString& platform = {})
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_QPA_PLATFORM", platform);
-    environment.remove("DISPLAY");
+    for (const char* const name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(name);
+    if (!platform.isEmpty()) environment.insert("QT_QPA_PLATFORM", platform);
     program.setProcessEnvironment(environment);
     program.start(PIXANO, arguments);
     if (!program.waitForFinished()) return {};
@@ -131,10 +133,10 @@ Ended Started(const QStringList& arguments, const QString& platform)
 
 TEST(RealProgram, AnswersWithoutAScreen)
 {
-    const Ended help = Started({"--aiuto"}, "xcb");
+    const Ended help = Started({"--aiuto"});
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.out, UsageText);
-    const Ended version = Started({"--versione"}, "xcb");
+    const Ended version = Started({"--versione"});
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.out, "Pixano 2.3\n");
 }
@@ -144,6 +146,26 @@ TEST(RealProgram, TellsItsUsageAndEndsWithTwoAtAnUnknownOption)
     const Ended ended = Started({"--sbagliata"}, "offscreen");
     EXPECT_EQ(ended.status, 2);
     EXPECT_EQ(ended.out, "");
+    EXPECT_THAT(ended.err, EndsWith(UsageText));
+}
+
+TEST(RealProgram, SaysThatThereIsNoScreen)
+{
+    for (const QStringList& arguments : {QStringList(), QStringList{"a.bmp"}}) {
+        const Ended ended = Started(arguments);
+        EXPECT_EQ(ended.status, 1);
+        EXPECT_THAT(ended.err, HasSubstr("non c'è uno schermo"));
+        EXPECT_THAT(ended.err, HasSubstr("pixano-batch"));
+    }
+    const Ended misunderstood = Started({"--sbagliata"});
+    EXPECT_EQ(misunderstood.status, 2);
+    EXPECT_EQ(misunderstood.err, UsageText);
+}
+
+TEST(RealProgram, LeavesThePlatformToTheToolkitWhereOneIsNamed)
+{
+    const Ended ended = Started({"-platform", "offscreen", "--sbagliata"});
+    EXPECT_EQ(ended.status, 2);
     EXPECT_THAT(ended.err, EndsWith(UsageText));
 }
 
