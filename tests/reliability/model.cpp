@@ -154,7 +154,8 @@ std::optional<FaultKind> Model::RunEffect(const Effect& effect)
 void Model::CloseProgress()
 {
     progressShown = false;
-    ShowPreview();
+    // The window can outlive the picture: there is nothing to show then.
+    if (isOpen) ShowPreview();
     PaletteReady();
 }
 
