@@ -110,6 +110,31 @@ TEST_F(ManyPictures, NeedTheirFolder)
     EXPECT_FALSE(Exists("missing"));
 }
 
+// On a terminal, which "script" stands for: one line that is written over again and again, gone
+// before a result is told.
+TEST_F(Tool, ShowsItsProgressOnATerminal)
+{
+    SaveBitmap(Surface(1400, 1400, 0x123456), File("grande.bmp"));
+    SaveBitmap(Surface(1400, 1400, 0x654321), File("altra.bmp"));
+    std::string command = program + " -j 1";
+    for (int i = 0; i < 30; ++i)
+        command += " -e Vetro=2500";
+    for (const char* const quiet : {"", " --silenzioso"}) {
+        std::filesystem::create_directories(File("fatte"));
+        const Ran ran = RunProgram(
+            {"script", "-qec", command + quiet + " -d fatte grande.bmp altra.bmp", "/dev/null"},
+            Folder());
+        EXPECT_EQ(ran.status, 0);
+        if (*quiet != 0) {
+            EXPECT_EQ(ran.out, "");
+            continue;
+        }
+        EXPECT_THAT(ran.out, HasSubstr("\r\033[K0 figure su 2   Vetro  ("));
+        EXPECT_THAT(ran.out, HasSubstr("%)\r\033[K"));
+        EXPECT_THAT(ran.out, HasSubstr("grande.bmp: Vetro   1400x1400"));
+    }
+}
+
 TEST_F(ManyPictures, OfOneNameAreRefused)
 {
     std::filesystem::create_directory(File("other"));
