@@ -130,7 +130,7 @@ TEST_F(Tool, ShowsItsProgressOnATerminal)
             continue;
         }
         EXPECT_THAT(ran.out, HasSubstr("\r\033[K0 figure su 2   Vetro  ("));
-        EXPECT_THAT(ran.out, HasSubstr("%)\r\033[Kgrande.bmp: Vetro   1400x1400"));
+        EXPECT_THAT(ran.out, HasSubstr("%)\r\033[Kfatte/grande.bmp: Vetro   1400x1400"));
     }
 }
 
