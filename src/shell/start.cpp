@@ -126,9 +126,8 @@ int StartProgram(int argc, char* argv[])
     // So does this one: the toolkit would end the program by a signal.
     if (const QStringList arguments(argv, argv + argc); ScreenIsMissing(arguments)) {
         if (!OptionsFrom(arguments)) return TellUsage();
-        std::fputs("Pixano: non c'è uno schermo su cui mostrare le finestre (DISPLAY e "
-                   "WAYLAND_DISPLAY sono "
-                   "vuote). Senza finestre lavora pixano-batch.\n",
+        std::fputs("Pixano: non c'è uno schermo (DISPLAY e WAYLAND_DISPLAY sono vuote). "
+                   "Senza finestre lavora pixano-batch.\n",
                    stderr);
         return 1;
     }
