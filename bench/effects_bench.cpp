@@ -1,7 +1,7 @@
 // One row for each effect of the catalogue, working file in memory, as a multiple of memcpy of the
 // same canvas.
-#include "canvas/work.h"
 #include "effects/catalogue.h"
+#include "effects/frame.h"
 #include "measure.h"
 
 #include <cstring>
@@ -13,29 +13,19 @@ namespace {
 
 constexpr Strengths ShippedStrengths{0, 1000, 5000, 5000, 5000, 5000};
 
-void Load(Work& w, const Surface& picture)
-{
-    w.Picture1 = picture;
-    w.Larg = picture.Width();
-    w.Alt = picture.Height();
-}
-
 void Run(Work& w, const Effect& effect)
 {
     w.Valori = ShippedStrengths;
-    w.IndValore = static_cast<std::int16_t>(effect.selector);
-    effect.run(w);
-    w.ElabSer.Kill();
+    RunOnCanvas(w, effect);
 }
 
 bool Faults(Work& w, const Effect& effect, const Surface& picture)
 {
-    Load(w, picture);
+    PutOnCanvas(w, picture);
     try {
         Run(w, effect);
         return false;
     } catch (const Fault&) {
-        w.ElabSer.Kill();
         return true;
     }
 }
@@ -69,7 +59,7 @@ void EffectRow(benchmark::State& state, const Effect& effect)
     const auto pixels = static_cast<std::size_t>(picture.Width() * picture.Height());
     std::vector<std::uint32_t> copy(pixels);
     const double seconds = Measure(
-        state, "x_memcpy", [&] { Load(w, picture); },
+        state, "x_memcpy", [&] { PutOnCanvas(w, picture); },
         [&] {
             std::memcpy(copy.data(), picture.Pixels(), pixels * sizeof(std::uint32_t));
             benchmark::ClobberMemory();
@@ -80,7 +70,7 @@ void EffectRow(benchmark::State& state, const Effect& effect)
 }
 
 const bool registered = [] {
-    for (const Effect& effect : Catalogue())
+    for (const Effect& effect : Effects)
         benchmark::RegisterBenchmark(
             ("Effetto/" + std::string(effect.name)).c_str(),
             [&effect](benchmark::State& state) { EffectRow(state, effect); })

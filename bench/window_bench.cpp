@@ -1,18 +1,17 @@
 // The windowed program beside what it cannot do without: plainly writing and reading its files, and
 // bare decoding of a JPEG. No screen is needed. Usage: pixano-window-bench [COLUMNS ROWS]; prints
 // one line for each measurement.
+#include "document/opening.h"
+#include "document/places.h"
 #include "effects/catalogue.h"
 #include "measure.h"
 #include "pictures/picture_files.h"
-#include "shell/click.h"
-#include "shell/effect_frame.h"
+#include "shell/commands.h"
+#include "shell/controls.h"
 #include "shell/events.h"
-#include "shell/menu_table.h"
-#include "shell/opening.h"
-#include "shell/places.h"
+#include "shell/program.h"
 #include "shell/run.h"
-#include "shell/start.h"
-#include "shell/start_end.h"
+#include "shell/start_up.h"
 
 #include <QApplication>
 #include <QDir>
@@ -107,7 +106,7 @@ void Row(const char* name, Compared compared, Measured measured)
 /// The pixel file's text of a capture of the canvas.
 QByteArray PixelText(Session& s)
 {
-    FindEffect("Capovolgi")->run(s.work);
+    Capov(s.work);
     s.work.ElabSer.Close();
     const QByteArray text = ReadPlain(file::Pixels);
     s.work.ElabSer.Kill();
@@ -132,7 +131,7 @@ void RunRows(Session& s, int width, int height)
     Row(
         "click on \"Specchio\" / plain files", [&] { PlainFiles(bitmap, text); },
         [&] {
-            Click(s, FindEffect("Specchio")->entry);
+            Start(s, EffectOf(Specchio));
             QApplication::processEvents();
         });
 }
@@ -146,7 +145,7 @@ int Main(int argc, char* argv[])
     PrepareApplication(application);
     QDir::setCurrent(folder.path());
     NoDialogs dialogs;
-    Session session(dialogs, Timer(1));
+    Session session(dialogs, ProgramControls(), Timer(1));
     ConnectEvents(session);
     session.doc.CartellaAvvio = folder.path();
     RunRows(session, argc == 3 ? std::atoi(argv[1]) : 4000, argc == 3 ? std::atoi(argv[2]) : 3000);

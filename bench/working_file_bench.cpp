@@ -1,7 +1,9 @@
 // The pixel working file on disk and in memory, beside plain writing and reading of the same number
 // of bytes. Works in the current folder.
 #include "canvas/captures.h"
-#include "canvas/value_text.h"
+#include "effects/frame.h"
+#include "files/text_store.h"
+#include "files/value_text.h"
 #include "measure.h"
 
 #include <cstdio>
@@ -66,9 +68,7 @@ void ReadPlain()
 struct Canvas {
     explicit Canvas(std::unique_ptr<PixelFile::Store> store) : w(std::move(store), progress)
     {
-        w.Picture1 = Picture();
-        w.Larg = w.Picture1.Width();
-        w.Alt = w.Picture1.Height();
+        PutOnCanvas(w, Picture());
     }
     ~Canvas()
     {

@@ -1,5 +1,5 @@
 // The windowed program: makes the application and the session, and runs them.
-#include "shell/start.h"
+#include "shell/program.h"
 
 int main(int argc, char* argv[])
 {

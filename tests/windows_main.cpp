@@ -1,5 +1,5 @@
 // The windows' tests run on a platform without a screen, in folders of their own.
-#include "shell/start.h"
+#include "shell/program.h"
 
 #include <QApplication>
 #include <QSettings>

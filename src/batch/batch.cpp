@@ -5,6 +5,7 @@
 #include "batch/plan.h"
 #include "batch/pool.h"
 #include "batch/texts.h"
+#include "files/strengths_file.h"
 
 #include <algorithm>
 #include <cstdio>

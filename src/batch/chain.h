@@ -23,9 +23,6 @@ class ChainProgress : public Progress {
     virtual void Begins(const Effect& /*effect*/) {}
 };
 
-/// Puts the picture on the canvas: `Larg` and `Alt` become its size.
-void PutOnCanvas(Work& w, Surface picture);
-
 /// The canvas caption: the text, three blanks, and the size.
 std::string Caption(std::string_view text, const Work& w);
 

@@ -1,6 +1,7 @@
 #include "batch/picture_job.h"
 
 #include "batch/standard_streams.h"
+#include "effects/frame.h"
 
 #include <filesystem>
 #include <new>

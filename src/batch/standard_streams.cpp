@@ -1,6 +1,6 @@
 #include "batch/standard_streams.h"
 
-#include "pictures/byte_sink.h"
+#include "files/byte_sink.h"
 
 #include <cerrno>
 #include <cstring>

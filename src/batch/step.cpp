@@ -36,7 +36,7 @@ std::string UnknownEffect(std::string_view name)
 {
     std::string text = "Effetto sconosciuto: \"" + std::string(name) + "\"";
     const auto nearest = std::ranges::min(
-        Catalogue(), {}, [name](const Effect& effect) { return Distance(name, effect.name); });
+        Effects, {}, [name](const Effect& effect) { return Distance(name, effect.name); });
     if (Distance(name, nearest.name) <= nearest.name.size() / 3 + 1)
         text += " (forse \"" + std::string(nearest.name) + "\"?)";
     return text + "; --elenco dà tutti i nomi";

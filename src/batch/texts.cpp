@@ -10,7 +10,7 @@ std::string_view FamilyName(Family family)
     switch (family) {
     case Family::Geometry:
         return "Geometria";
-    case Family::Colours:
+    case Family::ColourAndArt:
         return "Colori";
     case Family::Composite:
         return "Composizione";
@@ -54,7 +54,7 @@ viene allora scritto o cambiato per essa), con 2 se il comando è sbagliato.
 std::string EffectList()
 {
     std::string text;
-    for (const Effect& effect : Catalogue()) {
+    for (const Effect& effect : Effects) {
         text.append(effect.name).append("\t").append(FamilyName(effect.family)).append("\t");
         text.append(effect.selector != 0 ? "0-10000" : "").append("\n");
     }

@@ -45,7 +45,7 @@ void CattuVett(Work& w)
 void CattuRiga(Work& w, int y, int columns, int row)
 {
     const int fitting = std::min(columns, Matrix::LastIndex + 1);
-    w.Picture1.Point(y, w.Vettore.Row(row, fitting));
+    w.Picture1.ReadRow(y, w.Vettore.Row(row, fitting));
     // The first column that does not fit is the fault.
     if (fitting < columns) w.Vettore(fitting, row) = Outside;
 }

@@ -1,5 +1,6 @@
 // A pixel working file that needs no disk, for runs without a window.
 #include "canvas/fault.h"
+#include "canvas/large_pages.h"
 #include "canvas/pixel_file.h"
 
 #include <cstddef>
@@ -27,7 +28,7 @@ class Memory : public PixelFile::Store {
     Window Next() override
     {
         if (reading_ == used_) throw Fault(FaultKind::InputPastEnd);
-        Colour* const first = chunks_[reading_].get();
+        Colour* const first = chunks_[reading_].data();
         Colour* const full = first + Length(reading_);
         ++reading_;
         Colour* const last = reading_ == used_ ? end_ : full;
@@ -51,16 +52,15 @@ class Memory : public PixelFile::Store {
 
     Window NextChunk()
     {
-        if (used_ == chunks_.size())
-            chunks_.push_back(std::make_unique_for_overwrite<Colour[]>(Length(used_)));
-        Colour* const first = chunks_[used_].get();
+        if (used_ == chunks_.size()) chunks_.emplace_back(Length(used_));
+        Colour* const first = chunks_[used_].data();
         Colour* const last = first + Length(used_);
         ++used_;
         return {first, last};
     }
 
     /// Kept for the next file: memory that the system gives afresh costs more than writing to it.
-    std::vector<std::unique_ptr<Colour[]>> chunks_;
+    std::vector<std::vector<Colour, LargePages<Colour>>> chunks_;
     std::size_t used_ = 0;
     Colour* end_ = nullptr;
     std::size_t reading_ = 0;

@@ -9,7 +9,7 @@ namespace pixano {
 
 void PixelFile::OpenForOutput()
 {
-    Abandon();
+    Forget();
     window_ = store_->Create();
     next_ = window_.first;
     mode_ = Mode::Output;
@@ -36,17 +36,19 @@ void PixelFile::Close()
     if (mode == Mode::Input) store_->Close();
 }
 
-void PixelFile::Abandon()
+void PixelFile::Forget()
 {
     if (std::exchange(mode_, Mode::Closed) != Mode::Closed) store_->Close();
     window_ = {};
     next_ = nullptr;
+    made_ = false;
 }
 
 void PixelFile::Kill()
 {
-    Abandon();
-    if (std::exchange(made_, false)) store_->Kill();
+    const bool made = made_;
+    Forget();
+    if (made) store_->Kill();
 }
 
 void PixelFile::Flush()

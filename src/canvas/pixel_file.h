@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <string>
 
 namespace pixano {
 
@@ -65,15 +64,15 @@ class PixelFile {
     }
     /// Closes the file; what was written is complete afterwards. Throws DiskFull.
     void Close();
-    /// Closes the file and deletes it if it was made since the last call. Throws FileNotFound or
-    /// FileAccess.
+    /// Closes the file and deletes it, if it was made and neither killed nor forgotten since.
+    /// Throws FileNotFound or FileAccess.
     void Kill();
+    /// Closes the file, without completing what was written, and leaves it where it is.
+    void Forget();
 
   private:
     enum class Mode { Closed, Output, Input };
 
-    /// Closes the file without completing what was written: it is replaced or deleted next.
-    void Abandon();
     [[gnu::cold]] void Flush();
     [[gnu::cold]] void Refill();
 
@@ -86,9 +85,5 @@ class PixelFile {
 
 /// Values kept in memory, four bytes each. Nothing appears on disk.
 std::unique_ptr<PixelFile::Store> MemoryStore();
-
-/// Values kept as text in the file `name` (UTF-8; a bare name lies in the current folder): one
-/// signed decimal number a line, each line ended by CR LF.
-std::unique_ptr<PixelFile::Store> TextStore(std::string name);
 
 }  // namespace pixano

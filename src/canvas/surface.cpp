@@ -11,14 +11,14 @@ Surface::Surface(int width, int height, Colour colour)
 {
 }
 
-void Surface::Point(int y, std::span<Colour> colours) const
+void Surface::ReadRow(int y, std::span<Colour> colours) const
 {
     const std::size_t inside = Reached(y, colours.size());
     if (inside > 0) std::ranges::transform(Row(y).first(inside), colours.begin(), ColourOf);
     std::ranges::fill(colours.subspan(inside), Outside);
 }
 
-void Surface::PSet(int y, std::span<const Colour> colours)
+void Surface::PaintRow(int y, std::span<const Colour> colours)
 {
     const std::size_t inside = Reached(y, colours.size());
     if (inside > 0) std::ranges::transform(colours.first(inside), Row(y).begin(), WordOf);

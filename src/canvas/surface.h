@@ -1,6 +1,8 @@
 // The pixels of the canvas: point-read, point-set, clear. Knows no window and no file.
 #pragma once
 
+#include "canvas/large_pages.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -42,7 +44,7 @@ class Surface {
     Colour Point(float x, float y) const { return Point(Nearest(x), Nearest(y)); }
     Colour Point(double x, double y) const = delete;
     /// The colours of row `y` from the left edge on, as many as there is room for.
-    void Point(int y, std::span<Colour> colours) const;
+    void ReadRow(int y, std::span<Colour> colours) const;
 
     /// Paints (x, y) with the low three bytes of `colour` (two's complement, so -1 is white).
     /// A place outside the surface is ignored.
@@ -54,7 +56,7 @@ class Surface {
     void PSet(float x, float y, Colour colour) { PSet(Nearest(x), Nearest(y), colour); }
     void PSet(double x, double y, Colour colour) = delete;
     /// Paints row `y` from the left edge on.
-    void PSet(int y, std::span<const Colour> colours);
+    void PaintRow(int y, std::span<const Colour> colours);
 
     /// Paints everything with `Background`.
     void Cls();
@@ -111,7 +113,7 @@ class Surface {
     /// Wider than a pixel, so that no painted pixel can be mistaken for a side that changed.
     std::size_t width_ = 0;
     std::size_t height_ = 0;
-    std::vector<std::uint32_t> pixels_;
+    std::vector<std::uint32_t, LargePages<std::uint32_t>> pixels_;
 };
 
 }  // namespace pixano

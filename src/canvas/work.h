@@ -13,23 +13,6 @@
 
 namespace pixano {
 
-/// A side of the picture in pixels, used like an int. It is kept wider than a pixel, so that no
-/// painted pixel can be mistaken for a side that changed, and loops need not look it up again.
-class Side {
-  public:
-    // cppcheck-suppress noExplicitConstructor ; assigned like an int
-    Side(int pixels) : pixels_(pixels) {}
-    operator int() const { return static_cast<int>(pixels_); }
-    Side& operator-=(int fewer)
-    {
-        pixels_ -= fewer;
-        return *this;
-    }
-
-  private:
-    std::int64_t pixels_;
-};
-
 /// The canvas and what lives on from one effect to the next beside it.
 class Work {
   public:
@@ -43,8 +26,8 @@ class Work {
     Surface Picture1;
     /// Width and height of the picture in pixels. Some effects make them even for good, while the
     /// surface keeps its size.
-    Side Larg = 0;
-    Side Alt = 0;
+    int Larg = 0;
+    int Alt = 0;
 
     Matrix Vettore;
     Matrix Vettore2;

@@ -1,5 +1,6 @@
 #include "panels/form10.h"
 
+#include "windows/palette_strip.h"
 #include "windows/twips.h"
 #include "windows/window_operation.h"
 
@@ -25,11 +26,9 @@ constexpr int BesideCaption = 6;
 /// How many buttons of each box stand side by side.
 constexpr std::array PerRow{3, 4, 2, 2};
 
-constexpr double TwipsFromRightEdge = 3250;
-
 constexpr int InsideWidth()
 {
-    return static_cast<int>(TwipsFromRightEdge / TwipsPerPixel) - Borders;
+    return static_cast<int>(PaletteStripTwips / TwipsPerPixel) - Borders;
 }
 
 void Apply(const QWidget& palette, const char* name, Switch on)
@@ -84,7 +83,8 @@ void ForgetSizes(QWidget& box)
 
 }  // namespace
 
-Form10::Form10() : boxes_{Frame("Funzioni "), Frame("Riflessi "), Frame("Effetti "), new QWidget}
+Form10::Form10(PaletteTable buttons)
+    : boxes_{Frame("Funzioni "), Frame("Riflessi "), Frame("Effetti "), new QWidget}
 {
     setObjectName("Form10");
     setWindowTitle("Strumenti");
@@ -96,16 +96,11 @@ Form10::Form10() : boxes_{Frame("Funzioni "), Frame("Riflessi "), Frame("Effetti
     layout->setSpacing(Spacing);
     for (QWidget* const box : boxes_)
         layout->addWidget(box);
-    for (const PaletteButton& row : PaletteButtons())
+    for (const PaletteButton& row : buttons)
         BuildButton(row)->setParent(boxes_.at(static_cast<std::size_t>(row.frame)));
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         LayInRows(*boxes_[i], PerRow.at(i), i + 1 < boxes_.size() ? Margin : 0);
     ArrangeFor(screen()->availableGeometry().height());
-}
-
-int Form10::FromRightEdge()
-{
-    return Pixels(TwipsFromRightEdge);
 }
 
 QPushButton* Form10::BuildButton(const PaletteButton& row)
@@ -183,7 +178,7 @@ void Form10::setVisible(bool visible)
     // Closed and shown again it is loaded anew, in its own place.
     if (visible && !isVisible()) {
         ArrangeFor(screen()->availableGeometry().height());
-        move(screen()->size().width() - FromRightEdge(), 0);
+        move(screen()->size().width() - PaletteStrip(), 0);
     }
     QWidget::setVisible(visible);
 }

@@ -2,7 +2,7 @@
 // command.
 #pragma once
 
-#include "panels/palette_table.h"
+#include "panels/palette_button.h"
 
 #include <QPushButton>
 #include <QWidget>
@@ -25,10 +25,8 @@ class Form10 : public QWidget {
     Q_OBJECT
 
   public:
-    Form10();
-
-    /// The palette stands this far from the right edge of the screen, and is no wider.
-    static int FromRightEdge();
+    /// `buttons` outlives the window.
+    explicit Form10(PaletteTable buttons);
 
     void EnableHistory(const HistorySwitches& switches);
     /// The mouse pointer of a program that is at work, or the usual one.

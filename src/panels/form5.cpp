@@ -1,7 +1,7 @@
 #include "panels/form5.h"
 
-#include "panels/centred.h"
 #include "panels/fitted_picture.h"
+#include "windows/centred.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>

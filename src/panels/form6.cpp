@@ -1,7 +1,7 @@
 #include "panels/form6.h"
 
-#include "panels/centred.h"
 #include "panels/fitted_picture.h"
+#include "windows/centred.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>

@@ -1,6 +1,6 @@
 #include "panels/form7.h"
 
-#include "panels/centred.h"
+#include "windows/centred.h"
 #include "windows/free_screen.h"
 
 #include <QFile>

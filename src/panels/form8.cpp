@@ -1,6 +1,6 @@
 #include "panels/form8.h"
 
-#include "panels/centred.h"
+#include "windows/centred.h"
 
 #include <QEvent>
 #include <QGridLayout>

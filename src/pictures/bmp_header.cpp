@@ -1,8 +1,8 @@
 #include "pictures/bmp_header.h"
 
+#include "files/refusal.h"
 #include "pictures/little_endian.h"
 #include "pictures/picture_size.h"
-#include "pictures/refusal.h"
 
 #include <algorithm>
 #include <cstdlib>

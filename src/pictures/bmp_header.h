@@ -1,7 +1,7 @@
 // What the head of a BMP file says: size, kind of pixels, palette, masks. Reads no pixels.
 #pragma once
 
-#include "pictures/byte_source.h"
+#include "files/byte_source.h"
 
 #include <array>
 #include <cstdint>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "canvas/surface.h"
+#include "files/byte_source.h"
 #include "pictures/bmp_header.h"
-#include "pictures/byte_source.h"
 
 namespace pixano {
 

@@ -1,8 +1,8 @@
 // Uncompressed BMP pixels, read in large blocks of whole rows.
+#include "files/refusal.h"
 #include "pictures/bit_channel.h"
 #include "pictures/bmp_pixels.h"
 #include "pictures/little_endian.h"
-#include "pictures/refusal.h"
 
 #include <algorithm>
 #include <functional>

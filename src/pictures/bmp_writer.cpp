@@ -1,8 +1,8 @@
 // BMP files as this program writes them: 24 bits, bottom-up, a 40-byte header.
+#include "files/refusal.h"
+#include "files/system_reason.h"
 #include "pictures/encoders.h"
 #include "pictures/little_endian.h"
-#include "pictures/refusal.h"
-#include "pictures/system_reason.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // One function a format that pictures are read from. Known inside this floor only.
 #pragma once
 
-#include "pictures/byte_source.h"
+#include "files/byte_source.h"
 #include "pictures/picture_files.h"
 
 namespace pixano {

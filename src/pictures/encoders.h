@@ -2,7 +2,7 @@
 #pragma once
 
 #include "canvas/surface.h"
-#include "pictures/byte_sink.h"
+#include "files/byte_sink.h"
 
 namespace pixano {
 

@@ -1,7 +1,7 @@
 // GIF files: the first frame on its screen, read by giflib.
+#include "files/refusal.h"
 #include "pictures/decoders.h"
 #include "pictures/picture_size.h"
-#include "pictures/refusal.h"
 
 #include <algorithm>
 #include <array>

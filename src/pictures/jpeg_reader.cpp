@@ -1,10 +1,10 @@
 // JPEG files, decoded by libjpeg straight into the picture's rows.
+#include "files/refusal.h"
 #include "pictures/decoders.h"
 #include "pictures/exif_orientation.h"
 #include "pictures/jpeg_errors.h"
 #include "pictures/jpeg_source.h"
 #include "pictures/picture_size.h"
-#include "pictures/refusal.h"
 #include "pictures/upright_canvas.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Feeds libjpeg from a source of bytes, and keeps the Exif block that passes by. Knows no pixels.
 #pragma once
 
-#include "pictures/byte_source.h"
+#include "files/byte_source.h"
 
 #include <cstdio>
 #include <vector>

@@ -1,8 +1,8 @@
 // JPEG files as this program writes them: the best quality that still makes small files.
+#include "files/refusal.h"
+#include "files/system_reason.h"
 #include "pictures/encoders.h"
 #include "pictures/jpeg_errors.h"
-#include "pictures/refusal.h"
-#include "pictures/system_reason.h"
 
 #include <bit>
 #include <vector>

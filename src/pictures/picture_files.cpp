@@ -1,11 +1,11 @@
 #include "pictures/picture_files.h"
 
-#include "pictures/atomic_file.h"
+#include "files/atomic_file.h"
+#include "files/refusal.h"
+#include "files/regular_file.h"
+#include "files/system_reason.h"
 #include "pictures/decoders.h"
 #include "pictures/encoders.h"
-#include "pictures/refusal.h"
-#include "pictures/regular_file.h"
-#include "pictures/system_reason.h"
 
 #include <algorithm>
 #include <array>
@@ -115,7 +115,7 @@ void SaveBitmap(const Surface& surface, const std::string& path)
     WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Document);
 }
 
-void WriteBitmap(const Surface& surface, const std::string& path)
+void WriteWorkingBitmap(const Surface& surface, const std::string& path)
 {
     WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Working);
 }

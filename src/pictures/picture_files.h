@@ -2,7 +2,7 @@
 #pragma once
 
 #include "canvas/surface.h"
-#include "pictures/byte_sink.h"
+#include "files/byte_sink.h"
 
 #include <cstddef>
 #include <span>
@@ -48,7 +48,7 @@ void SaveBitmap(const Surface& surface, const std::string& path);
 /// The same bytes for a file that the program writes for itself and deletes when it ends: whatever
 /// has that name is replaced when the new file is complete, links are not followed, only the user
 /// may read it, and nothing waits for the disk. Throws PictureError.
-void WriteBitmap(const Surface& surface, const std::string& path);
+void WriteWorkingBitmap(const Surface& surface, const std::string& path);
 
 enum class PictureFormat { Bmp, Png, Jpeg };
 

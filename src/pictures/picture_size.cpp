@@ -1,6 +1,6 @@
 #include "pictures/picture_size.h"
 
-#include "pictures/refusal.h"
+#include "files/refusal.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 // PNG files as this program writes them: 8 bits a channel, compressed quickly.
+#include "files/refusal.h"
+#include "files/system_reason.h"
 #include "pictures/encoders.h"
 #include "pictures/guarded_calls.h"
-#include "pictures/refusal.h"
-#include "pictures/system_reason.h"
 
 #include <bit>
 #include <cerrno>

@@ -1,21 +1,28 @@
 #include "shell/effect_frame.h"
 
-#include "shell/captions.h"
-#include "shell/history.h"
-#include "shell/places.h"
-#include "shell/recovery.h"
-#include "shell/run.h"
-#include "shell/showing.h"
-#include "shell/working_pictures.h"
+#include "document/canvas_copy.h"
+#include "document/captions.h"
+#include "document/history.h"
+#include "document/places.h"
+#include "document/showing.h"
+#include "document/working_pictures.h"
+#include "effects/catalogue.h"
+#include "effects/frame.h"
+
+#include <algorithm>
+#include <array>
 
 namespace pixano {
 namespace {
 
-void MoveCheckMark(Session& s, int entry)
+/// Effects that no entry starts leave the mark where it is.
+void MoveCheckMark(Session& s, const Effect& effect)
 {
+    const std::optional<int> position = s.form1.PositionOf(effect);
+    if (!position) return;
     if (s.doc.VoceAttiva != 0) s.form1.Check(s.doc.VoceAttiva, false);
-    s.form1.Check(entry - 1, true);
-    s.doc.VoceAttiva = entry - 1;
+    s.form1.Check(*position, true);
+    s.doc.VoceAttiva = *position;
 }
 
 void UnloadProgress(Session& s)
@@ -24,12 +31,20 @@ void UnloadProgress(Session& s)
     Form4_Unload(s);
 }
 
-void Close(Session& s, Closing closing)
+/// The effects that set `Modificato` before the progress window goes: kept exactly. All others set
+/// it last.
+constexpr std::array ModifiedFirst{EffectOf(Sinvert),  EffectOf(Desvert),   EffectOf(Super),
+                                   EffectOf(Infer),    EffectOf(Top),       EffectOf(Bottom),
+                                   EffectOf(Sini),     EffectOf(Destro),    EffectOf(Sintop),
+                                   EffectOf(Destop),   EffectOf(Sinbot),    EffectOf(Desbot),
+                                   EffectOf(Incentro), EffectOf(Multifoto), EffectOf(MiniRnd),
+                                   EffectOf(MixVert),  EffectOf(MixOriz),   EffectOf(MixMultif)};
+
+void Close(Session& s, const Effect& effect)
 {
-    const bool captioned = closing != Closing::ModifiedUnload;
-    if (closing != Closing::UnloadCaptionModified) s.doc.Modificato = 1;
+    if (std::ranges::find(ModifiedFirst, &effect) != ModifiedFirst.end()) s.doc.Modificato = 1;
     UnloadProgress(s);
-    if (captioned) s.form2.setWindowTitle(EffectCaption(s));
+    if (effect.captioned) s.form2.setWindowTitle(EffectCaption(s));
     s.doc.Modificato = 1;
     NoteCanvasCopy(s, file::PreviewCopy);
 }
@@ -39,22 +54,15 @@ void Close(Session& s, Closing closing)
 void RunEffect(Session& s, const Effect& effect)
 {
     Abil(s);
-    if (effect.reseed == Reseed::AfterAbil) s.work.Randomize();
-    if (effect.entry != 0) MoveCheckMark(s, effect.entry);
-    if (effect.reseed == Reseed::BeforeEffect) s.work.Randomize();
-    s.doc.Effetto = NameOf(effect);
-    s.doc.FileUndo = file::Undo;
-    SaveWorkingPicture(s.work.Picture1, s.doc.FileUndo);
-    s.drawing = true;
-    effect.run(s.work);
+    RunOnCanvas(s.work, effect, [&] {
+        MoveCheckMark(s, effect);
+        s.doc.Effetto = NameOf(effect);
+        s.doc.FileUndo = file::Undo;
+        SaveWorkingPicture(s.work.Picture1, s.doc.FileUndo);
+        s.drawing = true;
+    });
     s.drawing = false;
-    s.work.ElabSer.Kill();
-    Close(s, effect.closing);
-}
-
-void RunEffectCommand(Session& s, const Effect& effect)
-{
-    Run(s, NameOf(effect), effect.faultEnds, [&] { RunEffect(s, effect); });
+    Close(s, effect);
 }
 
 QString NameOf(const Effect& effect)

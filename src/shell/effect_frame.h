@@ -1,17 +1,14 @@
 // What surrounds every effect: history, check mark, snapshot, progress window, captions.
 #pragma once
 
-#include "effects/catalogue.h"
-#include "shell/session.h"
+#include "document/session.h"
+#include "effects/effect.h"
 
 namespace pixano {
 
 /// Runs the effect on the canvas as its row says. Throws Fault; the canvas is then half drawn, and
 /// the progress window and the pixel working file are left as they were.
 void RunEffect(Session& s, const Effect& effect);
-
-/// Runs the effect as a command of its own; what a fault in it ends, its row says.
-void RunEffectCommand(Session& s, const Effect& effect);
 
 /// The name that the user knows the effect by.
 QString NameOf(const Effect& effect);

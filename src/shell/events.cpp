@@ -1,14 +1,14 @@
 #include "shell/events.h"
 
-#include "shell/click.h"
+#include "document/canvas_copy.h"
+#include "document/closing.h"
+#include "document/opening.h"
+#include "document/pasting.h"
+#include "document/places.h"
+#include "shell/commands.h"
 #include "shell/effect_frame.h"
-#include "shell/opening.h"
-#include "shell/palette_commands.h"
-#include "shell/pasting.h"
-#include "shell/places.h"
-#include "shell/recovery.h"
 #include "shell/run.h"
-#include "shell/start_end.h"
+#include "shell/shut_down.h"
 
 #include <functional>
 
@@ -33,7 +33,8 @@ void ConnectEvents(Session& s)
     const auto opensDropped = [&s](const QString& path) {
         Run(s, "Apri", FaultEnds::Command, [&] { OpenNamed(s, path); });
     };
-    QObject::connect(&s.form1, &Form1::Clicked, [&s](int index) { Click(s, index); });
+    QObject::connect(&s.form1, &Form1::Clicked,
+                     [&s](const MenuEntry& entry) { Start(s, entry.starts); });
     QObject::connect(&s.form1, &Form1::Dropped, opensDropped);
     QObject::connect(&s.form2, &Form2::Dropped, opensDropped);
     QObject::connect(&s.form1, &Form1::Pasted,
@@ -48,7 +49,7 @@ void ConnectEvents(Session& s)
     s.form2.mayClose = AskingFirst(s, "Chiudi", FaultEnds::Command, Form2_Unload);
     s.form9.mayClose = AskingFirst(s, "Chiudi", FaultEnds::Command, Form9_Unload);
     QObject::connect(&s.form10, &Form10::Pressed,
-                     [&s](const PaletteButton& button) { Press(s, button); });
+                     [&s](const PaletteButton& button) { Start(s, button.starts); });
 }
 
 }  // namespace pixano

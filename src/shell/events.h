@@ -1,7 +1,7 @@
 // Which event of a window starts which command.
 #pragma once
 
-#include "shell/session.h"
+#include "document/session.h"
 
 namespace pixano {
 

@@ -1,82 +1,112 @@
-#include "shell/menu_table.h"
+// The menu tree.
+#include "document/opening.h"
+#include "document/saving.h"
+#include "effects/catalogue.h"
+#include "panels/form5.h"
+#include "panels/form7.h"
+#include "shell/click_handlers.h"
+#include "shell/controls.h"
+#include "shell/shut_down.h"
 
 #include <array>
 
 namespace pixano {
 namespace {
 
+using enum Needs;
+
 constexpr bool Off = true;
+
+void Salva_Click(Session& s)
+{
+    SalvaFile(s);
+}
+
+void Esci_Click(Session& s)
+{
+    Form_Unload(s);
+}
+
+void Inf_Click(Session& /*s*/)
+{
+    Form5().exec();
+}
+
+void Inter_Click(Session& /*s*/)
+{
+    Form7().exec();
+}
 
 // clang-format off
 constexpr auto Entries = std::to_array<MenuEntry>({
-    {"File",       "&File",                  0},         //  1
-    {"Apri",       "&Apri",                  1},         //  2
-    {"Salva",      "&Salva File",            1},         //  3
-    {"Meno",       "-",                      1},         //  4
-    {"Inbot",      "Ingrandimento",          1},         //  5
-    {"Top",        "Top",                    5},         //  6
-    {"Bottom",     "Bottom",                 5},         //  7
-    {"Sini",       "Sinistro",               5},         //  8
-    {"Destro",     "Destro",                 5},         //  9
-    {"Intop",      "Ingrandim. &Top",        1},         // 10
-    {"Sintop",     "Sinistro",              10},         // 11
-    {"Destop",     "Destro",                10},         // 12
-    {"Ingrbot",    "Ingrandim. &Bottom",     1},         // 13
-    {"Sinbot",     "Sinistro",              13},         // 14
-    {"Desbot",     "Destro",                13},         // 15
-    {"Incentro",   "Ingrand. &Centro",       1},         // 16
-    {"Men",        "-",                      1},         // 17
-    {"rifver",     "Riflesso &Verticale",    1},         // 18
-    {"Sinvert",    "Sinistro",              18},         // 19
-    {"Desvert",    "Destro",                18},         // 20
-    {"Rifor",      "Riflesso & Orizzontale", 1},         // 21
-    {"Super",      "Superiore",             21},         // 22
-    {"Infer",      "Inferiore",             21},         // 23
-    {"Dopfoto",    "&Doppia Foto",           1},         // 24
-    {"Vertdop",    "Verticale",             24},         // 25
-    {"Orizdop",    "Orizzontale",           24},         // 26
-    {"Rotaz",      "&Rotazione 90° a...",    1},         // 27
-    {"Sinrot",     "Sinistra",              27},         // 28
-    {"Desrot",     "Destra",                27},         // 29
-    {"Invers",     "I&nversione",            1},         // 30
-    {"Specchio",   "Specchio",              30},         // 31
-    {"Capov",      "Capovolgi",             30},         // 32
-    {"Multifoto",  "&Multifoto",             1},         // 33
-    {"Menon",      "-",                      1},         // 34
-    {"Esci",       "&Esci...",               1},         // 35
-    {"Effetti",    "&Effetti",               0},         // 36
-    {"MiniRnd",    "&Mini Foto Rnd",        36},         // 37
-    {"Mulstep",    "Multi &Step",           36},         // 38
-    {"Vertstep",   "Verticale",             38},         // 39
-    {"Orizstep",   "Orizzontale",           38},         // 40
-    {"MulStepRnd", "Def&ormazione",         36},         // 41
-    {"Distors",    "&Distorsione...",       36},         // 42
-    {"DisUno",     "1",                     42},         // 43
-    {"DisDue",     "2",                     42},         // 44
-    {"Empir",      "&Empireo...",           36},         // 45
-    {"EmpUno",     "1",                     45},         // 46
-    {"EmpDue",     "2",                     45},         // 47
-    {"Fantas",     "&Fantastic...",         36},         // 48
-    {"FantUno",    "1",                     48},         // 49
-    {"FantDue",    "2",                     48},         // 50
-    {"Artistic",   "&Artistico...",         36},         // 51
-    {"ArtUno",     "1",                     51},         // 52
-    {"ArtDue",     "2",                     51},         // 53
-    {"ArTre",      "3",                     51},         // 54
-    {"ArtQuat",    "4",                     51},         // 55
-    {"ArtCinq",    "5",                     51},         // 56
-    {"ArtSei",     "6",                     51},         // 57
-    {"Undo",       "&Annulla",               0, Off},    // 58
-    {"Orig",       "&Originale",             0},         // 59
-    {"Redo",       "&Ripristina",            0, Off},    // 60
-    {"Inf",        "&Inf.",                  0},         // 61
-    {"Inter",      "?",                      0},         // 62
+    {"File",       "&File",                   ""},
+    {"Apri",       "&Apri",                   "File",     Nothing,            Command{"Apri", Apri_Click}, "Ctrl+O"},
+    {"Salva",      "&Salva File",             "File",     Picture,            Command{"Salva File", Salva_Click}, "Ctrl+S"},
+    {"Meno",       "-",                       "File"},
+    {"Inbot",      "Ingrandimento",           "File",     Picture},
+    {"Top",        "Top",                     "Inbot",    Picture,            EffectOf(Top)},
+    {"Bottom",     "Bottom",                  "Inbot",    Picture,            EffectOf(Bottom)},
+    {"Sini",       "Sinistro",                "Inbot",    Picture,            EffectOf(Sini)},
+    {"Destro",     "Destro",                  "Inbot",    Picture,            EffectOf(Destro)},
+    {"Intop",      "Ingrandim. &Top",         "File",     Picture},
+    {"Sintop",     "Sinistro",                "Intop",    Picture,            EffectOf(Sintop)},
+    {"Destop",     "Destro",                  "Intop",    Picture,            EffectOf(Destop)},
+    {"Ingrbot",    "Ingrandim. &Bottom",      "File",     Picture},
+    {"Sinbot",     "Sinistro",                "Ingrbot",  PictureButStaysOn,  EffectOf(Sinbot)},
+    {"Desbot",     "Destro",                  "Ingrbot",  Picture,            EffectOf(Desbot)},
+    {"Incentro",   "Ingrand. &Centro",        "File",     Picture,            EffectOf(Incentro)},
+    {"Men",        "-",                       "File"},
+    {"rifver",     "Riflesso &Verticale",     "File",     Picture},
+    {"Sinvert",    "Sinistro",                "rifver",   Picture,            EffectOf(Sinvert)},
+    {"Desvert",    "Destro",                  "rifver",   Picture,            EffectOf(Desvert)},
+    {"Rifor",      "Riflesso & Orizzontale",  "File",     Picture},
+    {"Super",      "Superiore",               "Rifor",    PictureButStaysOn,  EffectOf(Super)},
+    {"Infer",      "Inferiore",               "Rifor",    PictureButStaysOn,  EffectOf(Infer)},
+    {"Dopfoto",    "&Doppia Foto",            "File",     Picture},
+    {"Vertdop",    "Verticale",               "Dopfoto",  Picture,            EffectOf(Vertdop)},
+    {"Orizdop",    "Orizzontale",             "Dopfoto",  Picture,            EffectOf(Orizdop)},
+    {"Rotaz",      "&Rotazione 90° a...",     "File",     Picture},
+    {"Sinrot",     "Sinistra",                "Rotaz",    Picture},
+    {"Desrot",     "Destra",                  "Rotaz",    Picture},
+    {"Invers",     "I&nversione",             "File",     Picture},
+    {"Specchio",   "Specchio",                "Invers",   Picture,            EffectOf(Specchio)},
+    {"Capov",      "Capovolgi",               "Invers",   Picture,            EffectOf(Capov)},
+    {"Multifoto",  "&Multifoto",              "File",     Picture,            EffectOf(Multifoto)},
+    {"Menon",      "-",                       "File"},
+    {"Esci",       "&Esci...",                "File",     Nothing,            Command{"Esci", Esci_Click, FaultEnds::Program}},
+    {"Effetti",    "&Effetti",                ""},
+    {"MiniRnd",    "&Mini Foto Rnd",          "Effetti",  Picture,            EffectOf(MiniRnd)},
+    {"Mulstep",    "Multi &Step",             "Effetti",  Picture},
+    {"Vertstep",   "Verticale",               "Mulstep",  Picture,            EffectOf(Vertstep)},
+    {"Orizstep",   "Orizzontale",             "Mulstep",  Picture,            EffectOf(Orizstep)},
+    {"MulStepRnd", "Def&ormazione",           "Effetti",  Picture,            EffectOf(MulStepRnd)},
+    {"Distors",    "&Distorsione...",         "Effetti",  Picture},
+    {"DisUno",     "1",                       "Distors",  Picture,            EffectOf(DisUno)},
+    {"DisDue",     "2",                       "Distors",  Picture,            EffectOf(DisDue)},
+    {"Empir",      "&Empireo...",             "Effetti",  Picture},
+    {"EmpUno",     "1",                       "Empir",    Picture,            EffectOf(EmpUno)},
+    {"EmpDue",     "2",                       "Empir",    Picture,            EffectOf(EmpDue)},
+    {"Fantas",     "&Fantastic...",           "Effetti",  Picture},
+    {"FantUno",    "1",                       "Fantas",   Picture,            EffectOf(FantUno)},
+    {"FantDue",    "2",                       "Fantas",   Picture,            EffectOf(FantDue)},
+    {"Artistic",   "&Artistico...",           "Effetti",  Picture},
+    {"ArtUno",     "1",                       "Artistic", Picture,            EffectOf(ArtUno)},
+    {"ArtDue",     "2",                       "Artistic", Picture,            EffectOf(ArtDue)},
+    {"ArTre",      "3",                       "Artistic", Picture,            EffectOf(ArTre)},
+    {"ArtQuat",    "4",                       "Artistic", Picture,            EffectOf(ArtQuat)},
+    {"ArtCinq",    "5",                       "Artistic", Picture,            EffectOf(ArtCinq)},
+    {"ArtSei",     "6",                       "Artistic", Picture,            EffectOf(ArtSei)},
+    {"Undo",       "&Annulla",                "",         History,            click::Annulla, "Ctrl+Z", Off},
+    {"Orig",       "&Originale",              "",         History,            click::Originale, "Ctrl+0"},
+    {"Redo",       "&Ripristina",             "",         History,            click::Ripristina, "Ctrl+Y", Off},
+    {"Inf",        "&Inf.",                   "",         Nothing,            Command{"Inf.", Inf_Click}},
+    {"Inter",      "?",                       "",         Nothing,            Command{"?", Inter_Click}},
 });
 // clang-format on
 
 }  // namespace
 
-std::span<const MenuEntry> MenuEntries()
+MenuTable MenuEntries()
 {
     return Entries;
 }

@@ -1,7 +1,7 @@
 // The lock that keeps a second instance of the program off the same data folder.
 #pragma once
 
-#include "pictures/descriptor.h"
+#include "files/descriptor.h"
 
 #include <QString>
 

@@ -1,10 +1,10 @@
 #include "shell/run.h"
 
 #include "canvas/fault.h"
+#include "document/canvas_copy.h"
+#include "document/places.h"
+#include "document/working_pictures.h"
 #include "pictures/picture_files.h"
-#include "shell/places.h"
-#include "shell/recovery.h"
-#include "shell/working_pictures.h"
 
 #include <QDateTime>
 
@@ -50,8 +50,8 @@ FaultEnds WhatEnds(const Fault& fault, FaultEnds ends)
 
 }  // namespace
 
-void RunInside(Session& s, const QString& name, FaultEnds ends,
-               const std::function<void()>& command)
+void RunWithinCommand(Session& s, const QString& name, FaultEnds ends,
+                      const std::function<void()>& command)
 {
     try {
         command();
@@ -67,7 +67,7 @@ void Run(Session& s, const QString& name, FaultEnds ends, const std::function<vo
     if (s.busy) return;
     s.busy = true;
     s.drawing = false;
-    RunInside(s, name, ends, command);
+    RunWithinCommand(s, name, ends, command);
     if (s.doc.Modificato == 0) ForgetCanvasCopy();
     s.form2.Picture1().update();
     s.busy = false;

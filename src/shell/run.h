@@ -2,8 +2,8 @@
 // else.
 #pragma once
 
-#include "effects/catalogue.h"
-#include "shell/session.h"
+#include "document/session.h"
+#include "effects/effect.h"
 
 #include <functional>
 
@@ -15,7 +15,7 @@ namespace pixano {
 void Run(Session& s, const QString& name, FaultEnds ends, const std::function<void()>& command);
 
 /// The same for an event inside a command that is running already, as in a window that it shows.
-void RunInside(Session& s, const QString& name, FaultEnds ends,
-               const std::function<void()>& command);
+void RunWithinCommand(Session& s, const QString& name, FaultEnds ends,
+                      const std::function<void()>& command);
 
 }  // namespace pixano

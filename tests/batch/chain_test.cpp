@@ -1,5 +1,7 @@
 #include "batch/chain.h"
 
+#include "effects/frame.h"
+
 #include "support/letters.h"
 
 #include <gmock/gmock.h>
@@ -34,15 +36,10 @@ TEST_F(Chain, WithoutEffectsIsCaptionedByTheFile)
 
 TEST_F(Chain, IsCaptionedByTheLastEffectThatSetsACaption)
 {
-    const Effect first{.name = "Primo", .run = LeaveAlone, .family = Family::Colours};
-    const Effect second{.name = "Secondo",
-                        .run = LeaveAlone,
-                        .family = Family::Colours,
-                        .closing = Closing::ModifiedUnloadCaption};
-    const Effect silent{.name = "Muto",
-                        .run = LeaveAlone,
-                        .family = Family::Colours,
-                        .closing = Closing::ModifiedUnload};
+    const Effect first{.name = "Primo", .run = LeaveAlone, .family = Family::ColourAndArt};
+    const Effect second{.name = "Secondo", .run = LeaveAlone, .family = Family::ColourAndArt};
+    const Effect silent{
+        .name = "Muto", .run = LeaveAlone, .family = Family::ColourAndArt, .captioned = false};
     EXPECT_EQ(Run({{&first, {}}, {&second, {}}}), "Secondo   3x2");
     EXPECT_EQ(Run({{&first, {}}, {&silent, {}}}), "Primo   3x2");
     EXPECT_EQ(Run({{&silent, {}}}), "foto.jpg   3x2");
@@ -51,7 +48,7 @@ TEST_F(Chain, IsCaptionedByTheLastEffectThatSetsACaption)
 TEST_F(Chain, CaptionShowsTheSizeThatTheEffectLeaves)
 {
     const Effect even{
-        .name = "Pari", .run = [](Work& work) { work.Larg = 2; }, .family = Family::Colours};
+        .name = "Pari", .run = [](Work& work) { work.Larg = 2; }, .family = Family::ColourAndArt};
     EXPECT_EQ(Run({{&even, {}}}), "Pari   2x2");
 }
 
@@ -59,10 +56,10 @@ TEST_F(Chain, MatricesLiveOn)
 {
     const Effect fill{.name = "Riempi",
                       .run = [](Work& work) { work.Vettore(3, 4) = 5; },
-                      .family = Family::Colours};
+                      .family = Family::ColourAndArt};
     const Effect paint{.name = "Dipingi",
                        .run = [](Work& work) { work.Picture1.PSet(0, 0, work.Vettore(3, 4)); },
-                       .family = Family::Colours};
+                       .family = Family::ColourAndArt};
     Run({{&fill, {}}, {&paint, {}}});
     EXPECT_EQ(w.Picture1.Point(0, 0), 5);
 }
@@ -76,9 +73,9 @@ TEST_F(Chain, WorkingFileDoesNotOutliveItsEffect)
                                work.ElabSer.Write(1);
                                work.ElabSer.Close();
                            },
-                       .family = Family::Colours};
+                       .family = Family::ColourAndArt};
     const Effect read{
-        .name = "Leggi", .run = [](Work& work) { work.Input(); }, .family = Family::Colours};
+        .name = "Leggi", .run = [](Work& work) { work.Input(); }, .family = Family::ColourAndArt};
     EXPECT_THROW(Run({{&write, {}}, {&read, {}}}), EffectFailed);
 }
 
@@ -87,7 +84,7 @@ TEST_F(Chain, GivesEachEffectItsOwnStrength)
     const Effect paint{
         .name = "Dipingi",
         .run = [](Work& work) { work.Picture1.PSet(0, 0, static_cast<Colour>(work.Strength())); },
-        .family = Family::Colours,
+        .family = Family::ColourAndArt,
         .selector = 3};
     Run({{&paint, 77}});
     EXPECT_EQ(w.Picture1.Point(0, 0), 77);
@@ -110,28 +107,23 @@ Colour FirstDraw(std::uint64_t reading)
 
 TEST_F(Chain, ReseedsWhereTheEffectDoes)
 {
-    const Effect plain{.name = "Senza", .run = PaintDraw, .family = Family::Colours};
+    const Effect plain{.name = "Senza", .run = PaintDraw, .family = Family::ColourAndArt};
     Run({{&plain, {}}});
     EXPECT_EQ(w.Picture1.Point(0, 0), FirstDraw(7));
 
-    const Effect early{
-        .name = "Prima", .run = PaintDraw, .family = Family::Colours, .reseed = Reseed::AfterAbil};
-    Run({{&early, {}}});
-    EXPECT_EQ(w.Picture1.Point(0, 0), FirstDraw(8));
-
-    const Effect late{.name = "Dopo",
-                      .run = PaintDraw,
-                      .family = Family::Colours,
-                      .reseed = Reseed::BeforeEffect};
-    Run({{&late, {}}});
-    EXPECT_EQ(w.Picture1.Point(0, 0), FirstDraw(9));
+    const Effect reseeding{
+        .name = "Con", .run = PaintDraw, .family = Family::ColourAndArt, .reseeds = true};
+    for (const int reading : {8, 9}) {
+        Run({{&reseeding, {}}});
+        EXPECT_EQ(w.Picture1.Point(0, 0), FirstDraw(reading));
+    }
 }
 
 TEST_F(Chain, FaultNamesItsEffect)
 {
     const Effect fail{.name = "Guasto",
                       .run = [](Work&) { throw Fault(FaultKind::DivisionByZero); },
-                      .family = Family::Colours};
+                      .family = Family::ColourAndArt};
     try {
         Run({{&fail, {}}});
         ADD_FAILURE() << "no fault";

@@ -13,8 +13,8 @@ using testing::HasSubstr;
 std::vector<std::string> RandomEffects()
 {
     std::vector<std::string> arguments{"-e", "Specchio"};
-    for (const Effect& effect : Catalogue())
-        if (effect.reseed != Reseed::Never && effect.selector == 0) {
+    for (const Effect& effect : Effects)
+        if (effect.reseeds && effect.selector == 0) {
             arguments.insert(arguments.end(), {"-e", std::string(effect.name)});
             break;
         }
@@ -149,7 +149,7 @@ TEST_F(Tool, ListsEveryEffectWithFamilyAndStrength)
     EXPECT_EQ(ran.status, 0);
     std::istringstream lines(ran.out);
     std::string line;
-    for (const Effect& effect : Catalogue()) {
+    for (const Effect& effect : Effects) {
         ASSERT_TRUE(std::getline(lines, line));
         const std::size_t first = line.find('\t');
         const std::size_t second = line.find('\t', first + 1);

@@ -151,14 +151,14 @@ TEST(Surface, GivesARowAndTheOutsideBehindIt)
     Surface surface(3, 2, 7);
     surface.PSet(0, 1, 5);
     std::vector<Colour> colours(2);
-    surface.Point(1, colours);
+    surface.ReadRow(1, colours);
     EXPECT_EQ(colours, (std::vector<Colour>{5, 7}));
     colours.resize(4);
-    surface.Point(1, colours);
+    surface.ReadRow(1, colours);
     EXPECT_EQ(colours, (std::vector<Colour>{5, 7, 7, -1}));
     for (const int outside : {-1, 2, Largest, Smallest}) {
         colours.assign(2, 0);
-        surface.Point(outside, colours);
+        surface.ReadRow(outside, colours);
         EXPECT_EQ(colours, (std::vector<Colour>{-1, -1}));
     }
 }
@@ -166,14 +166,14 @@ TEST(Surface, GivesARowAndTheOutsideBehindIt)
 TEST(Surface, PaintsARowAsFarAsItReaches)
 {
     Surface surface(3, 2, 7);
-    surface.PSet(1, std::vector<Colour>{1, -1});
-    surface.PSet(0, std::vector<Colour>{1, 2, 0x01000003, 4});
+    surface.PaintRow(1, std::vector<Colour>{1, -1});
+    surface.PaintRow(0, std::vector<Colour>{1, 2, 0x01000003, 4});
     for (const int outside : {-1, 2, Largest, Smallest})
-        surface.PSet(outside, std::vector<Colour>{9});
+        surface.PaintRow(outside, std::vector<Colour>{9});
     std::vector<Colour> colours(3);
-    surface.Point(0, colours);
+    surface.ReadRow(0, colours);
     EXPECT_EQ(colours, (std::vector<Colour>{1, 2, 3}));
-    surface.Point(1, colours);
+    surface.ReadRow(1, colours);
     EXPECT_EQ(colours, (std::vector<Colour>{1, White, 7}));
 }
 
@@ -191,10 +191,10 @@ TEST(Surface, OfNoPixelsIsOutsideEverywhere)
     Surface surface;
     surface.PSet(0, 0, 5);
     surface.Cls();
-    surface.PSet(0, std::vector<Colour>{5});
+    surface.PaintRow(0, std::vector<Colour>{5});
     EXPECT_EQ(surface.Point(0, 0), -1);
     std::vector<Colour> colours(1);
-    surface.Point(0, colours);
+    surface.ReadRow(0, colours);
     EXPECT_EQ(colours[0], -1);
     EXPECT_EQ(surface.Width(), 0);
     EXPECT_EQ(surface.Height(), 0);

@@ -2,7 +2,7 @@
 #include "effects/catalogue.h"
 
 #include "canvas/fault.h"
-#include "effects/geometry/geometry.h"
+#include "files/text_store.h"
 #include "support/effect_run.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +11,8 @@
 #include <array>
 #include <cctype>
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -36,64 +38,119 @@ constexpr std::array<Size, 16> Sizes{{{1, 1},
                                       {8, 1501},
                                       {1500, 1500}}};
 
+/// The effects as their users know them, and the functions that their tests call.
+const std::map<std::string_view, void (*)(Work&)> Functions{
+    {"Capovolgi", Capov},
+    {"Specchio", Specchio},
+    {"Capovolgi a Specchio", CapovSpec},
+    {"Rotazione -90°", RotazMeno},
+    {"Rotazione +90°", RotazPiu},
+    {"Rifl. Vert. Sinistro", Sinvert},
+    {"Rifl. Vert. Destro", Desvert},
+    {"Rifl.o Oriz. Superiore", Super},
+    {"Rifl. Oriz. Inferiore", Infer},
+    {"Doppia Foto Verticale", Vertdop},
+    {"Doppia Foto Orizzontale", Orizdop},
+    {"Ingr. Top", Top},
+    {"Ingr. Bottom", Bottom},
+    {"Ingr. Sinistro", Sini},
+    {"Ingr. Destro", Destro},
+    {"Ingr. Top Sinistro", Sintop},
+    {"Ingr. Top Destro", Destop},
+    {"Ingr. Bottom Sinistro", Sinbot},
+    {"Ingr. Bottom Destro", Desbot},
+    {"Ingr. Centro", Incentro},
+    {"Multifoto", Multifoto},
+    {"Distorsione 1", DisUno},
+    {"Distorsione 2", DisDue},
+    {"Empireo 1", EmpUno},
+    {"Empireo 2", EmpDue},
+    {"Fantastic 1", FantUno},
+    {"Fantastic 2", FantDue},
+    {"Artistico 1", ArtUno},
+    {"Artistico 2", ArtDue},
+    {"Artistico 3", ArTre},
+    {"Artistico 4", ArtQuat},
+    {"Artistico 5", ArtCinq},
+    {"Artistico 6", ArtSei},
+    {"Negativo Artistico", Negativo},
+    {"Colorazione", Colorazione},
+    {"Vetro", Vetro},
+    {"Foto Color Rnd", ColorRnd},
+    {"Forbici", Forbici},
+    {"Mini Foto Rnd", MiniRnd},
+    {"Multi Step Verticale", Vertstep},
+    {"Multi Step Orizzontale", Orizstep},
+    {"MultiFoto Step", MultiFotoStep},
+    {"Deformazione Casuale", MulStepRnd},
+    {"Mix Verticale", MixVert},
+    {"Mix Orizzontale", MixOriz},
+    {"Mix Multifoto", MixMultif},
+};
+
 TEST(Catalogue, FindsEachEffectByItsName)
 {
-    std::set<std::string_view> names;
-    for (const Effect& effect : Catalogue()) {
-        EXPECT_FALSE(effect.name.empty());
-        EXPECT_TRUE(names.insert(effect.name).second) << effect.name;
-        EXPECT_EQ(FindEffect(effect.name), &effect);
-        EXPECT_NE(effect.run, nullptr) << effect.name;
+    EXPECT_EQ(Effects.size(), Functions.size());
+    for (const auto& [name, function] : Functions) {
+        const Effect* const effect = FindEffect(name);
+        ASSERT_NE(effect, nullptr) << name;
+        EXPECT_EQ(effect->run, function) << name;
     }
     EXPECT_EQ(FindEffect("specchio"), nullptr);
     EXPECT_EQ(FindEffect(""), nullptr);
 }
 
-TEST(Catalogue, GivesNoMenuEntryToTwoEffects)
-{
-    constexpr int MenuEntries = 62;
-    std::set<int> entries;
-    for (const Effect& effect : Catalogue()) {
-        if (effect.entry == 0) continue;
-        EXPECT_TRUE(effect.entry >= 1 && effect.entry <= MenuEntries) << effect.name;
-        EXPECT_TRUE(entries.insert(effect.entry).second) << effect.name;
-    }
-    for (int index = -1; index <= MenuEntries + 1; ++index) {
-        const Effect* const started = EffectOfEntry(index);
-        EXPECT_EQ(started != nullptr, entries.contains(index)) << index;
-        EXPECT_TRUE(started == nullptr || started->entry == index) << index;
-    }
-}
-
-TEST(Catalogue, GivesNoStrengthToTwoEffects)
-{
-    std::set<int> selectors;
-    for (const Effect& effect : Catalogue()) {
-        if (effect.selector == 0) continue;
-        EXPECT_TRUE(effect.selector >= 1 && effect.selector <= 5) << effect.name;
-        EXPECT_TRUE(selectors.insert(effect.selector).second) << effect.name;
-    }
-}
-
 TEST(Catalogue, KeepsFamiliesTogether)
 {
-    EXPECT_TRUE(std::ranges::is_sorted(Catalogue(), {}, &Effect::family));
+    EXPECT_TRUE(std::ranges::is_sorted(Effects, {}, &Effect::family));
 }
 
-/// Runs the effect as its frame does: strength chosen, reseeded where its row says so, pixel file
-/// dropped. Gives the run-time error that it ended in, if any.
-std::optional<FaultKind> FaultIn(Work& work, const Effect& effect)
+/// The effects whose row says so.
+template <typename Says>
+std::set<std::string_view> NamesWhere(Says says)
 {
-    work.IndValore = static_cast<std::int16_t>(effect.selector);
+    std::set<std::string_view> names;
+    for (const Effect& effect : Effects)
+        if (std::invoke(says, effect)) names.insert(effect.name);
+    return names;
+}
+
+TEST(Catalogue, EndsTheProgramAtFaultsInTheEightThatPutThePictureTogether)
+{
+    EXPECT_EQ(NamesWhere([](const Effect& e) { return e.faultEnds == FaultEnds::Program; }),
+              (std::set<std::string_view>{"Mini Foto Rnd", "Multi Step Verticale",
+                                          "Multi Step Orizzontale", "MultiFoto Step",
+                                          "Deformazione Casuale", "Mix Verticale",
+                                          "Mix Orizzontale", "Mix Multifoto"}));
+}
+
+TEST(Catalogue, LeavesTheCaptionToOneEffect)
+{
+    EXPECT_EQ(NamesWhere([](const Effect& e) { return !e.captioned; }),
+              (std::set<std::string_view>{"Mini Foto Rnd"}));
+}
+
+/// The run-time error that the effect's frame ended in, if any, at a middling strength.
+std::optional<FaultKind> FaultOf(Work& work, const Effect& effect)
+{
     work.Valori.fill(2500);
-    if (effect.reseed != Reseed::Never) work.Randomize();
-    try {
-        effect.run(work);
-        work.ElabSer.Kill();
-    } catch (const Fault& fault) {
-        return fault.Kind();
+    return FaultIn([&] { RunOnCanvas(work, effect); });
+}
+
+TEST(Catalogue, ChoosesTheStrengthOfEachEffectWhoeverRanBefore)
+{
+    const std::map<std::string_view, int> cells{{"Negativo Artistico", 1},
+                                                {"Colorazione", 2},
+                                                {"Vetro", 3},
+                                                {"Foto Color Rnd", 4},
+                                                {"Forbici", 5}};
+    EXPECT_EQ(NamesWhere(&Effect::selector).size(), cells.size());
+    for (const auto& [name, cell] : cells) {
+        EffectRun run(Varied(30, 20));
+        run.work.IndValore = static_cast<std::int16_t>(cell % 5 + 1);
+        FaultOf(run.work, *FindEffect(name));
+        EXPECT_EQ(run.work.IndValore, cell) << name;
     }
-    return std::nullopt;
 }
 
 /// Told for each effect of the catalogue.
@@ -106,7 +163,7 @@ TEST_P(EveryEffect, KeepsTheSizeOfTheCanvas)
 {
     for (const auto& [width, height] : Sizes) {
         EffectRun run(Varied(width, height));
-        FaultIn(run.work, effect);
+        FaultOf(run.work, effect);
         EXPECT_EQ(run.work.Picture1.Width(), width);
         EXPECT_EQ(run.work.Picture1.Height(), height);
         // Some effects measure it anew, one pixel smaller where that makes it even.
@@ -119,7 +176,7 @@ TEST_P(EveryEffect, TellsGrowingProgressAndShowsItsWindow)
 {
     for (const auto& [width, height] : Sizes) {
         EffectRun run(Varied(width, height));
-        const bool done = !FaultIn(run.work, effect);
+        const bool done = !FaultOf(run.work, effect);
         const std::vector<double>& values = run.progress.values;
         EXPECT_TRUE(std::ranges::is_sorted(values)) << width << "x" << height;
         if (!values.empty()) {
@@ -136,7 +193,7 @@ TEST_P(EveryEffect, EndsInNoRunTimeErrorThatAPictureCannotCause)
                                   FaultKind::DivisionByZero};
     for (const auto& [width, height] : Sizes) {
         EffectRun run(Varied(width, height));
-        const std::optional<FaultKind> fault = FaultIn(run.work, effect);
+        const std::optional<FaultKind> fault = FaultOf(run.work, effect);
         EXPECT_TRUE(!fault || std::ranges::count(Possible, *fault) == 1) << width << "x" << height;
     }
 }
@@ -146,7 +203,7 @@ TEST_P(EveryEffect, WorksOnOrdinaryPictures)
 {
     for (const auto& [width, height] : {Size{99, 99}, Size{101, 81}, Size{120, 90}}) {
         EffectRun run(Varied(width, height));
-        EXPECT_EQ(FaultIn(run.work, effect), std::nullopt) << width << "x" << height;
+        EXPECT_EQ(FaultOf(run.work, effect), std::nullopt) << width << "x" << height;
     }
 }
 
@@ -155,9 +212,37 @@ TEST_P(EveryEffect, PaintsTheSameFromTheSameSeed)
     for (const auto& [width, height] : Sizes) {
         EffectRun first(Varied(width, height), 77);
         EffectRun second(Varied(width, height), 77);
-        EXPECT_EQ(FaultIn(first.work, effect), FaultIn(second.work, effect));
+        EXPECT_EQ(FaultOf(first.work, effect), FaultOf(second.work, effect));
         EXPECT_TRUE(first.work.Picture1 == second.work.Picture1) << width << "x" << height;
     }
+}
+
+// All that draw reseed first, but for one, which goes on with the numbers as they are.
+TEST_P(EveryEffect, PaintsTheSameWhateverNumbersWereDrawnBefore)
+{
+    if (effect.name == "Forbici") return;
+    EffectRun first(Varied(99, 99), 77);
+    EffectRun second(Varied(99, 99), 77);
+    second.work.Rnd();
+    FaultOf(first.work, effect);
+    FaultOf(second.work, effect);
+    EXPECT_TRUE(first.work.Picture1 == second.work.Picture1);
+}
+
+TEST_P(EveryEffect, PaintsAnewOnlyWhereChanceDecides)
+{
+    static const std::set<std::string_view> byChance{
+        "Distorsione 1", "Distorsione 2", "Foto Color Rnd",
+        "Forbici",       "Mini Foto Rnd", "Deformazione Casuale",
+    };
+    EffectRun run(Varied(99, 99), 77);
+    run.work.Vettore = Matrix();
+    FaultOf(run.work, effect);
+    const Surface first = run.work.Picture1;
+    run.work.Vettore = Matrix();
+    run.Load(Varied(99, 99));
+    FaultOf(run.work, effect);
+    EXPECT_EQ(run.work.Picture1 != first, byChance.contains(effect.name));
 }
 
 // Whether it ended well or in a run-time error, which may leave its pixel file half read.
@@ -166,7 +251,7 @@ TEST_P(EveryEffect, LeavesTheNextEffectAlone)
     const Surface next = Varied(6, 4);
     for (const auto& [width, height] : Sizes) {
         EffectRun run(Varied(width, height));
-        FaultIn(run.work, effect);
+        FaultOf(run.work, effect);
         run.Load(next);
         EXPECT_EQ(run.Apply(Specchio).work.Picture1, EffectRun(next).Apply(Specchio).work.Picture1)
             << width << "x" << height;
@@ -177,16 +262,14 @@ TEST_P(EveryEffect, PaintsFromAFileOnDiskAsFromMemoryAndLeavesNoFile)
 {
     // A name of its own: tests run side by side.
     const std::filesystem::path file =
-        testing::TempDir() + "pixano-" + std::to_string(&effect - Catalogue().data()) + ".ser";
+        testing::TempDir() + "pixano-" + std::to_string(&effect - Effects.data()) + ".ser";
     for (const auto& [width, height] : {Size{47, 39}, Size{60, 50}}) {
         EffectRun memory(Varied(width, height));
-        FaultIn(memory.work, effect);
+        FaultOf(memory.work, effect);
         Progress progress;
         Work disk(TextStore(file.string()), progress, Timer(1));
-        disk.Picture1 = Varied(width, height);
-        disk.Larg = width;
-        disk.Alt = height;
-        FaultIn(disk, effect);
+        PutOnCanvas(disk, Varied(width, height));
+        FaultOf(disk, effect);
         EXPECT_EQ(disk.Picture1, memory.work.Picture1) << width << "x" << height;
         EXPECT_FALSE(std::filesystem::exists(file)) << width << "x" << height;
     }
@@ -203,7 +286,7 @@ std::string NameOf(const testing::TestParamInfo<const Effect*>& info)
 std::vector<const Effect*> WholeCatalogue()
 {
     std::vector<const Effect*> effects;
-    for (const Effect& effect : Catalogue())
+    for (const Effect& effect : Effects)
         effects.push_back(&effect);
     return effects;
 }

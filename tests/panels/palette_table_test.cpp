@@ -1,8 +1,6 @@
-#include "panels/palette_table.h"
-
 #include "panels/expected_buttons.h"
 #include "panels/form10.h"
-#include "shell/menu_table.h"
+#include "shell/controls.h"
 
 #include <QGroupBox>
 
@@ -24,21 +22,9 @@ TEST(PaletteTable, HasTheseButtonsInThisOrder)
         EXPECT_STREQ(PaletteButtons()[i].name, ExpectedButtons[i].name);
 }
 
-TEST(PaletteTable, SaysOneThingThatEveryButtonDoes)
-{
-    for (std::size_t i = 0; i < ExpectedButtons.size(); ++i) {
-        const PaletteButton& row = PaletteButtons()[i];
-        const ExpectedButton& expected = ExpectedButtons[i];
-        EXPECT_EQ(row.entry, expected.entry) << row.name;
-        EXPECT_EQ(row.zoom, expected.zoom) << row.name;
-        const bool ownEffect = expected.entry == 0 && expected.zoom == 0;
-        EXPECT_STREQ(row.effect, ownEffect ? expected.effect : nullptr) << row.name;
-    }
-}
-
 TEST(Palette, ShowsEveryButtonAsItIsTabled)
 {
-    const Form10 palette;
+    const Form10 palette(PaletteButtons());
     EXPECT_EQ(palette.findChildren<QPushButton*>().size(), 28);
     for (const ExpectedButton& expected : ExpectedButtons) {
         const auto* const button = palette.findChild<QPushButton*>(expected.name);
@@ -51,7 +37,7 @@ TEST(Palette, ShowsEveryButtonAsItIsTabled)
 
 TEST(Palette, ShowsPicturesOnTheButtonsWithoutCaption)
 {
-    const Form10 palette;
+    const Form10 palette(PaletteButtons());
     QList<QByteArray> shown;
     for (const char* name : {"SSCommand9", "SSCommand10", "Command1", "Command2"}) {
         const auto* const button = palette.findChild<QPushButton*>(name);
@@ -68,7 +54,7 @@ TEST(Palette, ShowsPicturesOnTheButtonsWithoutCaption)
 
 TEST(Palette, WritesItsSymbolsInTheirFont)
 {
-    const Form10 palette;
+    const Form10 palette(PaletteButtons());
     for (const ExpectedButton& expected : ExpectedButtons) {
         const QFont font = palette.findChild<QPushButton*>(expected.name)->font();
         const bool symbol = std::string(expected.frame) == "Riflessi ";
@@ -78,7 +64,7 @@ TEST(Palette, WritesItsSymbolsInTheirFont)
 
 TEST(Palette, TellsWhichButtonWasPressed)
 {
-    Form10 palette;
+    Form10 palette(PaletteButtons());
     palette.show();
     std::vector<std::string> told;
     QObject::connect(&palette, &Form10::Pressed,

@@ -22,7 +22,7 @@ class PaletteWindow : public testing::Test {
         return {button->mapTo(&palette, QPoint(0, 0)), button->size()};
     }
 
-    Form10 palette;
+    Form10 palette{PaletteButtons()};
 };
 
 /// 3250 twips are 216.7 pixels.
@@ -97,7 +97,7 @@ TEST_F(PaletteWindow, MakesRoomForLargeLetters)
     QFont large = usual;
     large.setPointSizeF(2 * QFontInfo(usual).pointSizeF());
     QApplication::setFont(large);
-    Form10 other;
+    Form10 other(PaletteButtons());
     other.show();
     EXPECT_EQ(other.width(), palette.width());
     for (const QPushButton* const button : other.findChildren<QPushButton*>())

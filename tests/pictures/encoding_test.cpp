@@ -1,6 +1,6 @@
 // The formats that pictures are written in, by the name's extension or to any sink.
+#include "files/descriptor.h"
 #include "pictures/byte_files.h"
-#include "pictures/descriptor.h"
 #include "pictures/jpeg_maker.h"
 
 #include <gmock/gmock.h>

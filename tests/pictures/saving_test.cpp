@@ -82,7 +82,7 @@ TEST_F(Saving, TheBytesOfABitmap)
 
 TEST_F(Saving, AWorkingFileHasTheSameBytes)
 {
-    WriteBitmap(Small(), path);
+    WriteWorkingBitmap(Small(), path);
     EXPECT_EQ(ReadFile(path), SmallFile);
     EXPECT_EQ(PermissionsOf(path), 0600U);
     EXPECT_THAT(folder.Names(), ElementsAre("figura.bmp"));
@@ -135,7 +135,7 @@ TEST_F(Saving, ANameAsLongAsTheSystemAllows)
     const std::string name = std::string(251, 'n') + ".bmp";
     SaveBitmap(Small(), folder / name);
     EXPECT_EQ(ReadFile(folder / name), SmallFile);
-    WriteBitmap(Small(), folder / name);
+    WriteWorkingBitmap(Small(), folder / name);
     EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / ("n" + name)),
                 HasSubstr("il nome è troppo lungo"));
     EXPECT_THAT(folder.Names(), ElementsAre(name));
@@ -168,12 +168,12 @@ TEST_F(Saving, AWorkingFileReplacesALinkAndAPipe)
 {
     WriteFile(folder / "vera.bmp", old);
     ASSERT_EQ(symlink("vera.bmp", path.c_str()), 0);
-    WriteBitmap(Small(), path);
+    WriteWorkingBitmap(Small(), path);
     EXPECT_FALSE(fs::is_symlink(path));
     EXPECT_EQ(ReadFile(path), SmallFile);
     EXPECT_EQ(ReadFile(folder / "vera.bmp"), old);
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-    WriteBitmap(Small(), folder / "pipe");
+    WriteWorkingBitmap(Small(), folder / "pipe");
     EXPECT_EQ(ReadFile(folder / "pipe"), SmallFile);
 }
 
@@ -181,7 +181,7 @@ TEST_F(Saving, OntoWhatIsNoFile)
 {
     fs::create_directory(path);
     EXPECT_THAT(RefusalOf(SaveBitmap, Small(), path), HasSubstr("è una cartella"));
-    EXPECT_THAT(RefusalOf(WriteBitmap, Small(), path), HasSubstr("è una cartella"));
+    EXPECT_THAT(RefusalOf(WriteWorkingBitmap, Small(), path), HasSubstr("è una cartella"));
     EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder.Path() + "/"), HasSubstr("manca il nome"));
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / "pipe"), HasSubstr("è una pipe"));
@@ -208,7 +208,8 @@ TEST_F(Saving, AFailureOnTheWayKeepsTheOldFile)
     {
         const FileSizeLimit limit(100000);
         EXPECT_THAT(RefusalOf(SaveBitmap, large, path), HasSubstr("supera la grandezza concessa"));
-        EXPECT_THAT(RefusalOf(WriteBitmap, large, path), HasSubstr("supera la grandezza concessa"));
+        EXPECT_THAT(RefusalOf(WriteWorkingBitmap, large, path),
+                    HasSubstr("supera la grandezza concessa"));
         EXPECT_THAT(RefusalOf(SavePicture, Surface(3000, 3000), folder / "nuova.jpg"),
                     HasSubstr("supera la grandezza concessa"));
     }

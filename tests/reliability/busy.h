@@ -20,8 +20,8 @@ class Busy {
   public:
     explicit Busy(const QString& name = "a.bmp")
     {
-        WriteBitmap(OpenedPicture(), Folders::Work(name).toStdString());
-        WriteBitmap(Surface(3, 2, 0xFF), Folders::Work("b.bmp").toStdString());
+        WriteWorkingBitmap(OpenedPicture(), Folders::Work(name).toStdString());
+        WriteWorkingBitmap(Surface(3, 2, 0xFF), Folders::Work("b.bmp").toStdString());
         QFile strengths("valori.tip");
         EXPECT_TRUE(strengths.open(QIODevice::WriteOnly));
         strengths.write("1\r\n2\r\n3\r\n4\r\n5\r\n");

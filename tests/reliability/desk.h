@@ -3,12 +3,14 @@
 #pragma once
 
 #include "pictures/picture_files.h"
-#include "shell/click.h"
+#include "shell/commands.h"
+#include "shell/controls.h"
 #include "shell/effect_frame.h"
 #include "shell/events.h"
-#include "shell/menu_table.h"
 #include "shell/run.h"
-#include "shell/start_end.h"
+#include "shell/shut_down.h"
+#include "shell/start_up.h"
+#include "support/entries.h"
 #include "support/scripted_dialogs.h"
 
 #include <QApplication>
@@ -85,7 +87,7 @@ class Desk {
     const Surface& Canvas() const { return session.work.Picture1; }
 
     ScriptedDialogs dialogs;
-    Session session{dialogs, Timer(1)};
+    Session session{dialogs, ProgramControls(), Timer(1)};
 };
 
 }  // namespace pixano::test

@@ -56,7 +56,7 @@ class ForeignFolder : public testing::Test {
     ForeignFolder()
     {
         // Large enough for every effect.
-        WriteBitmap(Varied(64, 48), Foreign("figura.bmp"));
+        WriteWorkingBitmap(Varied(64, 48), Foreign("figura.bmp"));
         for (const char* name : {"qt.conf", "qtbase_it.qm", "pixano_it.qm", "recupero.txt",
                                  ".directory", "pixano.lock"})
             Write(Foreign(name), "[Paths]\nPrefix=.\nPlugins=plugins\nTranslations=.\n");

@@ -1,5 +1,7 @@
 #include "reliability/fuzz_memory.h"
 
+#include "canvas/large_pages.h"
+
 #include <atomic>
 #include <cstdint>
 #include <cstdlib>
@@ -51,6 +53,12 @@ void operator delete(void* memory, std::size_t) noexcept
     std::free(memory);
 }
 
+void* AlignedMemory(std::size_t alignment, std::size_t count)
+{
+    void* memory = nullptr;
+    return posix_memalign(&memory, alignment, count) == 0 ? memory : nullptr;
+}
+
 #else
 
 extern "C" {
@@ -63,9 +71,22 @@ void* malloc(std::size_t count)
     return Take(count) ? Filled(__libc_malloc(count), count) : nullptr;
 }
 
+void* __libc_memalign(std::size_t alignment, std::size_t count);
+
 }  // extern "C"
 
+void* AlignedMemory(std::size_t alignment, std::size_t count)
+{
+    return __libc_memalign(alignment, count);
+}
+
 #endif
+
+/// Where long arrays of pixels come from.
+extern "C" void* aligned_alloc(std::size_t alignment, std::size_t count)
+{
+    return Take(count) ? Filled(AlignedMemory(alignment, count), count) : nullptr;
+}
 
 namespace pixano::test {
 
@@ -80,6 +101,9 @@ namespace pixano::test {
 
 MemoryRoom::MemoryRoom(std::size_t bytes)
 {
+    // A block of a length that nobody asks for: those kept for the next picture are freed.
+    constexpr std::size_t Unusual = std::size_t{6} << 20;
+    GiveBackLargePages(TakeLargePages(Unusual), Unusual);
     room = bytes;
 }
 

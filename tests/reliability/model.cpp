@@ -1,11 +1,24 @@
 #include "reliability/model.h"
 
+#include "support/journal_store.h"
+
 #include <QString>
 
 #include <algorithm>
 
 namespace pixano::test {
 namespace {
+
+/// Whether the effect keeps its values in the pixel file: tried on a picture that suits them all.
+bool MakesPixelFile(const Effect& effect)
+{
+    static std::map<const Effect*, bool> known;
+    if (const auto found = known.find(&effect); found != known.end()) return found->second;
+    JournalRun run(Varied(64, 48));
+    run.work.Valori.fill(2500);
+    RunOnCanvas(run.work, effect);
+    return known[&effect] = !run.diary.empty() && run.diary.front() == "create";
+}
 
 constexpr int Salva = 3;
 constexpr int Undo_ = 58;
@@ -102,7 +115,7 @@ void Model::BringBack(const std::string& name, const Surface& picture)
 
 void Model::MoveCheck(const Effect& effect)
 {
-    if (effect.entry != 0) checked = effect.entry;
+    if (const int entry = EntryOf(effect); entry != 0) checked = entry;
 }
 
 void Model::ShowPreview()
@@ -134,20 +147,21 @@ std::optional<FaultKind> Model::RunEffect(const Effect& effect)
     effect_ = effect.name;
     undo_ = Canvas();
     mirror_.work.Valori = strengths;
-    mirror_.work.IndValore = static_cast<std::int16_t>(effect.selector);
     faulted = true;
     try {
         mirror_.Apply(effect);
     } catch (const Fault& fault) {
         progressShown = progressShown || mirror_.progress.shownAfter >= 0;
+        fileLeft = fileLeft || MakesPixelFile(effect);
         return fault.Kind();
     }
+    if (MakesPixelFile(effect)) fileLeft = false;
     faulted = false;
     modified = true;
     progressShown = false;
     ShowPreview();
     PaletteReady();
-    if (effect.closing != Closing::ModifiedUnload) canvasCaption = Sized(effect_);
+    if (effect.captioned) canvasCaption = Sized(effect_);
     return std::nullopt;
 }
 

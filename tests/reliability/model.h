@@ -59,6 +59,8 @@ class Model {
     bool progressShown = false;
     /// The last effect ended in a run-time error, and may have left its pixel working file.
     bool faulted = false;
+    /// A pixel file may lie about that a run-time error left, until the next effect that makes one.
+    bool fileLeft = false;
     bool paletteUndo = true;
     bool paletteOriginal = true;
     bool paletteRedo = true;

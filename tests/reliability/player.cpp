@@ -1,8 +1,7 @@
 #include "reliability/player.h"
 
-#include "panels/palette_table.h"
 #include "pictures/picture_files.h"
-#include "shell/menu_table.h"
+#include "shell/controls.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -58,8 +57,8 @@ void Player::MakePictures()
     int number = 0;
     for (const int height : {Number(1, 4), Number(5, 16), Number(5, 24)}) {
         const int width = Number(std::max(1, height - 3), height + 5);
-        WriteBitmap(RandomPicture(width, height, random_),
-                    Path("figura " + std::to_string(++number) + ".bmp"));
+        WriteWorkingBitmap(RandomPicture(width, height, random_),
+                           Path("figura " + std::to_string(++number) + ".bmp"));
     }
     WriteGarbage(Path("guasta.bmp"));
 }
@@ -169,8 +168,11 @@ void Player::ModelOpened(const std::string& name, bool wasModified)
 
 bool Player::Reachable(int entry) const
 {
-    for (; entry != 0; entry = MenuEntries()[static_cast<std::size_t>(entry - 1)].parent)
-        if (!model.Enabled(entry)) return false;
+    if (!model.Enabled(entry)) return false;
+    const QString parent = MenuEntries()[static_cast<std::size_t>(entry - 1)].parent;
+    for (int above = 1; above < entry; ++above)
+        if (parent == MenuEntries()[static_cast<std::size_t>(above - 1)].name)
+            return Reachable(above);
     return true;
 }
 
@@ -204,14 +206,15 @@ void Player::PlanEffect(const Effect& effect, std::string& text)
 Player::Command Player::MenuEffect()
 {
     std::vector<const Effect*> effects;
-    for (const Effect& effect : Catalogue())
-        if (effect.entry != 0 && Reachable(effect.entry)) effects.push_back(&effect);
+    for (const Effect& effect : Effects)
+        if (const int entry = EntryOf(effect); entry != 0 && Reachable(entry))
+            effects.push_back(&effect);
     if (effects.empty()) return OpenSomething();
     const Effect& effect =
         *effects.at(static_cast<std::size_t>(Number(0, static_cast<int>(effects.size()) - 1)));
     std::string text = std::string(effect.name);
     PlanEffect(effect, text);
-    return Clicked(effect.entry, text);
+    return Clicked(EntryOf(effect), text);
 }
 
 void Player::AnswerSlider(const Effect& effect, std::string& text)
@@ -235,12 +238,10 @@ Player::Command Player::PaletteEffect()
 {
     std::vector<const PaletteButton*> buttons;
     for (const PaletteButton& button : PaletteButtons())
-        if (button.effect != nullptr || EffectOfEntry(button.entry) != nullptr)
-            buttons.push_back(&button);
+        if (EffectIn(button.starts) != nullptr) buttons.push_back(&button);
     const PaletteButton& button =
         *buttons.at(static_cast<std::size_t>(Number(0, static_cast<int>(buttons.size()) - 1)));
-    const Effect& effect =
-        button.effect != nullptr ? *FindEffect(button.effect) : *EffectOfEntry(button.entry);
+    const Effect& effect = *EffectIn(button.starts);
     std::string text = "palette: " + std::string(effect.name);
     if (effect.selector == 0) {
         PlanEffect(effect, text);
@@ -330,7 +331,7 @@ Player::Command Player::SpoilOrMend()
                                                             model.Canvas().Height(), random_));
     return {(spoil ? "spoil " : "mend ") + name, [name, picture = model.files[name]] {
                 if (picture)
-                    WriteBitmap(*picture, name);
+                    WriteWorkingBitmap(*picture, name);
                 else
                     WriteGarbage(name);
             }};

@@ -2,8 +2,8 @@
 // command is worked out on the model first and then given to the program.
 #pragma once
 
+#include "document/session.h"
 #include "reliability/model.h"
-#include "shell/session.h"
 #include "support/scripted_dialogs.h"
 
 #include <functional>

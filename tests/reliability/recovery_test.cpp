@@ -43,7 +43,7 @@ class Recovery : public testing::Test {
         const Busy busy(name);
         unsaved = Checksum(busy.second);
         // The next run finds a picture, so it need not make any.
-        WriteBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
+        WriteWorkingBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
     }
     /// The pictures put aside in the data folder.
     std::set<std::string> Aside() const
@@ -124,7 +124,7 @@ TEST_F(Recovery, BringsAPastedPictureBackAndKeepsItsFileUntilTheEnd)
         emit desk.session.form1.Pasted();
         desk.Apply("Specchio");
         unsaved = Checksum(desk.Canvas());
-        WriteBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
+        WriteWorkingBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
     }
     const auto pasted = [this] { return QDir(folders.Data("")).entryList({"appunti-*"}); };
     EXPECT_EQ(pasted().size(), 1);

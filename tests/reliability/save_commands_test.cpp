@@ -99,7 +99,7 @@ TEST_F(FailingCommand, SaveFile)
         // As after another effect.
         WriteBytes(target.toStdString(), old);
         session.doc.Modificato = 1;
-        session.form1.Enable(entry::Salva, true);
+        session.form1.Enable(control::Salva, true);
     }
 }
 

@@ -196,7 +196,7 @@ TEST_P(FailingSave, WhatMayHaveLostBytesIsNoSave)
         const Result result = Save({.last = LONG_MAX, .only = kind});
         EXPECT_EQ(result.saved, result.failed == 0) << kind;
         // Only working files are not synchronised.
-        EXPECT_TRUE(result.failed > 0 || (kind == Synchronises && way.save == WriteBitmap));
+        EXPECT_TRUE(result.failed > 0 || (kind == Synchronises && way.save == WriteWorkingBitmap));
     }
     EXPECT_FALSE(Save({.only = Closes}).saved);
 }
@@ -251,17 +251,18 @@ TEST_P(FailingSave, TheDiskIsFullAfterSoManyBytes)
     EXPECT_TRUE(Save({.first = LONG_MAX, .last = LONG_MAX, .room = size}).saved);
 }
 
-constexpr Way Ways[] = {{"BitmapReplaced", "figura.bmp", SaveBitmap, File},
-                        {"BitmapNew", "figura.bmp", SaveBitmap, Nothing},
-                        {"BitmapByALink", "figura.bmp", SaveBitmap, Link},
-                        {"PngReplaced", "figura.png", SavePicture, File},
-                        {"JpegReplaced", "figura.jpg", SavePicture, File},
-                        {"JpegNew", "figura.jpg", SavePicture, Nothing},
-                        {"WorkingFileReplaced", "temp.bml", WriteBitmap, File},
-                        {"WorkingFileNew", "temp.bml", WriteBitmap, Nothing},
-                        {"BitmapReplacedOnAnOldFileSystem", "figura.bmp", SaveBitmap, File, true},
-                        {"BitmapNewOnAnOldFileSystem", "figura.bmp", SaveBitmap, Nothing, true},
-                        {"WorkingFileOnAnOldFileSystem", "temp.bml", WriteBitmap, File, true}};
+constexpr Way Ways[] = {
+    {"BitmapReplaced", "figura.bmp", SaveBitmap, File},
+    {"BitmapNew", "figura.bmp", SaveBitmap, Nothing},
+    {"BitmapByALink", "figura.bmp", SaveBitmap, Link},
+    {"PngReplaced", "figura.png", SavePicture, File},
+    {"JpegReplaced", "figura.jpg", SavePicture, File},
+    {"JpegNew", "figura.jpg", SavePicture, Nothing},
+    {"WorkingFileReplaced", "temp.bml", WriteWorkingBitmap, File},
+    {"WorkingFileNew", "temp.bml", WriteWorkingBitmap, Nothing},
+    {"BitmapReplacedOnAnOldFileSystem", "figura.bmp", SaveBitmap, File, true},
+    {"BitmapNewOnAnOldFileSystem", "figura.bmp", SaveBitmap, Nothing, true},
+    {"WorkingFileOnAnOldFileSystem", "temp.bml", WriteWorkingBitmap, File, true}};
 
 INSTANTIATE_TEST_SUITE_P(Save, FailingSave, testing::ValuesIn(Ways),
                          [](const auto& way) { return std::string(way.param.name); });

@@ -47,7 +47,7 @@ void SaveMoreThanThereIsRoomFor(const TemporaryFolder& folder)
     for (const int side : {600, 520}) {
         const Surface large(side, side, 0);
         EXPECT_THAT(SavingTold(SaveBitmap, large, path), HasSubstr("non c'è più spazio sul disco"));
-        EXPECT_THAT(SavingTold(WriteBitmap, large, path), HasSubstr("più spazio sul disco"));
+        EXPECT_THAT(SavingTold(WriteWorkingBitmap, large, path), HasSubstr("più spazio sul disco"));
         EXPECT_EQ(ReadFile(path), before);
         EXPECT_THAT(folder.Names(), ElementsAre("figura.bmp"));
     }
@@ -83,7 +83,7 @@ TEST(FullDisk, KeepsTheOldPicture)
     const std::string path = folder / "figura.bmp";
     const Surface old(300, 300);
     SaveBitmap(old, path);
-    for (const auto save : {SaveBitmap, WriteBitmap}) {
+    for (const auto save : {SaveBitmap, WriteWorkingBitmap}) {
         BeginToFail({.first = LONG_MAX, .last = LONG_MAX, .room = 1'000'000});
         const std::string told = SavingTold(save, Surface(600, 600, 0), path);
         EndFailing();

@@ -54,8 +54,8 @@ class OpenedFile : public Program {
 
 TEST_F(OpenedFile, IsUntouchedByEveryEffectAndEveryStepOfTheHistory)
 {
-    for (const Effect& effect : Catalogue()) {
-        RunEffectCommand(session, effect);
+    for (const Effect& effect : Effects) {
+        RunInFrame(effect);
         ExpectUntouched();
         if (HasFailure()) FAIL() << effect.name;
     }

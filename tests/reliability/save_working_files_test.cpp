@@ -1,6 +1,6 @@
 // Working pictures that were tampered with: told as a fault, never followed, never taken for the
 // program's own; the next one written takes their place.
-#include "shell/working_pictures.h"
+#include "document/working_pictures.h"
 
 #include "canvas/fault.h"
 #include "pictures/byte_files.h"
@@ -47,7 +47,7 @@ class TamperedWith : public testing::TestWithParam<Tampering> {
     {
         SaveBitmap(picture, strange);
         bytes = ReadFile(strange);
-        WriteBitmap(picture, path);
+        WriteWorkingBitmap(picture, path);
         GetParam().tamper(folder, path);
     }
 

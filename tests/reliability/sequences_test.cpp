@@ -41,7 +41,7 @@ class OneSequence {
         const bool answered = desk_.dialogs.answers.empty() && desk_.dialogs.openNames.empty() &&
                               desk_.dialogs.saveNames.empty();
         if (!answered) wrong += "; something was not asked";
-        if (!player_.model.faulted && QFile::exists("elab.ser")) wrong += "; elab.ser is left";
+        if (QFile::exists("elab.ser") && !player_.model.fileLeft) wrong += "; elab.ser is left";
         const bool noted = QFile::exists(folders_.Data("recupero.txt"));
         if (noted && !player_.model.modified) wrong += "; saved work is noted as unsaved";
         return wrong;

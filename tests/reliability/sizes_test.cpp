@@ -29,10 +29,10 @@ class EffectsOnSizes : public testing::Test {
     void TryAll(Size size)
     {
         const Surface original = Varied(size.width, size.height);
-        WriteBitmap(original, snapshot);
+        WriteWorkingBitmap(original, snapshot);
         Work w(MemoryStore(), progress, Timer(7));
         Surface picture = original;
-        for (const Effect& effect : Catalogue()) {
+        for (const Effect& effect : Effects) {
             const bool done = Run(w, effect, picture);
             SCOPED_TRACE(std::string(effect.name) + " on " + std::to_string(size.width) + "x" +
                          std::to_string(size.height) + (done ? "" : ", which failed"));
@@ -76,7 +76,7 @@ TEST_F(EffectsOnSizes, From1To12)
         for (int width = 1; width <= 12; ++width)
             TryAll({width, height});
     Tell();
-    EXPECT_EQ(runs, 144 * static_cast<int>(Catalogue().size()));
+    EXPECT_EQ(runs, 144 * static_cast<int>(Effects.size()));
 }
 
 // The matrices end at 1500.

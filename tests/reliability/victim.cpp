@@ -3,8 +3,8 @@
 // tells on standard output, one line each, so that whoever kills it knows what must not be lost.
 #include "reliability/checksum.h"
 #include "reliability/player.h"
-#include "shell/menu_table.h"
-#include "shell/start.h"
+#include "shell/controls.h"
+#include "shell/program.h"
 
 #include <QApplication>
 #include <QTest>
@@ -137,11 +137,11 @@ int main(int argc, char* argv[])
     PrepareApplication(application);
     const std::uint64_t seed = std::strtoull(argv[1], nullptr, 10);
     test::VictimDialogs dialogs(seed);
-    Session session(dialogs, Timer(1));
+    Session session(dialogs, ProgramControls(), Timer(1));
     test::Victim victim(session, dialogs, seed, std::atoi(argv[2]));
     victim.Live();
     try {
-        const int status = RunAlone(session, {});
+        const int status = RunAsOnlyInstance(session, {});
         test::Report("over");
         return status;
     } catch (const Fault& fault) {

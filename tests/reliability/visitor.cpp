@@ -1,11 +1,11 @@
 // The windowed program visiting a picture that somebody else has made: opens it, tries every
 // command on it but saving, and ends: pixano-visitor PICTURE.
-#include "shell/click.h"
+#include "shell/commands.h"
+#include "shell/controls.h"
 #include "shell/events.h"
-#include "shell/menu_table.h"
-#include "shell/palette_commands.h"
+#include "shell/program.h"
 #include "shell/run.h"
-#include "shell/start.h"
+#include "support/entries.h"
 #include "support/scripted_dialogs.h"
 
 #include <QApplication>
@@ -18,19 +18,24 @@
 namespace pixano::test {
 namespace {
 
+const Starts& StartedBy(int index)
+{
+    return MenuEntries()[static_cast<std::size_t>(index - 1)].starts;
+}
+
 void EverythingButSaving(Session& s)
 {
     for (int index = 1; index <= 60; ++index)
-        if (EffectOfEntry(index) != nullptr) Click(s, index);
+        if (EffectIn(StartedBy(index)) != nullptr) Start(s, StartedBy(index));
     for (const int index : {entry::Undo, entry::Redo, entry::Orig, entry::Redo})
-        Click(s, index);
+        Start(s, StartedBy(index));
     for (const PaletteButton& button : PaletteButtons()) {
         // A slider window that comes up is confirmed.
         QTimer::singleShot(0, [] {
             if (auto* const modal = QApplication::activeModalWidget())
                 modal->findChild<QPushButton*>("Command1")->click();
         });
-        Press(s, button);
+        Start(s, button.starts);
         QCoreApplication::processEvents();
     }
 }
@@ -60,7 +65,7 @@ class Visitor {
         std::cout << (session_.doc.open ? "open" : "not open") << std::endl;
         EverythingButSaving(session_);
         if (session_.doc.Modificato == 1) dialogs_.answers.push_back(false);
-        Click(session_, entry::Esci);
+        Start(session_, StartedBy(entry::Esci));
     }
 
     Session& session_;
@@ -76,12 +81,12 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     PrepareApplication(application);
     test::ScriptedDialogs dialogs;
-    Session session(dialogs, Timer(1));
+    Session session(dialogs, ProgramControls(), Timer(1));
     test::Visitor visitor(session, dialogs);
     visitor.Live();
     Options options;
     options.picture = argv[1];
-    const int status = RunAlone(session, options);
+    const int status = RunAsOnlyInstance(session, options);
     for (const test::ShownBox& box : dialogs.told)
         std::cout << "told " << box.text.toStdString() << std::endl;
     return status;

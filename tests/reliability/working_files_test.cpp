@@ -4,7 +4,7 @@
 #include "reliability/busy.h"
 #include "reliability/hard_times.h"
 #include "reliability/tampering.h"
-#include "shell/palette_commands.h"
+#include "shell/commands.h"
 
 #include <QPushButton>
 #include <QSlider>
@@ -68,7 +68,9 @@ const std::vector<Command>& Commands()
          {"percors.dat"},
          true},
         {"zoom",
-         [](Busy& b) { Press(b.desk.session, PaletteButtons()[PaletteButtons().size() - 2]); },
+         [](Busy& b) {
+             Start(b.desk.session, PaletteButtons()[PaletteButtons().size() - 2].starts);
+         },
          {},
          {"elabor.tmp"}},
         {"slider",

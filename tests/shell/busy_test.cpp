@@ -44,7 +44,7 @@ TEST_F(Busy, IgnoresCommandsStartedInsideAnEffect)
         EXPECT_EQ(session.doc.Effetto, "Spia");
         EXPECT_EQ(session.doc.NumEffetti, 3);
     };
-    RunEffectCommand(session, Spy());
+    RunInFrame(Spy());
     EXPECT_EQ(CanvasCaption(), "Spia   3x1");
     EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
     EXPECT_EQ(session.doc.Zoom, 1);
@@ -71,7 +71,7 @@ TEST_F(Busy, TakesCommandsAgainAfterAFault)
 {
     SpyAction() = [](Work&) { throw Fault(FaultKind::DivisionByZero); };
     dialogs.meanwhile = [&] { TryEverything(); };
-    RunEffectCommand(session, Spy());
+    RunInFrame(Spy());
     dialogs.meanwhile = [] {};
     EXPECT_EQ(dialogs.told.size(), 1U);
     Apply("Specchio");

@@ -1,5 +1,5 @@
 // Pictures dropped onto the windows, and the one named when the program starts.
-#include "shell/opening.h"
+#include "document/opening.h"
 #include "support/program.h"
 
 #include <QDragEnterEvent>

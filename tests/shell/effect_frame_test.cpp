@@ -13,19 +13,19 @@ namespace {
 
 class Frame : public Program {
   protected:
-    Frame() { Open("a.bmp", Drawn({"abc"})); }
+    Frame() : Program(ControlsWithSpy()) { Open("a.bmp", Drawn({"abc"})); }
     ~Frame() override { SpyAction() = nullptr; }
 
-    void RunSpy(const std::function<void(Work&)>& action, Effect spy = Spy())
+    void RunSpy(const std::function<void(Work&)>& action, const Effect& spy = Spy())
     {
         SpyAction() = action;
-        RunEffectCommand(session, spy);
+        RunInFrame(spy);
     }
     /// The entries that carry the check mark, as `Index`.
     std::vector<int> Checked() const
     {
         std::vector<int> indices;
-        for (int index = 1; index <= 62; ++index)
+        for (int index = 1; index <= SpyEntry; ++index)
             if (session.form1.Control(index - 1).isChecked()) indices.push_back(index);
         return indices;
     }
@@ -34,29 +34,26 @@ class Frame : public Program {
 
 TEST_F(Frame, MarksCountsAndSnapsThePictureBeforeTheEffectDraws)
 {
-    Effect spy = Spy();
-    spy.entry = 32;
     bool ran = false;
-    RunSpy(
-        [&](Work& w) {
-            ran = true;
-            EXPECT_EQ(session.doc.NumEffetti, 1);
-            EXPECT_EQ(Checked(), (std::vector<int>{32}));
-            EXPECT_EQ(session.doc.VoceAttiva, 31);
-            EXPECT_EQ(session.doc.Effetto, "Spia");
-            EXPECT_EQ(session.doc.FileUndo, "c:\\temp.bml");
-            EXPECT_EQ(Kept(Data("temp.bml")), (Letters{"abc"}));
-            EXPECT_EQ(session.form10.cursor().shape(), Qt::WaitCursor);
-            EXPECT_TRUE(Enabled(entry::Salva));
-            EXPECT_TRUE(Enabled(entry::Orig));
-            // Not yet: these belong to the end.
-            EXPECT_EQ(session.doc.Modificato, 0);
-            EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
-            EXPECT_FALSE(session.form4.isVisible());
-            EXPECT_FALSE(Exists(Path("elab.ser")));
-            w.Picture1.PSet(0, 0, ColourOf('x'));
-        },
-        spy);
+    SpyAction() = [&](Work& w) {
+        ran = true;
+        EXPECT_EQ(session.doc.NumEffetti, 1);
+        EXPECT_EQ(Checked(), (std::vector<int>{SpyEntry}));
+        EXPECT_EQ(session.doc.VoceAttiva, SpyEntry - 1);
+        EXPECT_EQ(session.doc.Effetto, "Spia");
+        EXPECT_EQ(session.doc.FileUndo, "c:\\temp.bml");
+        EXPECT_EQ(Kept(Data("temp.bml")), (Letters{"abc"}));
+        EXPECT_EQ(session.form10.cursor().shape(), Qt::WaitCursor);
+        EXPECT_TRUE(Enabled(entry::Salva));
+        EXPECT_TRUE(Enabled(entry::Orig));
+        // Not yet: these belong to the end.
+        EXPECT_EQ(session.doc.Modificato, 0);
+        EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
+        EXPECT_FALSE(session.form4.isVisible());
+        EXPECT_FALSE(Exists(Path("elab.ser")));
+        w.Picture1.PSet(0, 0, ColourOf('x'));
+    };
+    ClickEntry(SpyEntry);
     EXPECT_TRUE(ran);
     EXPECT_EQ(CanvasLetters(), (Letters{"xbc"}));
     EXPECT_EQ(PreviewLetters(), (Letters{"xbc"}));
@@ -125,13 +122,12 @@ TEST_F(Frame, StartsTheEffectOfEveryEntryThatHasOne)
 {
     // One picture large enough for all of them.
     Open("b.bmp", Varied(64, 48));
-    for (const Effect& effect : Catalogue()) {
-        if (effect.entry == 0) continue;
-        ClickEntry(effect.entry);
-        EXPECT_EQ(session.doc.Effetto.toStdString(), effect.name);
-        EXPECT_EQ(Checked(), (std::vector<int>{effect.entry})) << effect.name;
-        EXPECT_FALSE(session.form4.isVisible()) << effect.name;
-        EXPECT_FALSE(Exists(Path("elab.ser"))) << effect.name;
+    for (const auto& [index, effect] : EffectEntries) {
+        ClickEntry(index);
+        EXPECT_EQ(session.doc.Effetto, effect);
+        EXPECT_EQ(Checked(), (std::vector<int>{index})) << effect;
+        EXPECT_FALSE(session.form4.isVisible()) << effect;
+        EXPECT_FALSE(Exists(Path("elab.ser"))) << effect;
     }
     EXPECT_TRUE(dialogs.told.empty());
 }
@@ -214,50 +210,69 @@ TEST_F(Frame, EnablesThePalettesUndoOnlyAfterTheSecondEffect)
 
 // ---- the order of the last steps ----
 
-/// Looks at `Modificato` and the canvas caption in the moment when the preview is refreshed: its
-/// copy cannot be written then, and the frame ends there.
-class LastSteps : public Frame {
+/// Looks at `Modificato` in the moment when the progress window goes.
+class LastSteps : public QObject, public Frame, public testing::WithParamInterface<const Effect*> {
   protected:
-    void RunUntilUnload(Closing closing)
+    LastSteps() { session.form4.installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
-        Effect spy = Spy();
-        spy.closing = closing;
-        QDir::current().mkdir("elabor.tmp");
-        RunSpy([](Work& w) { w.ShowProgress(); }, spy);
-        EXPECT_EQ(dialogs.told.size(), 1U);
-        EXPECT_FALSE(session.form4.isVisible());
-        EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
+        if (event->type() == QEvent::Hide) atUnload = session.doc.Modificato;
+        return false;
     }
+
+    int atUnload = -1;
 };
 
-TEST_F(LastSteps, MarkTheChangeAfterTheProgressWindowHasGone)
+TEST_P(LastSteps, MarkTheChangeBeforeOrAfterTheProgressWindowGoes)
 {
-    RunUntilUnload(Closing::UnloadCaptionModified);
-    EXPECT_EQ(session.doc.Modificato, 0);
+    static const std::set<std::string_view> before{"Rifl. Vert. Sinistro",
+                                                   "Rifl. Vert. Destro",
+                                                   "Rifl.o Oriz. Superiore",
+                                                   "Rifl. Oriz. Inferiore",
+                                                   "Ingr. Top",
+                                                   "Ingr. Bottom",
+                                                   "Ingr. Sinistro",
+                                                   "Ingr. Destro",
+                                                   "Ingr. Top Sinistro",
+                                                   "Ingr. Top Destro",
+                                                   "Ingr. Bottom Sinistro",
+                                                   "Ingr. Bottom Destro",
+                                                   "Ingr. Centro",
+                                                   "Multifoto",
+                                                   "Mini Foto Rnd",
+                                                   "Mix Verticale",
+                                                   "Mix Orizzontale",
+                                                   "Mix Multifoto"};
+    const Effect& effect = *GetParam();
+    Open("b.bmp", Varied(64, 48));
+    session.work.Valori.fill(2500);
+    RunInFrame(effect);
+    EXPECT_EQ(atUnload, before.contains(effect.name) ? 1 : 0);
+    EXPECT_EQ(session.doc.Modificato, 1);
+    const std::string caption = effect.name == "Mini Foto Rnd" ? "b.bmp" : std::string(effect.name);
+    EXPECT_EQ(CanvasCaption().toStdString(), caption + "   64x48");
 }
 
-TEST_F(LastSteps, MarkTheChangeFirstWhereTheEffectSaysSo)
-{
-    RunUntilUnload(Closing::ModifiedUnloadCaption);
-    EXPECT_EQ(session.doc.Modificato, 1);
-}
-
-TEST_F(LastSteps, LeaveTheCaptionOutWhereTheEffectSaysSo)
-{
-    Effect spy = Spy();
-    spy.closing = Closing::ModifiedUnload;
-    RunSpy([](Work&) {}, spy);
-    EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
-    EXPECT_EQ(session.doc.Modificato, 1);
-}
+INSTANTIATE_TEST_SUITE_P(Catalogue, LastSteps, testing::ValuesIn([] {
+                             std::vector<const Effect*> effects;
+                             for (const Effect& effect : Effects)
+                                 effects.push_back(&effect);
+                             return effects;
+                         }()));
 
 // ---- random numbers: the timer's first reading, 1, seeded the program ----
 
-class Reseeding : public Frame, public testing::WithParamInterface<Reseed> {
+class Reseeding : public Frame {
   protected:
-    Reseeding() { second_.Randomize(); }
+    Reseeding()
+    {
+        second_.Randomize();
+        reseeding_.reseeds = true;
+    }
     ReferenceRandom first_{1};
     ReferenceRandom second_{1};
+    Effect reseeding_ = Spy();
 };
 
 TEST_F(Reseeding, LeavesTheNumbersAloneWhereTheEffectDoesNotAsk)
@@ -265,30 +280,19 @@ TEST_F(Reseeding, LeavesTheNumbersAloneWhereTheEffectDoesNotAsk)
     RunSpy([&](Work& w) { EXPECT_EQ(w.Rnd(), first_.Rnd()); });
 }
 
-TEST_P(Reseeding, TakesTheNextReadingOnceBeforeTheEffect)
+TEST_F(Reseeding, TakesTheNextReadingOnceBeforeTheEffect)
 {
-    Effect spy = Spy();
-    spy.reseed = GetParam();
-    RunSpy([&](Work& w) { EXPECT_EQ(w.Rnd(), second_.Rnd()); }, spy);
+    RunSpy([&](Work& w) { EXPECT_EQ(w.Rnd(), second_.Rnd()); }, reseeding_);
     second_.Randomize();
-    RunSpy([&](Work& w) { EXPECT_EQ(w.Rnd(), second_.Rnd()); }, spy);
+    RunSpy([&](Work& w) { EXPECT_EQ(w.Rnd(), second_.Rnd()); }, reseeding_);
 }
 
-TEST_P(Reseeding, ComesBeforeTheSnapshot)
+TEST_F(Reseeding, ComesBeforeTheSnapshot)
 {
     QDir().mkpath(Data("temp.bml"));
-    Effect spy = Spy();
-    spy.reseed = GetParam();
-    RunSpy([](Work&) { FAIL() << "there is no snapshot"; }, spy);
+    RunSpy([](Work&) { FAIL() << "there is no snapshot"; }, reseeding_);
     EXPECT_EQ(session.work.Rnd(), second_.Rnd());
 }
-
-INSTANTIATE_TEST_SUITE_P(Places, Reseeding,
-                         testing::Values(Reseed::AfterAbil, Reseed::BeforeEffect),
-                         [](const auto& tested) {
-                             return tested.param == Reseed::AfterAbil ? "AfterAbil"
-                                                                      : "BeforeEffect";
-                         });
 
 }  // namespace
 }  // namespace pixano::test

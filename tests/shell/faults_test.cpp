@@ -28,7 +28,7 @@ class Faults : public Program {
         };
         Effect spy = Spy();
         spy.faultEnds = ends;
-        RunEffectCommand(session, spy);
+        RunInFrame(spy);
     }
     /// The files of unsaved work in the data folder.
     QStringList Conserved() const { return QDir(Data("")).entryList({"lavoro-*.bmp"}); }
@@ -95,7 +95,7 @@ TEST_F(Faults, LetTheUserCloseTheProgressWindowWhichRefreshesThePreview)
     };
     Effect other = Spy();
     other.name = "Altra";
-    RunEffectCommand(session, other);
+    RunInFrame(other);
 }
 
 TEST_F(Faults, ShowNoPreviewWhenTheProgressWindowOutlivesTheDocument)
@@ -207,7 +207,7 @@ TEST_F(Faults, KeepTheCanvasWhenTheProgramEndsBeforeAnEffectDraws)
     QDir().mkpath(Data("temp.bml"));
     Effect spy = Spy();
     spy.faultEnds = FaultEnds::Program;
-    RunEffectCommand(session, spy);
+    RunInFrame(spy);
     ASSERT_EQ(Conserved().size(), 1);
     EXPECT_EQ(Kept(Data(Conserved()[0])), (Letters{"xba", "fed"}));
 }
@@ -219,7 +219,7 @@ TEST_F(Faults, SayThatUnsavedWorkCouldNotBeKept)
     Write(Data("").chopped(1), "un file");
     Effect spy = Spy();
     spy.faultEnds = FaultEnds::Program;
-    RunEffectCommand(session, spy);
+    RunInFrame(spy);
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_THAT(dialogs.told[0].text.toStdString(),
                 testing::HasSubstr("Il lavoro non salvato non è stato conservato: "));

@@ -140,7 +140,6 @@ TEST_F(MenuTree, IsReachedByNameAtTheIndexOfTheEntry)
 {
     EXPECT_EQ(session.form1.Control(entry::Apri - 1).objectName(), "Apri");
     EXPECT_EQ(session.form1.Control(entry::Salva - 1).objectName(), "Salva");
-    EXPECT_EQ(session.form1.Control(entry::Dopfoto - 1).objectName(), "Dopfoto");
     EXPECT_EQ(session.form1.Control(entry::Esci - 1).objectName(), "Esci");
     EXPECT_EQ(session.form1.Control(entry::Undo - 1).objectName(), "Undo");
     EXPECT_EQ(session.form1.Control(entry::Orig - 1).objectName(), "Orig");

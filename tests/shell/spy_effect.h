@@ -1,9 +1,10 @@
 // An effect of a test's own, to look at the program from inside the effect's frame.
 #pragma once
 
-#include "effects/catalogue.h"
+#include "shell/controls.h"
 
 #include <functional>
+#include <vector>
 
 namespace pixano::test {
 
@@ -15,9 +16,23 @@ inline std::function<void(Work&)>& SpyAction()
 }
 
 /// "Spia": runs the action. Fill in what the frame is to do differently.
-inline Effect Spy()
+inline Effect& Spy()
 {
-    return {.name = "Spia", .run = [](Work& w) { SpyAction()(w); }, .family = Family::Geometry};
+    static Effect spy{
+        .name = "Spia", .run = [](Work& w) { SpyAction()(w); }, .family = Family::Geometry};
+    return spy;
 }
+
+/// The program's controls and one entry more, the 63rd, which starts the spy.
+inline Controls ControlsWithSpy()
+{
+    static const std::vector<MenuEntry> menu = [] {
+        std::vector<MenuEntry> entries(MenuEntries().begin(), MenuEntries().end());
+        entries.push_back({"Spia", "Spia", "Effetti", Needs::Picture, &Spy()});
+        return entries;
+    }();
+    return {menu, PaletteButtons()};
+}
+inline constexpr int SpyEntry = 63;
 
 }  // namespace pixano::test

@@ -1,5 +1,5 @@
 // From the start to the menus of a program without a picture, and what opening one switches on.
-#include "shell/enabling.h"
+#include "document/enabling.h"
 #include "support/program.h"
 
 #include <QScreen>
@@ -54,31 +54,24 @@ TEST_F(Program, EnablesEveryEffectAfterOpeningButNothingToSaveOrUndo)
 TEST_F(UnstartedProgram, SwitchesOffByPositionWithTheExceptionsKept)
 {
     for (int index = 1; index <= 62; ++index)
-        session.form1.Enable(index, true);
+        session.form1.Control(index - 1).setEnabled(true);
     Disabil(session);
     EXPECT_EQ(EnabledEntries(session), WithoutPicture);
 }
 
-TEST_F(UnstartedProgram, SwitchesNothingElseOnWhenThereIsNoPicture)
+TEST_F(UnstartedProgram, SwitchesEverythingButTheHistoryOnWithAPicture)
 {
-    for (int index = 1; index <= 62; ++index)
-        session.form1.Enable(index, false);
     Disabil(session);
-    EXPECT_EQ(EnabledEntries(session), (std::vector<int>{35}));
-}
-
-TEST_F(UnstartedProgram, SwitchesOnFromTheFirstSeparatorToTheLastEffect)
-{
-    for (int index = 1; index <= 62; ++index)
-        session.form1.Enable(index, false);
     Abilita(session);
-    EXPECT_EQ(EnabledEntries(session), FromTo(3, 57));
+    std::vector<int> expected = FromTo(1, 57);
+    expected.insert(expected.end(), {61, 62});
+    EXPECT_EQ(EnabledEntries(session), expected);
 }
 
 TEST_F(UnstartedProgram, LeavesTheHistoryAloneWhenSwitchingOn)
 {
     for (int index = 1; index <= 62; ++index)
-        session.form1.Enable(index, true);
+        session.form1.Control(index - 1).setEnabled(true);
     Abilita(session);
     EXPECT_EQ(EnabledEntries(session), FromTo(1, 62));
 }

@@ -1,6 +1,6 @@
 // The whole run of the program, from its options to its end: which picture it opens, in which
 // folder it works, which strengths it takes there.
-#include "shell/start.h"
+#include "shell/program.h"
 #include "support/program.h"
 
 #include <QStandardPaths>
@@ -31,7 +31,7 @@ class Starting : public SessionInFolders {
                 session.form1.close();
             });
         });
-        return RunAlone(session, OptionsFrom(QStringList{"pixano"} + arguments).value());
+        return RunAsOnlyInstance(session, OptionsFrom(QStringList{"pixano"} + arguments).value());
     }
 
   private:

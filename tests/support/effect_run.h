@@ -1,8 +1,8 @@
 // Runs one effect on a small picture, without windows, and keeps what it told about its progress.
 #pragma once
 
-#include "canvas/work.h"
 #include "effects/catalogue.h"
+#include "effects/frame.h"
 #include "support/faults.h"
 #include "support/letters.h"
 
@@ -40,27 +40,20 @@ class EffectRun {
     }
 
     /// Puts another picture on the canvas; matrices and random numbers live on.
-    void Load(Surface picture)
-    {
-        work.Picture1 = std::move(picture);
-        work.Larg = work.Picture1.Width();
-        work.Alt = work.Picture1.Height();
-    }
+    void Load(Surface picture) { PutOnCanvas(work, std::move(picture)); }
 
-    /// Runs the effect as its frame does, down to dropping the pixel working file.
-    EffectRun& Apply(void (*effect)(Work&))
+    /// Runs the loops in a frame that neither reseeds nor chooses a strength.
+    EffectRun& Apply(void (*loops)(Work&))
+    {
+        return Apply({.name = "", .run = loops, .family = Family::Geometry});
+    }
+    /// Runs a row of the catalogue.
+    EffectRun& Apply(const Effect& effect)
     {
         progress.values.clear();
         progress.shownAfter = -1;
-        effect(work);
-        work.ElabSer.Kill();
+        RunOnCanvas(work, effect);
         return *this;
-    }
-    /// Runs a row of the catalogue: reseeds first where its frame does.
-    EffectRun& Apply(const Effect& effect)
-    {
-        if (effect.reseed != Reseed::Never) work.Randomize();
-        return Apply(effect.run);
     }
 
     Letters Result() const { return LettersOf(work.Picture1); }

@@ -61,18 +61,12 @@ class JournalStore : public PixelFile::Store {
 /// Runs one effect and keeps what it captured and a diary of its file and of its progress window.
 class JournalRun {
   public:
-    explicit JournalRun(Surface picture)
-    {
-        work.Larg = picture.Width();
-        work.Alt = picture.Height();
-        work.Picture1 = std::move(picture);
-    }
+    explicit JournalRun(Surface picture) { PutOnCanvas(work, std::move(picture)); }
     explicit JournalRun(const Letters& rows) : JournalRun(Drawn(rows)) {}
 
-    JournalRun& Apply(void (*effect)(Work&))
+    JournalRun& Apply(void (*loops)(Work&))
     {
-        effect(work);
-        work.ElabSer.Kill();
+        RunOnCanvas(work, {.name = "", .run = loops, .family = Family::Geometry});
         return *this;
     }
 

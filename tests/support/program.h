@@ -2,14 +2,15 @@
 #pragma once
 
 #include "pictures/picture_files.h"
-#include "shell/click.h"
+#include "shell/commands.h"
+#include "shell/controls.h"
 #include "shell/effect_frame.h"
 #include "shell/events.h"
-#include "shell/menu_table.h"
-#include "shell/palette_commands.h"
 #include "shell/run.h"
-#include "shell/start_end.h"
+#include "shell/shut_down.h"
+#include "shell/start_up.h"
 #include "support/effect_run.h"
+#include "support/entries.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
 
@@ -45,7 +46,8 @@ struct History {
 /// The session in an empty folder, with an empty data folder; nothing has connected its events yet.
 class SessionInFolders : public testing::Test {
   protected:
-    SessionInFolders() : before_(QDir::currentPath())
+    explicit SessionInFolders(const Controls& controls = ProgramControls())
+        : session(dialogs, controls, Timer(1)), before_(QDir::currentPath())
     {
         ForgetEarlierEnd();
         qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
@@ -113,7 +115,12 @@ class SessionInFolders : public testing::Test {
     {
         const Effect* const row = FindEffect(effect);
         ASSERT_NE(row, nullptr) << effect;
-        RunEffectCommand(session, *row);
+        RunInFrame(*row);
+    }
+    /// Runs the effect as a command, without what its control would ask first.
+    void RunInFrame(const Effect& effect)
+    {
+        pixano::Run(session, NameOf(effect), effect.faultEnds, [&] { RunEffect(session, effect); });
     }
     /// Saves by way of the menu; the dialog answers with that name.
     void SaveAs(const QString& path)
@@ -141,7 +148,7 @@ class SessionInFolders : public testing::Test {
 
     QTemporaryDir folder_;
     ScriptedDialogs dialogs;
-    Session session{dialogs, Timer(1)};
+    Session session;
 
   private:
     /// A program that ended in an earlier test leaves word to every event loop; only a new main
@@ -158,7 +165,11 @@ class SessionInFolders : public testing::Test {
 /// The program as it is before its start.
 class UnstartedProgram : public SessionInFolders {
   protected:
-    UnstartedProgram() { ConnectEvents(session); }
+    explicit UnstartedProgram(const Controls& controls = ProgramControls())
+        : SessionInFolders(controls)
+    {
+        ConnectEvents(session);
+    }
 
     /// Runs the start-up; `closing` is done to the start-up picture's window once it is up.
     void Start(const std::function<void(QWidget&)>& closing)
@@ -171,7 +182,10 @@ class UnstartedProgram : public SessionInFolders {
 /// Starts the program and clicks the start-up picture away.
 class Program : public UnstartedProgram {
   protected:
-    Program() { Start(ClickAway); }
+    explicit Program(const Controls& controls = ProgramControls()) : UnstartedProgram(controls)
+    {
+        Start(ClickAway);
+    }
 };
 
 }  // namespace pixano::test

@@ -1,7 +1,7 @@
 // A user who answers the program's questions as the test has written down.
 #pragma once
 
-#include "shell/dialogs.h"
+#include "windows/dialogs.h"
 
 #include <gtest/gtest.h>
 

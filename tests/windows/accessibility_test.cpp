@@ -232,7 +232,7 @@ TEST_F(Accessibility, EscapeIsAnnullaOrClosesInEveryDialog)
 
 TEST_F(Accessibility, NoTwoEntriesOfAMenuShareALetter)
 {
-    std::set<std::pair<int, QString>> letters;
+    std::set<std::pair<QString, QString>> letters;
     int count = 0;
     for (std::size_t i = 0; i < MenuEntries().size(); ++i) {
         const QKeySequence keys =

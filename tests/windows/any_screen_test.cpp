@@ -5,8 +5,8 @@
 #include "panels/form6.h"
 #include "panels/form7.h"
 #include "panels/form8.h"
-#include "shell/screen_dialogs.h"
 #include "support/program.h"
+#include "windows/screen_dialogs.h"
 
 #include <QFileDialog>
 #include <QHeaderView>

@@ -18,7 +18,7 @@ void MixColumns(Work& w, int y)
 void MixRow(Work& w, int y)
 {
     if (y % 2 == 0) return;
-    w.Picture1.PSet(y, w.Vettore.Row(w.Alt - y, w.Larg + 1));
+    w.Picture1.PaintRow(y, w.Vettore.Row(w.Alt - y, w.Larg + 1));
 }
 
 }  // namespace

@@ -116,7 +116,7 @@ void Paint(Work& w, Matrix& cells)
     w.ShowProgress();
     for (int y = 0; y < w.Alt; ++y) {
         w.Avanzamento(y);
-        w.Picture1.PSet(y, cells.Row(y, w.Larg));
+        w.Picture1.PaintRow(y, cells.Row(y, w.Larg));
     }
 }
 
@@ -130,7 +130,7 @@ void Vertstep(Work& w)
     ColumnPass(
         w,
         [&](int y) {
-            w.Picture1.Point(y, row);
+            w.Picture1.ReadRow(y, row);
             return std::span(row);
         },
         w.Vettore);

@@ -1,0 +1,17 @@
+// A picture that was read comes into the windows: its path is split, canvas and preview are filled.
+#pragma once
+
+#include "document/session.h"
+
+#include <optional>
+
+namespace pixano {
+
+/// Splits the path into `NomeCorto` and `Cartella` and switches "&Salva File" off. With a
+/// `picture`, the one that was read from that path, it is put into canvas and preview first.
+void Estrai(Session& s, const QString& Percorso, std::optional<Surface> picture);
+
+/// Puts a picture that was just read into canvas and preview, and sizes both windows.
+void Carica(Session& s, Surface picture);
+
+}  // namespace pixano

@@ -1,0 +1,116 @@
+#include "document/opening.h"
+
+#include "document/loading.h"
+#include "document/questions.h"
+#include "document/remembered_path.h"
+#include "document/saving.h"
+#include "pictures/picture_files.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace pixano {
+namespace {
+
+enum class Answer { NotAsked, Yes, No };
+
+/// Unsaved changes are marked again unless the opening came to its end.
+class ModifiedUntilOpened {
+  public:
+    explicit ModifiedUntilOpened(Document& doc) : doc_(doc), modified_(doc.Modificato) {}
+    ModifiedUntilOpened(const ModifiedUntilOpened&) = delete;
+    ModifiedUntilOpened& operator=(const ModifiedUntilOpened&) = delete;
+    ~ModifiedUntilOpened()
+    {
+        if (modified_ == 1) doc_.Modificato = 1;
+    }
+    void Done() { modified_ = 0; }
+
+  private:
+    Document& doc_;
+    int modified_;
+};
+
+void OpenAsNew(Session& s, const QString& name, Surface picture)
+{
+    s.doc.NomeFile = name;
+    s.doc.FileAperto = name;
+    s.doc.NomeSalvato.clear();
+    s.doc.Zoom = 1;
+    s.doc.NumEffetti = 0;
+    s.doc.open = true;
+    Estrai(s, name, std::move(picture));
+}
+
+/// What follows once the name is known. Throws PictureError.
+void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpened& modified)
+{
+    if (!QFileInfo::exists(name)) {
+        s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "File " + name + " non trovato!");
+        return;
+    }
+    const bool same = s.doc.open && name == s.doc.FileAperto;
+    if (same && answer == Answer::No) {
+        s.doc.NomeFile.clear();
+        return;
+    }
+    std::optional<PictureRead> read;
+    if (!same) {
+        read = ReadPicture(name.toStdString());
+        if (read->truncated)
+            s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
+                           "Il file " + name + " è incompleto: mancano alcuni pixel.");
+    }
+    if (!s.doc.pasted.contains(name)) RememberPath(s.doc, name);
+    if (!read) {
+        s.doc.NomeFile = name;
+        return;
+    }
+    modified.Done();
+    OpenAsNew(s, name, std::move(read->picture));
+}
+
+/// The whole command; `askName` gives the chosen name, or nothing when the user thinks better of
+/// it.
+template <typename AskName>
+void Open(Session& s, AskName askName)
+{
+    Document& d = s.doc;
+    ModifiedUntilOpened modified(d);
+    Answer answer = Answer::NotAsked;
+    if (d.Modificato == 1) {
+        answer = AskToSave(s, BoxIcon::Question, title::Message) ? Answer::Yes : Answer::No;
+        d.Modificato = 0;
+    }
+    if (answer == Answer::Yes) {
+        const SaveOutcome outcome = SalvaFile(s);
+        if (outcome == SaveOutcome::Failed) return;
+        if (outcome == SaveOutcome::Saved) modified.Done();
+    }
+    const QString remembered = RememberedPath(d).value_or(d.NomeFile);
+    const std::optional<QString> name = askName(remembered);
+    if (!name) return;
+    try {
+        OpenChosen(s, *name, answer, modified);
+    } catch (const PictureError& error) {
+        s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, QString::fromUtf8(error.what()) + '.');
+    }
+    QDir::setCurrent(d.CartellaAvvio);
+}
+
+}  // namespace
+
+void Apri_Click(Session& s)
+{
+    Open(s, [&](const QString& remembered) {
+        const bool chosen = !remembered.isEmpty() && !s.doc.pasted.contains(remembered);
+        return s.dialogs.AskOpenName(chosen ? QFileInfo(remembered).path() : s.doc.firstFolder);
+    });
+}
+
+void OpenNamed(Session& s, const QString& path)
+{
+    Open(s, [&](const QString& /*remembered*/) { return std::optional(path); });
+}
+
+}  // namespace pixano

@@ -1,0 +1,69 @@
+#include "document/pasting.h"
+
+#include "document/opening.h"
+#include "document/places.h"
+#include "document/working_pictures.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QImage>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace pixano {
+namespace {
+
+/// The image as a surface; the background shows where it is transparent.
+Surface SurfaceOf(const QImage& image)
+{
+    constexpr QRgb Shown = 0xFF000000 | static_cast<QRgb>(Background);
+    QImage opaque(image.size(), QImage::Format_RGBX8888);
+    opaque.fill(Shown);
+    QPainter(&opaque).drawImage(0, 0, image);
+    Surface surface(opaque.width(), opaque.height());
+    for (int y = 0; y < opaque.height(); ++y) {
+        const auto* const row = reinterpret_cast<const std::uint32_t*>(opaque.constScanLine(y));
+        std::copy_n(row, opaque.width(), surface.Row(y).begin());
+    }
+    return surface;
+}
+
+QString PastedPrefix()
+{
+    return DataFolder() + "/appunti-";
+}
+
+/// A picture without a file gets one: "Originale" reads it again.
+QString KeptAsFile(Session& s, const QImage& image)
+{
+    const QString stamp = QDateTime::currentDateTime().toString("HHmmss-zzz");
+    QString name = PastedPrefix() + stamp + ".bmp";
+    SaveWorkingPicture(SurfaceOf(image), name);
+    s.doc.pasted.append(name);
+    return name;
+}
+
+}  // namespace
+
+void OpenPasted(Session& s)
+{
+    const QMimeData* const data = QApplication::clipboard()->mimeData();
+    // Some desktops have nothing at all for an empty clipboard.
+    if (data == nullptr) return;
+    const QList<QUrl> urls = data->urls();
+    if (urls.size() == 1 && urls.front().isLocalFile())
+        OpenNamed(s, urls.front().toLocalFile());
+    else if (const auto image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
+        OpenNamed(s, KeptAsFile(s, image));
+}
+
+bool IsPasted(const QString& path)
+{
+    return path.startsWith(PastedPrefix());
+}
+
+}  // namespace pixano

@@ -1,0 +1,132 @@
+#include "document/recovery.h"
+
+#include "canvas/fault.h"
+#include "document/canvas_copy.h"
+#include "document/loading.h"
+#include "document/pasting.h"
+#include "document/places.h"
+#include "document/recovery_note.h"
+#include "document/showing.h"
+#include "pictures/picture_files.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace pixano {
+namespace {
+
+/// A name that nothing bears yet, in that folder.
+QString AsideName(const QString& folder)
+{
+    const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
+    QString name = folder + "/recupero-" + stamp + ".bmp";
+    for (int n = 2; QFileInfo::exists(name); ++n)
+        name = folder + "/recupero-" + stamp + '-' + QString::number(n) + ".bmp";
+    return name;
+}
+
+/// Puts the picture into a file of its own in the data folder; the path. The copy goes only when
+/// the file is complete and the note is gone, so that whenever the program ends one of them is
+/// left, and is either noted or named to the user.
+QString PutAside(const QString& copy, const Surface& picture)
+{
+    try {
+        QString aside = AsideName(DataFolder());
+        SaveBitmap(picture, aside.toStdString());
+        RemoveRecoveryNote();
+        QFile::remove(copy);
+        return aside;
+    } catch (const PictureError&) {
+        // A full disk has no room for a second picture, but it has for a name.
+        const QString beside = AsideName(QFileInfo(copy).path());
+        return QFile::rename(copy, beside) ? beside : copy;
+    }
+}
+
+/// Renames what is left of the working pictures, lest the next effect replace it; says where it is.
+QString KeepRemains(const QString& copy)
+{
+    QStringList kept;
+    for (const QString& path : {copy, NativePath(file::Undo), NativePath(file::Redo)}) {
+        const QFileInfo remains(path);
+        if (!remains.isFile() || remains.isSymLink() || remains.size() == 0) continue;
+        const QString aside = AsideName(DataFolder());
+        if (QFile::rename(path, aside)) kept += aside;
+    }
+    return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n" + kept.join('\n');
+}
+
+void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QString& copy)
+{
+    s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
+                   "L'ultima volta Pixano si è interrotto con modifiche non salvate" + ofPicture +
+                       ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(copy));
+}
+
+/// The noted copy, if it is the picture that was noted. Throws PictureError.
+Surface NotedPicture(const RecoveryNote& note)
+{
+    PictureRead read = ReadWorkingPicture(note.copy.toStdString());
+    const bool noted = !read.truncated && read.picture.Width() == note.width &&
+                       read.picture.Height() == note.height;
+    if (!noted)
+        throw PictureError("Il file «" + note.copy.toStdString() + "» non è più quello di allora");
+    return std::move(read.picture);
+}
+
+void BringBack(Session& s, const RecoveryNote& note, Surface picture)
+{
+    s.doc.NomeFile = note.picture;
+    s.doc.FileAperto = note.picture;
+    s.doc.open = true;
+    s.doc.Zoom = 1;
+    if (IsPasted(note.picture)) s.doc.pasted.append(note.picture);
+    Estrai(s, note.picture, std::move(picture));
+    s.doc.Modificato = 1;
+    s.form1.Enable(control::Salva, true);
+    s.form1.Enable(control::Orig, true);
+    s.form10.EnableHistory(
+        {.annulla = std::nullopt, .originale = true, .ripristina = std::nullopt});
+    Mostra(s);
+    NoteCanvasCopy(s, file::PreviewCopy);
+    // The new copy is complete; the old one, if it lay elsewhere, has done its duty.
+    const QString current = QDir::current().absoluteFilePath(file::PreviewCopy);
+    if (note.copy.endsWith('/' + file::PreviewCopy) && note.copy != current)
+        QFile::remove(note.copy);
+}
+
+void Offer(Session& s, const RecoveryNote& note)
+{
+    const QString ofPicture = " alla figura " + QFileInfo(note.picture).fileName();
+    Surface picture;
+    try {
+        picture = NotedPicture(note);
+    } catch (const PictureError& error) {
+        TellLost(s, ofPicture, QString::fromUtf8(error.what()), note.copy);
+        return;
+    }
+    const bool wanted = s.dialogs.Ask(BoxIcon::Exclamation, title::Notice,
+                                      "L'ultima volta Pixano si è interrotto con modifiche non "
+                                      "salvate" +
+                                          ofPicture + ".\nVuoi recuperarla?");
+    if (wanted)
+        BringBack(s, note, std::move(picture));
+    else
+        s.dialogs.Tell(BoxIcon::None, title::Notice,
+                       "La figura resta nel file " + PutAside(note.copy, picture) + '.');
+}
+
+}  // namespace
+
+void OfferRecovery(Session& s)
+{
+    if (const std::optional<RecoveryNote> note = ReadRecoveryNote())
+        Offer(s, *note);
+    else if (RecoveryNoteThere())
+        TellLost(s, QString(), "Il file «" + RecoveryNotePath() + "» non si può leggere",
+                 QDir::current().absoluteFilePath(file::PreviewCopy));
+}
+
+}  // namespace pixano

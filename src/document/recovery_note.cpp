@@ -1,0 +1,67 @@
+#include "document/recovery_note.h"
+
+#include "document/places.h"
+#include "files/own_text.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace pixano {
+namespace {
+
+/// A file's name may hold anything, line ends too.
+QByteArray Encoded(const QString& path)
+{
+    return QUrl::toPercentEncoding(path, "/ ");
+}
+
+QString Decoded(const QByteArray& text)
+{
+    return QUrl::fromPercentEncoding(text);
+}
+
+}  // namespace
+
+QString RecoveryNotePath()
+{
+    return DataFolder() + "/recupero.txt";
+}
+
+bool RecoveryNoteThere()
+{
+    const QFileInfo there(RecoveryNotePath());
+    return there.exists() || there.isSymLink();
+}
+
+std::optional<RecoveryNote> ReadRecoveryNote()
+{
+    const QList<QByteArray> lines =
+        QByteArray::fromStdString(ReadOwnText(RecoveryNotePath().toStdString()).value_or(""))
+            .split('\n');
+    // The last line end tells that the note is complete.
+    constexpr qsizetype Lines = 5;
+    if (lines.size() != Lines || !lines.back().isEmpty()) return std::nullopt;
+    RecoveryNote note{Decoded(lines.at(0)), Decoded(lines.at(1)), lines.at(2).toInt(),
+                      lines.at(3).toInt()};
+    const bool whole = QFileInfo(note.copy).isAbsolute() &&
+                       !QFileInfo(note.picture).fileName().isEmpty() && note.width > 0 &&
+                       note.height > 0;
+    if (!whole) return std::nullopt;
+    return note;
+}
+
+void WriteRecoveryNote(const RecoveryNote& note)
+{
+    const QByteArray text = Encoded(note.copy) + '\n' + Encoded(note.picture) + '\n' +
+                            QByteArray::number(note.width) + '\n' +
+                            QByteArray::number(note.height) + '\n';
+    WriteOwnText(RecoveryNotePath().toStdString(), text.toStdString());
+}
+
+void RemoveRecoveryNote()
+{
+    QFile::remove(RecoveryNotePath());
+}
+
+}  // namespace pixano

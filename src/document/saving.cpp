@@ -1,0 +1,75 @@
+#include "document/saving.h"
+
+#include "document/canvas_copy.h"
+#include "document/loading.h"
+#include "pictures/picture_files.h"
+
+#include <QFileInfo>
+
+namespace pixano {
+namespace {
+
+/// The name that the picture is saved under: its last four characters give way to ".bmp", whatever
+/// they are.
+QString WithBitmapExtension(const QString& chosen)
+{
+    constexpr qsizetype ExtensionLength = 4;
+    return chosen.left(std::max<qsizetype>(chosen.size() - ExtensionLength, 0)) + ".bmp";
+}
+
+bool MayReplace(Session& s, const QString& name)
+{
+    return s.dialogs.Ask(BoxIcon::Exclamation, title::Warning,
+                         "File " + name + " già esistente, sostituire i file?");
+}
+
+/// Where the save dialog starts: not where the program keeps a picture that was pasted.
+QString FolderToSaveIn(const Document& doc)
+{
+    if (doc.pasted.contains(doc.Cartella + doc.NomeCorto)) return doc.firstFolder;
+    return doc.Cartella.isEmpty() ? doc.CartellaAvvio : doc.Cartella;
+}
+
+/// The name chosen in the save dialog, asked again as long as a file of that name may not be
+/// replaced.
+std::optional<QString> AskName(Session& s)
+{
+    for (;;) {
+        const std::optional<QString> chosen = s.dialogs.AskSaveName(FolderToSaveIn(s.doc));
+        if (!chosen) return std::nullopt;
+        const QString name = WithBitmapExtension(*chosen);
+        if (!QFileInfo::exists(name) || MayReplace(s, name)) return name;
+    }
+}
+
+}  // namespace
+
+bool SaveCanvas(Session& s, const QString& name)
+{
+    try {
+        SaveBitmap(s.work.Picture1, name.toStdString());
+        return true;
+    } catch (const PictureError& error) {
+        s.dialogs.Tell(BoxIcon::Critical, title::Warning,
+                       "Il file " + name + " non è stato salvato.\n" +
+                           QString::fromUtf8(error.what()) + '.');
+        return false;
+    }
+}
+
+SaveOutcome SalvaFile(Session& s)
+{
+    const std::optional<QString> name = AskName(s);
+    if (!name) return SaveOutcome::Cancelled;
+    if (!SaveCanvas(s, *name)) {
+        s.doc.Modificato = 1;
+        return SaveOutcome::Failed;
+    }
+    Estrai(s, *name, std::nullopt);
+    s.doc.NomeSalvato = *name;
+    s.doc.Modificato = 0;
+    ForgetCanvasCopy();
+    return SaveOutcome::Saved;
+}
+
+}  // namespace pixano

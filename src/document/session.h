@@ -1,0 +1,54 @@
+// The one owner: the document, the canvas with its matrices, and the windows. Commands get it
+// handed down; nothing in the program is global.
+#pragma once
+
+#include "canvas/work.h"
+#include "document/document.h"
+#include "panels/form10.h"
+#include "windows/dialogs.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
+#include "windows/form4.h"
+#include "windows/form9.h"
+
+#include <QCoreApplication>
+
+#include <optional>
+
+namespace pixano {
+
+/// What the controls are and start.
+struct Controls {
+    MenuTable menu;
+    PaletteTable palette;
+};
+
+struct Session {
+    /// `dialogs` and the tables outlive the session; `timer` seeds the random numbers.
+    Session(Dialogs& dialogBoxes, const Controls& controls, Timer timer = {});
+
+    Dialogs& dialogs;
+    Document doc;
+    /// Where the program's own files lie.
+    QString programFolder = QCoreApplication::applicationDirPath();
+
+    Form1 form1;
+    Form4 form4;
+    ShownProgress progress;
+    Work work;
+    Form2 form2;
+    Form9 form9;
+    Form10 form10;
+
+    /// A command is running: whatever else the user starts meanwhile is ignored.
+    bool busy = false;
+    /// An effect is drawing: the canvas is unfinished, its snapshot holds the picture before.
+    bool drawing = false;
+    /// The status that the program ends with, once it is to end.
+    std::optional<int> ending;
+};
+
+/// Ends the program with that status: closes all windows and leaves every event loop.
+void EndProgram(Session& s, int status);
+
+}  // namespace pixano

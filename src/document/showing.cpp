@@ -1,0 +1,42 @@
+#include "document/showing.h"
+
+#include "document/canvas_copy.h"
+#include "document/captions.h"
+#include "document/places.h"
+#include "document/working_pictures.h"
+#include "windows/twips.h"
+#include "windows/window_operation.h"
+
+#include <algorithm>
+
+namespace pixano {
+
+void Mostra(Session& s)
+{
+    constexpr double SmallestZoom = 0.4;
+    constexpr double TwipsPerColumn = 15.2;
+    constexpr double TwipsPerRow = 16.4;
+    SaveWorkingPicture(s.work.Picture1, file::PreviewCopy);
+    s.doc.previewCopied = true;
+    ImageControl& image = s.form9.Image1();
+    image.SetPicture(LoadWorkingPicture(file::PreviewCopy, s.work.Picture1));
+    s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);
+    const double width = TwipsPerColumn * s.work.Larg;
+    const double height = TwipsPerRow * s.work.Alt;
+    image.SetStretch(true);
+    image.resize(Pixels(static_cast<float>(s.doc.Zoom * width)),
+                 Pixels(static_cast<float>(s.doc.Zoom * height)));
+    s.form9.SetInside(image.size());
+    s.form9.show();
+    BringForward(s.form10);
+    s.form9.setWindowTitle(PreviewCaption(s, s.doc.Zoom));
+}
+
+void ChangeZoom(Session& s, double change)
+{
+    s.doc.Zoom += change;
+    Mostra(s);
+    NoteCanvasCopy(s, file::PreviewCopy);
+}
+
+}  // namespace pixano

@@ -1,0 +1,24 @@
+// Opening a picture file for reading: regular files only, never waiting. Knows no format.
+#pragma once
+
+#include "files/descriptor.h"
+
+#include <cstdint>
+#include <string>
+
+namespace pixano {
+
+enum class Links { Followed, Refused };
+
+struct RegularFile {
+    Descriptor descriptor;
+    std::uint64_t size = 0;
+};
+
+/// Throws Refusal when `path` is missing, empty, no regular file or not readable.
+RegularFile OpenRegularFile(const std::string& path, Links links);
+
+/// Throws Refusal, saying what it is, unless `mode` (of a stat) is a regular file's.
+void RequireRegular(unsigned mode);
+
+}  // namespace pixano

@@ -1,0 +1,149 @@
+#include "shell/program.h"
+
+#include "canvas/fault.h"
+#include "document/opening.h"
+#include "document/places.h"
+#include "document/recovery.h"
+#include "shell/controls.h"
+#include "shell/events.h"
+#include "shell/only_instance.h"
+#include "shell/options.h"
+#include "shell/run.h"
+#include "shell/start_up.h"
+#include "windows/assistive.h"
+#include "windows/screen_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTranslator>
+
+#include <csignal>
+#include <cstdio>
+
+namespace pixano {
+namespace {
+
+/// A write beyond a size limit is an error like a full disk, not the end of the program.
+void SurviveSizeLimits()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+QIcon ProgramIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QString(":/pixano/icons/pixano-%1.png").arg(size));
+    return icon;
+}
+
+/// Started from the desktop's menu there is no folder that the user chose: the program works in its
+/// data folder, and keeps the strengths there from one run to the next.
+void WorkInDataFolder(Session& s)
+{
+    const QString folder = DataFolder();
+    const QString strengths = folder + '/' + file::Strengths;
+    if (!QFile::exists(strengths) &&
+        QFile::copy(s.programFolder + '/' + file::Strengths, strengths))
+        QFile::setPermissions(strengths, QFile::ReadOwner | QFile::WriteOwner);
+    QDir::setCurrent(folder);
+    s.programFolder = folder;
+    s.doc.firstFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
+/// What a run that was killed had not finished writing is no whole file.
+void RemoveUnfinishedFiles(const QString& folder)
+{
+    const QDir files(folder, ".pixano-*.tmp", QDir::Unsorted, QDir::Files | QDir::Hidden);
+    for (const QString& name : files.entryList())
+        QFile::remove(files.filePath(name));
+}
+
+int RunSession(Session& session, const Options& options)
+{
+    ConnectEvents(session);
+    // Relative to the folder that the user is in, whichever one the program works in.
+    const QString picture =
+        options.picture.isEmpty() ? QString() : QDir().absoluteFilePath(options.picture);
+    Run(session, "Avvio", FaultEnds::Program, [&] {
+        if (options.fromMenu) WorkInDataFolder(session);
+        Form_Load(session);
+        // A picture that cannot be brought back is no reason not to start.
+        RunWithinCommand(session, "Recupero", FaultEnds::Command, [&] { OfferRecovery(session); });
+    });
+    if (!session.ending && !picture.isEmpty())
+        Run(session, "Apri", FaultEnds::Command, [&] { OpenNamed(session, picture); });
+    return session.ending ? *session.ending : QApplication::exec();
+}
+
+int TellUsage()
+{
+    std::fputs(UsageText, stderr);
+    return 2;
+}
+
+}  // namespace
+
+void PrepareApplication(QApplication& application)
+{
+    QApplication::setApplicationName("pixano");
+    QApplication::setApplicationVersion("2.3");
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(ProgramIcon());
+    TellAssistiveTools();
+    // Dialogs of the desktop would speak its language, whatever it is.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* const italian = new QTranslator(&application);
+    if (italian->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(italian);
+}
+
+int RunAsOnlyInstance(Session& session, const Options& options)
+{
+    const QString folder = DataFolder();
+    const OnlyInstance only(folder + "/pixano.lock");
+    if (!only) {
+        session.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
+        return 1;
+    }
+    RemoveUnfinishedFiles(folder);
+    return RunSession(session, options);
+}
+
+int StartProgram(int argc, char* argv[])
+{
+    SurviveSizeLimits();
+    // These answers need no screen, so they come before the application does.
+    if (const char* const answer = AnswerWithoutScreen(argc, argv)) {
+        std::fputs(answer, stdout);
+        return 0;
+    }
+    // So does this one: the toolkit would end the program by a signal.
+    if (const QStringList arguments(argv, argv + argc); ScreenIsMissing(arguments)) {
+        if (!OptionsFrom(arguments)) return TellUsage();
+        std::fputs("Pixano: non c'è uno schermo (DISPLAY e WAYLAND_DISPLAY sono vuote). "
+                   "Senza finestre lavora pixano-batch.\n",
+                   stderr);
+        return 1;
+    }
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    const std::optional<Options> options = OptionsFrom(QApplication::arguments());
+    if (!options) return TellUsage();
+    ScreenDialogs dialogs;
+    try {
+        Session session(dialogs, ProgramControls());
+        return RunAsOnlyInstance(session, *options);
+    } catch (const Fault& fault) {
+        dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
+        return 1;
+    }
+}
+
+}  // namespace pixano

@@ -1,0 +1,136 @@
+#include "windows/form1.h"
+
+#include "windows/dropped_file.h"
+#include "windows/palette_strip.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+namespace pixano {
+namespace {
+
+constexpr std::string_view Separator = "-";
+
+bool HasChildren(MenuTable entries, std::string_view name)
+{
+    return std::ranges::count(entries, name, &MenuEntry::parent) > 0;
+}
+
+}  // namespace
+
+Form1::Form1(MenuTable entries) : entries_(entries)
+{
+    setObjectName("Form1");
+    setWindowTitle("Pixano 2.3");
+    setAccessibleName("Pixano, finestra principale");
+    setAcceptDrops(true);
+    BuildMenus();
+    auto* const paste = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_V), this);
+    paste->setContext(Qt::ApplicationShortcut);
+    connect(paste, &QShortcut::activated, this, &Form1::Pasted);
+    setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
+}
+
+int Form1::InsideWidth() const
+{
+    constexpr int Roomy = 520;
+    constexpr int Borders = 8;
+    // In the middle of the screen, and yet beside the palette if the menus allow it.
+    const int beside = screen()->size().width() - 2 * PaletteStrip() - Borders;
+    return std::max(std::min(Roomy, beside), menuBar()->sizeHint().width());
+}
+
+void Form1::BuildMenus()
+{
+    menuBar()->setObjectName("MenuBar");
+    menuBar()->setAccessibleName("Comandi");
+    menuBar()->setNativeMenuBar(false);
+    for (const MenuEntry& row : entries_) {
+        controls_.push_back(AddEntry(row));
+        if (*row.keys != '\0') AddShortcut(row);
+    }
+}
+
+QAction* Form1::AddEntry(const MenuEntry& row)
+{
+    QWidget* parent = menuBar();
+    if (*row.parent != '\0') parent = Control(PositionOf(row.parent)).menu();
+    const QString caption = QString::fromUtf8(row.caption);
+    auto* const action = new QAction(this);
+    if (HasChildren(entries_, row.name)) {
+        auto* const menu = new QMenu(this);
+        menu->setObjectName(row.name);
+        menu->setAccessibleName(QString(caption).remove('&'));
+        action->setMenu(menu);
+    }
+    action->setObjectName(row.name);
+    if (row.caption == Separator)
+        action->setSeparator(true);
+    else
+        action->setText(caption);
+    action->setEnabled(!row.designedOff);
+    parent->addAction(action);
+    connect(action, &QAction::triggered, this, [this, &row, action] {
+        // A click must not toggle the mark: only the commands move it.
+        if (action->isCheckable()) action->setChecked(true);
+        emit Clicked(row);
+    });
+    return action;
+}
+
+/// The captions stay as they are: the keys are not shown beside them.
+void Form1::AddShortcut(const MenuEntry& row)
+{
+    auto* const shortcut = new QShortcut(QKeySequence(row.keys), this);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    QAction* const action = controls_.back();
+    connect(shortcut, &QShortcut::activated, this, [this, &row, action] {
+        if (action->isEnabled()) emit Clicked(row);
+    });
+}
+
+int Form1::PositionOf(std::string_view name) const
+{
+    const auto found = std::ranges::find(entries_, name, &MenuEntry::name);
+    if (found == entries_.end()) throw std::out_of_range("no entry " + std::string(name));
+    return static_cast<int>(found - entries_.begin());
+}
+
+std::optional<int> Form1::PositionOf(const Effect& effect) const
+{
+    const auto found = std::ranges::find(entries_, Starts(&effect), &MenuEntry::starts);
+    if (found == entries_.end()) return std::nullopt;
+    return static_cast<int>(found - entries_.begin());
+}
+
+void Form1::Check(int position, bool checked)
+{
+    // An entry can be marked only while it is checkable, so that the others show no empty box.
+    QAction& action = Control(position);
+    action.setCheckable(checked);
+    action.setChecked(checked);
+}
+
+void Form1::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayClose());
+}
+
+void Form1::dragEnterEvent(QDragEnterEvent* event)
+{
+    AcceptPictureDrag(*event);
+}
+
+void Form1::dropEvent(QDropEvent* event)
+{
+    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
+}
+
+}  // namespace pixano

@@ -1,0 +1,154 @@
+#include "windows/screen_dialogs.h"
+
+#include "windows/centred.h"
+#include "windows/free_screen.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QTreeView>
+
+namespace pixano {
+namespace {
+
+QMessageBox::Icon IconOf(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::None:
+        return QMessageBox::NoIcon;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// What the icon says to those who do not see it.
+QString NameOf(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::None:
+        return {};
+    case BoxIcon::Question:
+        return "Domanda";
+    case BoxIcon::Exclamation:
+        return "Avviso";
+    case BoxIcon::Critical:
+        return "Errore";
+    }
+    return {};
+}
+
+/// A question with the answers yes and no. Escape and the close button are no answers: "no" throws
+/// work away, so it has to be said.
+class YesNoBox : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (clickedButton() == nullptr)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        if (windowTitle().isEmpty()) ShowNoTitle(*this);
+    }
+};
+
+/// The text with places, which nobody sees, where a name too long for a line can go on in the next.
+QString Breakable(QString text)
+{
+    static const QRegularExpression partOfLongName(R"(([^\s/]{24})(?=[^\s/]))");
+    return text.replace(partOfLongName, QStringLiteral(u"\\1\u200b"));
+}
+
+void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)
+{
+    box.setObjectName("MsgBox");
+    box.setIcon(IconOf(icon));
+    if (auto* const shown = box.findChild<QLabel*>("qt_msgboxex_icon_label"))
+        shown->setAccessibleName(NameOf(icon));
+    box.setWindowTitle(title);
+    // A file's name must not be taken for markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(Breakable(text));
+}
+
+/// The toolkit's own sizes cut the columns off, and are larger than a small screen.
+void ShowWholeColumns(QFileDialog& dialog)
+{
+    constexpr QSize Roomy(780, 460);
+    dialog.resize(Roomy.boundedTo(LargestInside(dialog)));
+    auto* const header = dialog.findChild<QTreeView*>("treeView")->header();
+    for (int column = 1; column < header->count(); ++column)
+        header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+}
+
+std::optional<QString> Chosen(QFileDialog& dialog)
+{
+    dialog.setObjectName("CommonDialog1");
+    ShowWholeColumns(dialog);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    const QStringList names = dialog.selectedFiles();
+    if (names.isEmpty()) return std::nullopt;
+    return names.front();
+}
+
+}  // namespace
+
+bool ScreenDialogs::Ask(BoxIcon icon, const QString& title, const QString& text)
+{
+    YesNoBox box(QApplication::activeWindow());
+    Fill(box, icon, title, text);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}
+
+void ScreenDialogs::Tell(BoxIcon icon, const QString& title, const QString& text)
+{
+    QMessageBox box(QApplication::activeWindow());
+    Fill(box, icon, title, text);
+    box.exec();
+}
+
+std::optional<QString> ScreenDialogs::AskOpenName(const QString& folder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), "Apri", folder);
+    // A name that does not exist may be typed: the program has its own message for it.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter("(*.Bmp) (*.Jpg) (*.Gif) (*.bmp *.jpg *.gif)");
+    return Chosen(dialog);
+}
+
+std::optional<QString> ScreenDialogs::AskSaveName(const QString& folder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), "Salva con nome", folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter("Bitmap (*.bmp)");
+    dialog.setDefaultSuffix("bmp");
+    // The program asks for itself whether a file may be replaced.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return Chosen(dialog);
+}
+
+}  // namespace pixano

@@ -1,0 +1,158 @@
+// The real boxes and file dialogs, answered by keys and clicks.
+#include "support/program.h"
+#include "windows/screen_dialogs.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace pixano::test {
+namespace {
+
+class RealBox : public testing::Test {
+  protected:
+    /// What is done to the box once it is up.
+    static void Meanwhile(const std::function<void(QMessageBox&)>& action)
+    {
+        QTimer::singleShot(0, [action] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            action(*box);
+        });
+    }
+    ScreenDialogs dialogs;
+};
+
+TEST_F(RealBox, AsksInItalianWithIconTitleAndText)
+{
+    Meanwhile([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Avviso!");
+        EXPECT_EQ(box.text(), "Salvare <b>ora</b>?");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(box.button(QMessageBox::Yes)->text().remove('&'), QString::fromUtf8("S\xC3\xAC"));
+        EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "No");
+        box.button(QMessageBox::Yes)->click();
+    });
+    EXPECT_TRUE(dialogs.Ask(BoxIcon::Exclamation, "Avviso!", "Salvare <b>ora</b>?"));
+}
+
+TEST_F(RealBox, GivesTheAnswerNo)
+{
+    Meanwhile([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
+    EXPECT_FALSE(dialogs.Ask(BoxIcon::Question, "Messaggio!", "?"));
+}
+
+TEST_F(RealBox, TakesNeitherEscapeNorClosingForAnAnswer)
+{
+    Meanwhile([](QMessageBox& box) {
+        QTest::keyClick(&box, Qt::Key_Escape);
+        EXPECT_TRUE(box.isVisible());
+        EXPECT_FALSE(box.close());
+        EXPECT_TRUE(box.isVisible());
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    EXPECT_TRUE(dialogs.Ask(BoxIcon::None, "", "?"));
+}
+
+TEST_F(RealBox, ShowsNoTitleWhereThereIsNone)
+{
+    Meanwhile([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "");
+        // The desktop would put the program's name where the title is quite empty.
+        EXPECT_EQ(box.windowHandle()->title(), " ");
+        EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+        box.button(QMessageBox::No)->click();
+    });
+    EXPECT_FALSE(dialogs.Ask(BoxIcon::None, "", "?"));
+}
+
+TEST_F(RealBox, TellsUntilItIsClosed)
+{
+    bool shown = false;
+    Meanwhile([&](QMessageBox& box) {
+        shown = true;
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        EXPECT_EQ(box.windowTitle(), "Attenzione!");
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    dialogs.Tell(BoxIcon::Critical, "Attenzione!", "testo");
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(RealBox, NamesItsIconForThoseWhoDoNotSeeIt)
+{
+    for (const auto& [icon, name] : {std::pair(BoxIcon::Question, "Domanda"),
+                                     {BoxIcon::Exclamation, "Avviso"},
+                                     {BoxIcon::Critical, "Errore"}}) {
+        QString told;
+        Meanwhile([&](QMessageBox& box) {
+            for (const QLabel* const label : box.findChildren<QLabel*>())
+                if (!label->pixmap().isNull()) told = label->accessibleName();
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        dialogs.Tell(icon, "Attenzione!", "testo");
+        EXPECT_EQ(told, name);
+    }
+}
+
+class RealFileDialog : public UnstartedProgram {
+  protected:
+    static void Meanwhile(const std::function<void(QFileDialog&)>& action)
+    {
+        QTimer::singleShot(0, [action] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            action(*dialog);
+        });
+    }
+    static void Type(QFileDialog& dialog, const QString& name)
+    {
+        auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_NE(edit, nullptr);
+        edit->setText(name);
+        QTest::keyClick(edit, Qt::Key_Return);
+        // A dialog that did not take the name must not hold the test up.
+        if (dialog.isVisible()) dialog.reject();
+    }
+    ScreenDialogs screen;
+};
+
+TEST_F(RealFileDialog, OpensWithTheFilterInTheFolder)
+{
+    Meanwhile([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory(), QDir::current());
+        EXPECT_THAT(dialog.nameFilters().join("").toStdString(),
+                    testing::HasSubstr("*.bmp *.jpg *.gif"));
+        dialog.reject();
+    });
+    EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), std::nullopt);
+}
+
+TEST_F(RealFileDialog, LetsANameBeTypedThatDoesNotExist)
+{
+    Meanwhile([](QFileDialog& dialog) { Type(dialog, "no.bmp"); });
+    EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), Path("no.bmp"));
+}
+
+TEST_F(RealFileDialog, AddsTheDefaultExtensionWhenSaving)
+{
+    Meanwhile([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.defaultSuffix(), "bmp");
+        EXPECT_THAT(dialog.nameFilters().join("").toStdString(),
+                    testing::HasSubstr("Bitmap (*.bmp)"));
+        Type(dialog, "nuovo");
+    });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath()), Path("nuovo.bmp"));
+}
+
+TEST_F(RealFileDialog, AsksNoQuestionOfItsOwnAboutAnExistingFile)
+{
+    Write("s.bmp", "vecchio");
+    Meanwhile([](QFileDialog& dialog) { Type(dialog, "s.bmp"); });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath()), Path("s.bmp"));
+}
+
+}  // namespace
+}  // namespace pixano::test
