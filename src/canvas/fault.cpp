@@ -25,15 +25,29 @@ std::string_view Sentence(FaultKind kind)
         return "Impossibile scrivere tutto il file (disco pieno?)";
     case FaultKind::InvalidCall:
         return "Operazione impossibile";
+    case FaultKind::OutOfMemory:
+        return "La memoria non basta";
     }
     return "Errore sconosciuto";
 }
 
 }  // namespace
 
-Fault::Fault(FaultKind kind, std::string_view subject) : kind_(kind), text_(Sentence(kind))
+bool EndsProgram(Fatal fatal, FaultKind kind)
 {
-    if (!subject.empty()) text_.append(": ").append(subject);
+    switch (fatal) {
+    case Fatal::None:
+        return false;
+    case Fatal::Index:
+        return kind == FaultKind::SubscriptOutOfRange;
+    case Fatal::IndexAndDivision:
+        return kind == FaultKind::SubscriptOutOfRange || kind == FaultKind::DivisionByZero;
+    case Fatal::All:
+        return kind != FaultKind::InvalidCall;
+    }
+    return true;
 }
+
+Fault::Fault(FaultKind kind) : kind_(kind), text_(Sentence(kind)) {}
 
 }  // namespace pixano

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <exception>
+#include <new>
 #include <string>
-#include <string_view>
+#include <utility>
 
 namespace pixano {
 
@@ -17,13 +18,21 @@ enum class FaultKind {
     FileAccess,   ///< a file cannot be made, opened, read or deleted
     DiskFull,     ///< a file could not be written to its end
     InvalidCall,  ///< a request that can have no result
+    OutOfMemory,
 };
+
+/// Which run-time errors in a command end the program; all others end the command alone.
+enum class Fatal { None, Index, IndexAndDivision, All };
+
+/// A request that can have no result has changed nothing that is seen: it never ends the program.
+bool EndsProgram(Fatal fatal, FaultKind kind);
 
 /// A run-time error. Thrown where it is detected, shown where the command entered the program.
 class Fault : public std::exception {
   public:
-    /// `subject`: what the error is about, a file name as a rule; may be empty. UTF-8.
-    explicit Fault(FaultKind kind, std::string_view subject = {});
+    explicit Fault(FaultKind kind);
+    /// With a sentence of its own: Italian, without a full stop, UTF-8.
+    Fault(FaultKind kind, std::string sentence) : kind_(kind), text_(std::move(sentence)) {}
 
     FaultKind Kind() const { return kind_; }
     /// One Italian sentence without a full stop, UTF-8.
@@ -32,6 +41,36 @@ class Fault : public std::exception {
   private:
     FaultKind kind_;
     std::string text_;
+};
+
+/// The first run-time error of several steps that are all to be done.
+class FirstFault {
+  public:
+    /// Does the step; its error is kept for `Throw` unless an earlier one is.
+    template <typename Step>
+    void Try(Step step)
+    {
+        try {
+            step();
+        } catch (const Fault&) {
+            Keep();
+        } catch (const std::bad_alloc&) {
+            Keep();
+        }
+    }
+    explicit operator bool() const { return first_ != nullptr; }
+    void Throw() const
+    {
+        if (first_) std::rethrow_exception(first_);
+    }
+
+  private:
+    void Keep()
+    {
+        if (!first_) first_ = std::current_exception();
+    }
+
+    std::exception_ptr first_;
 };
 
 }  // namespace pixano

@@ -4,6 +4,7 @@
 #include "canvas/large_pages.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +12,9 @@
 #include <vector>
 
 namespace pixano {
+
+static_assert(std::endian::native == std::endian::little,
+              "pixels, bytes of files and digits are handled as words");
 
 /// A packed colour: red + 256 green + 65536 blue, 0 to &HFFFFFF; `Outside` where there is no pixel.
 using Colour = std::int32_t;

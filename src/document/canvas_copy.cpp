@@ -1,26 +1,56 @@
 #include "document/canvas_copy.h"
 
-#include "canvas/fault.h"
 #include "document/places.h"
 #include "document/recovery_note.h"
-
-#include <QDir>
+#include "document/working_pictures.h"
 
 namespace pixano {
+namespace {
 
-void NoteCanvasCopy(const Session& s, const QString& name)
+/// Writes the canvas where the preview's copy lies, or, where that cannot be, into the data folder.
+void WriteCopy(Session& s)
 {
-    if (s.doc.Modificato == 0) return;
-    try {
-        WriteRecoveryNote({QDir::current().absoluteFilePath(NativePath(name)), s.doc.FileAperto,
-                           s.work.Picture1.Width(), s.work.Picture1.Height()});
-    } catch (const Fault&) {
-        return;
+    for (const QString& name : {file::PreviewCopy, file::SpareCopy}) {
+        try {
+            SaveWorkingPicture(s.work.Picture1, name);
+            s.doc.canvasCopy = NativePath(name);
+            return;
+        } catch (const Fault&) {
+            continue;
+        }
     }
 }
 
-void ForgetCanvasCopy()
+void WriteNote(Session& s)
 {
+    try {
+        WriteRecoveryNote({s.doc.canvasCopy, s.doc.FileAperto, s.work.Picture1.Width(),
+                           s.work.Picture1.Height()});
+        s.doc.notedCopy = s.doc.canvasCopy;
+    } catch (const Fault& fault) {
+        s.remarks += QString::fromUtf8(fault.what()) +
+                     ". Una copia dell'immagine modificata è nel file «" + s.doc.canvasCopy + "»";
+    }
+}
+
+}  // namespace
+
+void SecureCanvas(Session& s)
+{
+    if (s.doc.Modificato == 0) {
+        ForgetCanvasCopy(s);
+        return;
+    }
+    if (s.doc.canvasCopy.isEmpty()) WriteCopy(s);
+    if (s.doc.canvasCopy.isEmpty())
+        s.remarks += "Dell'immagine modificata non c'è nessuna copia su disco: conviene salvarla";
+    else if (s.doc.canvasCopy != s.doc.notedCopy)
+        WriteNote(s);
+}
+
+void ForgetCanvasCopy(Session& s)
+{
+    s.doc.notedCopy.clear();
     try {
         RemoveRecoveryNote();
     } catch (const Fault&) {

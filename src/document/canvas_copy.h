@@ -1,16 +1,16 @@
-// Which working picture holds the canvas as it is. Every state of it is on disk already, in one of
-// the working files; the note of which one is kept here, for the next start.
+// Which working picture holds the canvas as it is, for the start after a run that ended badly.
 #pragma once
 
 #include "document/session.h"
 
 namespace pixano {
 
-/// Notes that the working picture `name` holds the canvas as it is now. Errors are passed over: the
-/// command that was asked for matters more.
-void NoteCanvasCopy(const Session& s, const QString& name);
+/// At the end of a command: unsaved changes get a copy on disk, if the command left none, and the
+/// note tells which file it is. What cannot be done is remarked. Without unsaved changes there is
+/// nothing to bring back.
+void SecureCanvas(Session& s);
 
-/// Nothing is unsaved any more: there is nothing to bring back.
-void ForgetCanvasCopy();
+/// Nothing is unsaved any more. Errors are passed over.
+void ForgetCanvasCopy(Session& s);
 
 }  // namespace pixano

@@ -28,6 +28,10 @@ struct Document {
     bool open = false;
     /// Whether the preview's copy was written, and so has to be deleted at the end.
     bool previewCopied = false;
+    /// Path of the working picture that holds the canvas as it is; empty when none does. What the
+    /// recovery note says of it at the moment.
+    QString canvasCopy;
+    QString notedCopy;
     /// Where the open dialog starts before any picture is remembered.
     QString firstFolder;
     /// Pictures pasted from the clipboard, which the program keeps as files as long as it runs.

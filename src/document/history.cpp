@@ -1,7 +1,6 @@
 #include "document/history.h"
 
 #include "canvas/fault.h"
-#include "document/canvas_copy.h"
 #include "document/captions.h"
 #include "document/loading.h"
 #include "document/places.h"
@@ -11,28 +10,42 @@
 namespace pixano {
 namespace {
 
-/// A step whose errors are passed over, as the history's steps ask. False when there was one.
-template <typename Step>
-bool PassingOverErrors(Step step)
+/// Puts the picture in the canvas's place; gives the one that was there.
+Surface Show(Session& s, Surface picture)
 {
+    s.form9.Image1().SetPicture(picture);
+    std::swap(s.work.Picture1, picture);
+    s.form2.Picture1().FitPicture();
+    return picture;
+}
+
+/// The canvas and the working picture that holds it from now on; gives the canvas before.
+Surface ShowWorkingPicture(Session& s, const QString& name)
+{
+    Surface before = Show(s, LoadWorkingPicture(name, s.work.Picture1));
+    s.doc.canvasCopy = NativePath(name);
+    return before;
+}
+
+/// Writes the canvas where "Ripristina" finds it. False when it has to be kept in memory.
+bool SaveForRedo(Session& s)
+{
+    s.redoPicture.reset();
     try {
-        step();
+        SaveWorkingPicture(s.work.Picture1, file::Redo);
         return true;
-    } catch (const Fault&) {
+    } catch (const Fault& fault) {
+        s.remarks +=
+            QString::fromUtf8(fault.what()) +
+            ". L'immagine resta in memoria: «Ripristina» la riporta finché Pixano è aperto";
         return false;
     }
 }
 
-void Show(Session& s, Surface picture)
+/// What the canvas showed before, or shows still, is kept for "Ripristina".
+void KeepForRedo(Session& s, std::optional<Surface> before)
 {
-    s.form9.Image1().SetPicture(picture);
-    s.work.Picture1 = std::move(picture);
-    s.form2.Picture1().FitPicture();
-}
-
-void ShowWorkingPicture(Session& s, const QString& name)
-{
-    Show(s, LoadWorkingPicture(name, s.work.Picture1));
+    s.redoPicture = before ? std::move(*before) : s.work.Picture1;
 }
 
 }  // namespace
@@ -64,15 +77,13 @@ void Undo_Click(Session& s)
     s.form1.Enable(control::Orig, true);
     s.form1.Enable(control::Redo, true);
     s.form10.EnableHistory({.annulla = false, .originale = true, .ripristina = true});
-    PassingOverErrors([&] {
-        if (d.InOriginale == 0) SaveWorkingPicture(s.work.Picture1, file::Redo);
-    });
+    const bool kept = d.InOriginale != 0 || SaveForRedo(s);
     d.InOriginale = 0;
     d.Annullato = 1;
-    PassingOverErrors([&] {
-        ShowWorkingPicture(s, d.FileUndo);
-        NoteCanvasCopy(s, d.FileUndo);
-    });
+    FirstFault passedOver;
+    std::optional<Surface> before;
+    passedOver.Try([&] { before = ShowWorkingPicture(s, d.FileUndo); });
+    if (!kept) passedOver.Try([&] { KeepForRedo(s, std::move(before)); });
     s.form2.setWindowTitle(EffectCaption(s));
     d.NomeSalvato.clear();
 }
@@ -89,8 +100,12 @@ void Redo_Click(Session& s)
     s.form10.EnableHistory({.annulla = d.NumEffetti > 1 ? Switch(true) : std::nullopt,
                             .originale = true,
                             .ripristina = false});
-    ShowWorkingPicture(s, file::Redo);
-    NoteCanvasCopy(s, file::Redo);
+    if (s.redoPicture) {
+        Show(s, *s.redoPicture);
+        d.canvasCopy.clear();
+    } else {
+        ShowWorkingPicture(s, file::Redo);
+    }
     s.form2.setWindowTitle(EffectCaption(s));
     d.InOriginale = 0;
     d.Annullato = 0;
@@ -108,8 +123,8 @@ Surface ReadOriginal(const Session& s)
     const Surface& canvas = s.work.Picture1;
     if (d.Modificato == 1 &&
         (picture.Width() != canvas.Width() || picture.Height() != canvas.Height()))
-        throw PictureError("La figura nel file «" + name.toStdString() +
-                           "» ora ha un'altra misura");
+        throw PictureError(FaultKind::FileAccess, "La figura nel file «" + name.toStdString() +
+                                                      "» ora ha un'altra misura");
     return picture;
 }
 
@@ -124,28 +139,27 @@ void Orig_Click(Session& s)
     s.form10.EnableHistory({.annulla = d.NumEffetti > 1 ? Switch(true) : std::nullopt,
                             .originale = false,
                             .ripristina = true});
-    PassingOverErrors([&] {
-        if (d.Annullato == 0) SaveWorkingPicture(s.work.Picture1, file::Redo);
-    });
+    const bool kept = d.Annullato != 0 || SaveForRedo(s);
     d.InOriginale = 1;
     d.Annullato = 0;
     d.NumEffettiSalvato = d.NumEffetti;
     d.NumEffetti = 0;
-    QString unreadable;
+    bool read = false;
+    std::optional<Surface> before;
     try {
         Surface picture = ReadOriginal(s);
-        Show(s, picture);
+        before = Show(s, picture);
         Estrai(s, d.FileAperto,
                d.Modificato == 0 ? std::optional(std::move(picture)) : std::nullopt);
-    } catch (const PictureError& error) {
-        unreadable = QString::fromUtf8(error.what());
+        read = true;
+    } catch (const Fault& fault) {
+        s.remarks += QString::fromUtf8(fault.what());
         Estrai(s, d.FileAperto, std::nullopt);
     }
+    FirstFault passedOver;
+    if (!kept) passedOver.Try([&] { KeepForRedo(s, std::move(before)); });
     s.form2.setWindowTitle(PictureCaption(s));
-    if (unreadable.isEmpty())
-        d.Modificato = 0;
-    else
-        s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, unreadable + '.');
+    if (read) d.Modificato = 0;
 }
 
 }  // namespace pixano

@@ -39,6 +39,8 @@ void OpenAsNew(Session& s, const QString& name, Surface picture)
     s.doc.Zoom = 1;
     s.doc.NumEffetti = 0;
     s.doc.open = true;
+    s.doc.canvasCopy.clear();
+    s.redoPicture.reset();
     Estrai(s, name, std::move(picture));
 }
 
@@ -57,9 +59,7 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
     std::optional<PictureRead> read;
     if (!same) {
         read = ReadPicture(name.toStdString());
-        if (read->truncated)
-            s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
-                           "Il file " + name + " è incompleto: mancano alcuni pixel.");
+        if (read->truncated) s.remarks += "Il file " + name + " è incompleto: mancano alcuni pixel";
     }
     if (!s.doc.pasted.contains(name)) RememberPath(s.doc, name);
     if (!read) {
@@ -92,8 +92,8 @@ void Open(Session& s, AskName askName)
     if (!name) return;
     try {
         OpenChosen(s, *name, answer, modified);
-    } catch (const PictureError& error) {
-        s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, QString::fromUtf8(error.what()) + '.');
+    } catch (const Fault& error) {
+        s.remarks += QString::fromUtf8(error.what());
     }
     QDir::setCurrent(d.CartellaAvvio);
 }

@@ -11,16 +11,21 @@ namespace pixano {
 QString DataFolder()
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    const bool made = !QDir(folder).exists();
-    if (!QDir().mkpath(folder)) throw Fault(FaultKind::FileAccess, folder.toStdString());
-    if (made) QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (!QDir().mkpath(folder))
+        throw Fault(FaultKind::FileAccess,
+                    "Impossibile creare la cartella «" + folder.toStdString() + "»");
+    // Somebody may have made it before, open to all.
+    constexpr auto Private = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                            QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    if (QFile::permissions(folder) & Others) QFile::setPermissions(folder, Private);
     return folder;
 }
 
 QString NativePath(const QString& name)
 {
     static const QString drive = QStringLiteral("c:\\");
-    if (!name.startsWith(drive, Qt::CaseInsensitive)) return name;
+    if (!name.startsWith(drive, Qt::CaseInsensitive)) return QDir::current().filePath(name);
     return DataFolder() + '/' + name.mid(drive.size());
 }
 

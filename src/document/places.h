@@ -9,14 +9,16 @@ namespace pixano {
 /// Fault FileAccess when it cannot be made.
 QString DataFolder();
 
-/// The native path of a name as the program uses it: "c:\name" lies in the data folder, every other
-/// name is already native.
+/// The native path, in full, of a name as the program uses it: "c:\name" lies in the data folder,
+/// every other name is native, and lies in the current folder unless it says where.
 QString NativePath(const QString& name);
 
-/// The snapshots for undo and redo, and the preview's copy in the current folder.
+/// The snapshots for undo and redo, the canvas where the current folder takes no copy, and what
+/// lies in the current folder.
 namespace file {
 inline const QString Undo = QStringLiteral("c:\\temp.bml");
 inline const QString Redo = QStringLiteral("c:\\temp2.bml");
+inline const QString SpareCopy = QStringLiteral("c:\\elabor.tmp");
 inline const QString PreviewCopy = QStringLiteral("elabor.tmp");
 inline const QString Pixels = QStringLiteral("elab.ser");
 inline const QString Remembered = QStringLiteral("percors.dat");

@@ -34,7 +34,7 @@ QString PutAside(const QString& copy, const Surface& picture)
 {
     try {
         QString aside = AsideName(DataFolder());
-        SaveBitmap(picture, aside.toStdString());
+        SavePrivateBitmap(picture, aside.toStdString());
         RemoveRecoveryNote();
         QFile::remove(copy);
         return aside;
@@ -72,7 +72,8 @@ Surface NotedPicture(const RecoveryNote& note)
     const bool noted = !read.truncated && read.picture.Width() == note.width &&
                        read.picture.Height() == note.height;
     if (!noted)
-        throw PictureError("Il file «" + note.copy.toStdString() + "» non è più quello di allora");
+        throw PictureError(FaultKind::FileAccess,
+                           "Il file «" + note.copy.toStdString() + "» non è più quello di allora");
     return std::move(read.picture);
 }
 
@@ -89,8 +90,9 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
     s.form1.Enable(control::Orig, true);
     s.form10.EnableHistory(
         {.annulla = std::nullopt, .originale = true, .ripristina = std::nullopt});
+    s.doc.canvasCopy = s.doc.notedCopy = note.copy;
     Mostra(s);
-    NoteCanvasCopy(s, file::PreviewCopy);
+    SecureCanvas(s);
     // The new copy is complete; the old one, if it lay elsewhere, has done its duty.
     const QString current = QDir::current().absoluteFilePath(file::PreviewCopy);
     if (note.copy.endsWith('/' + file::PreviewCopy) && note.copy != current)

@@ -1,7 +1,8 @@
 #include "document/recovery_note.h"
 
 #include "document/places.h"
-#include "files/own_text.h"
+#include "files/own_file.h"
+#include "files/refusal.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -36,9 +37,13 @@ bool RecoveryNoteThere()
 
 std::optional<RecoveryNote> ReadRecoveryNote()
 {
-    const QList<QByteArray> lines =
-        QByteArray::fromStdString(ReadOwnText(RecoveryNotePath().toStdString()).value_or(""))
-            .split('\n');
+    QList<QByteArray> lines;
+    try {
+        const std::string text = ReadOwnFile(RecoveryNotePath().toStdString());
+        lines = QByteArray::fromStdString(text).split('\n');
+    } catch (const Refusal&) {
+        return std::nullopt;
+    }
     // The last line end tells that the note is complete.
     constexpr qsizetype Lines = 5;
     if (lines.size() != Lines || !lines.back().isEmpty()) return std::nullopt;
@@ -56,7 +61,8 @@ void WriteRecoveryNote(const RecoveryNote& note)
     const QByteArray text = Encoded(note.copy) + '\n' + Encoded(note.picture) + '\n' +
                             QByteArray::number(note.width) + '\n' +
                             QByteArray::number(note.height) + '\n';
-    WriteOwnText(RecoveryNotePath().toStdString(), text.toStdString());
+    const std::string path = RecoveryNotePath().toStdString();
+    TellRefusal("scrivere", path, [&] { ReplaceOwnFile(path, text.toStdString()); });
 }
 
 void RemoveRecoveryNote()

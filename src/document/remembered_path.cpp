@@ -1,7 +1,8 @@
 #include "document/remembered_path.h"
 
 #include "document/places.h"
-#include "files/own_text.h"
+#include "files/own_file.h"
+#include "files/refusal.h"
 #include "files/value_text.h"
 
 #include <string>
@@ -18,9 +19,14 @@ std::string FileOf(const Document& doc)
 
 std::optional<QString> RememberedPath(const Document& doc)
 {
-    const std::optional<std::string> kept = ReadOwnText(FileOf(doc));
-    if (!kept) return std::nullopt;
-    std::string_view rest = *kept;
+    if (doc.CartellaAvvio.isEmpty()) return std::nullopt;
+    std::string kept;
+    try {
+        kept = ReadOwnFile(FileOf(doc));
+    } catch (const Refusal&) {
+        return std::nullopt;
+    }
+    std::string_view rest = kept;
     const std::optional<std::string_view> path = TakeItem(rest, true);
     if (!path) return std::nullopt;
     return QString::fromUtf8(path->data(), static_cast<qsizetype>(path->size()));
@@ -28,7 +34,12 @@ std::optional<QString> RememberedPath(const Document& doc)
 
 void RememberPath(const Document& doc, const QString& path)
 {
-    WriteOwnText(FileOf(doc), '"' + path.toStdString() + "\"\r\n");
+    if (doc.CartellaAvvio.isEmpty()) return;
+    try {
+        ReplaceOwnFile(FileOf(doc), '"' + path.toStdString() + "\"\r\n");
+    } catch (const Refusal&) {
+        return;
+    }
 }
 
 }  // namespace pixano

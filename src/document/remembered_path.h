@@ -7,7 +7,8 @@
 
 namespace pixano {
 
-/// The path kept in the start-up folder; nothing when there is none or it cannot be read.
+/// The path kept in the start-up folder; nothing when there is none, there is no such folder any
+/// more, or it cannot be read.
 std::optional<QString> RememberedPath(const Document& doc);
 
 /// Keeps the path in the start-up folder. Errors are passed over: the picture matters more.

@@ -10,11 +10,13 @@ namespace pixano {
 namespace {
 
 /// The name that the picture is saved under: its last four characters give way to ".bmp", whatever
-/// they are.
-QString WithBitmapExtension(const QString& chosen)
+/// they are. Nothing when no letter of the file's own name would be left: the folder's is not cut.
+std::optional<QString> WithBitmapExtension(const QString& chosen)
 {
     constexpr qsizetype ExtensionLength = 4;
-    return chosen.left(std::max<qsizetype>(chosen.size() - ExtensionLength, 0)) + ".bmp";
+    const qsizetype nameLength = chosen.size() - 1 - chosen.lastIndexOf('/');
+    if (nameLength <= ExtensionLength) return std::nullopt;
+    return chosen.chopped(ExtensionLength) + ".bmp";
 }
 
 bool MayReplace(Session& s, const QString& name)
@@ -37,8 +39,14 @@ std::optional<QString> AskName(Session& s)
     for (;;) {
         const std::optional<QString> chosen = s.dialogs.AskSaveName(FolderToSaveIn(s.doc));
         if (!chosen) return std::nullopt;
-        const QString name = WithBitmapExtension(*chosen);
-        if (!QFileInfo::exists(name) || MayReplace(s, name)) return name;
+        const std::optional<QString> name = WithBitmapExtension(*chosen);
+        if (!name)
+            s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
+                           "Il nome del file «" + *chosen +
+                               "» è troppo corto: senza gli ultimi quattro caratteri, che lasciano "
+                               "il posto a «.bmp», non ne resta niente.");
+        else if (!QFileInfo::exists(*name) || MayReplace(s, *name))
+            return name;
     }
 }
 
@@ -49,10 +57,8 @@ bool SaveCanvas(Session& s, const QString& name)
     try {
         SaveBitmap(s.work.Picture1, name.toStdString());
         return true;
-    } catch (const PictureError& error) {
-        s.dialogs.Tell(BoxIcon::Critical, title::Warning,
-                       "Il file " + name + " non è stato salvato.\n" +
-                           QString::fromUtf8(error.what()) + '.');
+    } catch (const Fault& error) {
+        s.remarks += QString::fromUtf8(error.what());
         return false;
     }
 }
@@ -68,7 +74,7 @@ SaveOutcome SalvaFile(Session& s)
     Estrai(s, *name, std::nullopt);
     s.doc.NomeSalvato = *name;
     s.doc.Modificato = 0;
-    ForgetCanvasCopy();
+    ForgetCanvasCopy(s);
     return SaveOutcome::Saved;
 }
 

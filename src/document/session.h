@@ -44,6 +44,10 @@ struct Session {
     bool busy = false;
     /// An effect is drawing: the canvas is unfinished, its snapshot holds the picture before.
     bool drawing = false;
+    /// What the command that runs has to tell when it is done: Italian sentences.
+    QStringList remarks;
+    /// The picture that "Ripristina" goes forward to, where its file could not be written.
+    std::optional<Surface> redoPicture;
     /// The status that the program ends with, once it is to end.
     std::optional<int> ending;
 };

@@ -1,6 +1,5 @@
 #include "document/showing.h"
 
-#include "document/canvas_copy.h"
 #include "document/captions.h"
 #include "document/places.h"
 #include "document/working_pictures.h"
@@ -10,16 +9,28 @@
 #include <algorithm>
 
 namespace pixano {
+namespace {
+
+Surface ByWayOfItsFile(Session& s)
+{
+    SaveWorkingPicture(s.work.Picture1, file::PreviewCopy);
+    s.doc.previewCopied = true;
+    if (s.doc.canvasCopy.isEmpty()) s.doc.canvasCopy = NativePath(file::PreviewCopy);
+    return LoadWorkingPicture(file::PreviewCopy, s.work.Picture1);
+}
+
+}  // namespace
 
 void Mostra(Session& s)
 {
     constexpr double SmallestZoom = 0.4;
     constexpr double TwipsPerColumn = 15.2;
     constexpr double TwipsPerRow = 16.4;
-    SaveWorkingPicture(s.work.Picture1, file::PreviewCopy);
-    s.doc.previewCopied = true;
     ImageControl& image = s.form9.Image1();
-    image.SetPicture(LoadWorkingPicture(file::PreviewCopy, s.work.Picture1));
+    FirstFault fault;
+    fault.Try([&] { image.SetPicture(ByWayOfItsFile(s)); });
+    // It shows the canvas, whatever becomes of the file.
+    if (fault) image.SetPicture(s.work.Picture1);
     s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);
     const double width = TwipsPerColumn * s.work.Larg;
     const double height = TwipsPerRow * s.work.Alt;
@@ -30,13 +41,13 @@ void Mostra(Session& s)
     s.form9.show();
     BringForward(s.form10);
     s.form9.setWindowTitle(PreviewCaption(s, s.doc.Zoom));
+    fault.Throw();
 }
 
 void ChangeZoom(Session& s, double change)
 {
     s.doc.Zoom += change;
     Mostra(s);
-    NoteCanvasCopy(s, file::PreviewCopy);
 }
 
 }  // namespace pixano

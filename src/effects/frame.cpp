@@ -9,14 +9,15 @@ void PutOnCanvas(Work& w, Surface picture)
     w.Alt = w.Picture1.Height();
 }
 
-void RunOnCanvas(Work& w, const Effect& effect, const std::function<void()>& beforeLoops)
+void RunOnCanvas(Work& w, const Effect& effect, const AroundLoops& around)
 {
     // What an effect left behind that ended in a fault is not this one's to delete.
     w.ElabSer.Forget();
     if (effect.selector != 0) w.IndValore = static_cast<std::int16_t>(effect.selector);
     if (effect.reseeds) w.Randomize();
-    beforeLoops();
+    around.before();
     effect.run(w);
+    around.after();
     w.ElabSer.Kill();
 }
 

@@ -2,7 +2,6 @@
 
 #include "files/refusal.h"
 #include "files/regular_file.h"
-#include "files/system_reason.h"
 
 #include <climits>
 #include <cstdint>
@@ -37,13 +36,13 @@ std::string WithoutLinks(std::string path)
         const std::string text(target, static_cast<std::size_t>(length));
         path = text.starts_with('/') ? text : PlaceOf(path).folder + "/" + text;
     }
-    throw Refusal(SystemReason(ELOOP));
+    throw Refusal(ELOOP);
 }
 
 std::string TemporaryName()
 {
     std::uint32_t chance[2];
-    if (getentropy(chance, sizeof chance) != 0) throw Refusal(SystemReason(errno));
+    if (getentropy(chance, sizeof chance) != 0) throw Refusal(errno);
     char name[40];
     std::snprintf(name, sizeof name, ".pixano-%08x%08x.tmp", chance[0], chance[1]);
     return name;
@@ -85,10 +84,11 @@ AtomicFile::AtomicFile(const std::string& path, Purpose purpose, Temporary tempo
     if (name_.empty()) throw Refusal("manca il nome del file");
     folder_ = Descriptor(Uninterrupted(
         [&] { return open(place.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
-    if (!folder_) throw Refusal(errno == ENOENT ? "la cartella non esiste" : SystemReason(errno));
+    if (!folder_ && errno == ENOENT) throw Refusal("la cartella non esiste");
+    if (!folder_) throw Refusal(errno);
     struct stat old {};
     const bool exists = fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
-    if (!exists && errno != ENOENT) throw Refusal(SystemReason(errno));
+    if (!exists && errno != ENOENT) throw Refusal(errno);
     if (exists && S_ISDIR(old.st_mode)) throw Refusal("è una cartella");
     if (exists && document) {
         RequireRegular(old.st_mode);
@@ -125,8 +125,9 @@ void AtomicFile::MakeNamed(unsigned permissions)
     } while (!file_ && (errno == EEXIST || errno == EINTR));
     if (file_) return;
     temporary_.clear();
-    const bool forbidden = errno == EACCES || errno == EPERM;
-    throw Refusal(forbidden ? "manca il permesso di scrivere nella cartella" : SystemReason(errno));
+    if (errno == EACCES || errno == EPERM)
+        throw Refusal("manca il permesso di scrivere nella cartella");
+    throw Refusal(errno);
 }
 
 void AtomicFile::KeepOwnerAndPermissions()
@@ -156,18 +157,28 @@ bool AtomicFile::GiveName()
 
 bool AtomicFile::Commit()
 {
-    const bool document = purpose_ == Purpose::Document;
-    if (document && Uninterrupted([this] { return fsync(file_.Number()); }) != 0)
-        throw Refusal(SystemReason(errno));
+    const bool waits = purpose_ != Purpose::Working;
+    if (waits && Uninterrupted([this] { return fsync(file_.Number()); }) != 0) throw Refusal(errno);
     if (!GiveName()) return false;
-    if (!file_.Close()) throw Refusal(SystemReason(errno));
+    if (!file_.Close()) throw Refusal(errno);
     const int folder = folder_.Number();
-    const bool exchanged = !document && ChangePlaces(folder, temporary_, name_);
+    const bool exchanged = !waits && ChangePlaces(folder, temporary_, name_);
     if (!exchanged && renameat(folder, temporary_.c_str(), folder, name_.c_str()) != 0)
-        throw Refusal(SystemReason(errno));
+        throw Refusal(errno);
     temporary_.clear();
-    if (document) SyncFolder(folder);
+    if (waits) SyncFolder(folder);
     return true;
+}
+
+void ReplaceFile(const std::string& path, AtomicFile::Purpose purpose,
+                 const std::function<void(ByteSink&)>& fill)
+{
+    for (const auto temporary : {AtomicFile::Temporary::Unnamed, AtomicFile::Temporary::Named}) {
+        AtomicFile file(path, purpose, temporary);
+        fill(file);
+        if (file.Error() != 0) throw Refusal(file.Error());
+        if (file.Commit()) return;
+    }
 }
 
 }  // namespace pixano

@@ -4,6 +4,7 @@
 #include "files/byte_sink.h"
 #include "files/descriptor.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -19,7 +20,9 @@ class AtomicFile final : public ByteSink {
         Document,
         /// A file of the program's own: whatever has the name is replaced, links are not followed,
         /// only the user may read it; nothing waits for the disk.
-        Working
+        Working,
+        /// The same, but on disk before it takes its place.
+        Rescue
     };
 
     enum class Temporary {
@@ -51,5 +54,10 @@ class AtomicFile final : public ByteSink {
     Descriptor file_;
     std::optional<DescriptorSink> sink_;
 };
+
+/// Writes the file by `fill`, which may be called twice, and puts it in its place. When anything
+/// fails the old file is untouched and no new one is left. Throws Refusal, and what `fill` throws.
+void ReplaceFile(const std::string& path, AtomicFile::Purpose purpose,
+                 const std::function<void(ByteSink&)>& fill);
 
 }  // namespace pixano

@@ -47,8 +47,7 @@ class Descriptor {
     int number_ = -1;
 };
 
-/// Writes to an open file, pipe or terminal, which stays the caller's. A limit on the size of files
-/// is an error like any other: its signal is held off.
+/// Writes to an open file, pipe or terminal, which stays the caller's.
 class DescriptorSink final : public ByteSink {
   public:
     explicit DescriptorSink(int descriptor) : descriptor_(descriptor) {}

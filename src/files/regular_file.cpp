@@ -1,7 +1,6 @@
 #include "files/regular_file.h"
 
 #include "files/refusal.h"
-#include "files/system_reason.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,7 +13,7 @@ namespace {
     struct stat status {};
     if (error == ENOENT && lstat(path.c_str(), &status) == 0)
         throw Refusal("il collegamento porta a un file che non esiste");
-    throw Refusal(error == ENOENT ? "il file non esiste" : SystemReason(error));
+    throw Refusal(error);
 }
 
 }  // namespace
@@ -39,9 +38,8 @@ RegularFile OpenRegularFile(const std::string& path, Links links)
     RequireRegular(status.st_mode);
     const int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | (follow ? 0 : O_NOFOLLOW);
     Descriptor descriptor(Uninterrupted([&] { return open(path.c_str(), flags); }));
-    if (!descriptor || fstat(descriptor.Number(), &status) != 0) throw Refusal(SystemReason(errno));
+    if (!descriptor || fstat(descriptor.Number(), &status) != 0) throw Refusal(errno);
     RequireRegular(status.st_mode);
-    if (status.st_size == 0) throw Refusal("il file è vuoto");
     return {std::move(descriptor), static_cast<std::uint64_t>(status.st_size)};
 }
 

@@ -1,4 +1,4 @@
-// Opening a picture file for reading: regular files only, never waiting. Knows no format.
+// Opening a file for reading: regular files only, never waiting. Knows not what is in them.
 #pragma once
 
 #include "files/descriptor.h"
@@ -15,7 +15,7 @@ struct RegularFile {
     std::uint64_t size = 0;
 };
 
-/// Throws Refusal when `path` is missing, empty, no regular file or not readable.
+/// Throws Refusal when `path` (UTF-8) is missing, no regular file or not readable.
 RegularFile OpenRegularFile(const std::string& path, Links links);
 
 /// Throws Refusal, saying what it is, unless `mode` (of a stat) is a regular file's.

@@ -8,7 +8,7 @@ std::string SystemReason(int error)
 {
     switch (error) {
     case ENOENT:
-        return "il file o la cartella non esiste";
+        return "il file non esiste";
     case ENOTDIR:
         return "una parte del percorso non è una cartella";
     case EISDIR:
@@ -35,6 +35,8 @@ std::string SystemReason(int error)
         return "la memoria non basta";
     case EPIPE:
         return "chi riceve i dati ha smesso di leggere";
+    case EBADF:
+        return "il canale è chiuso";
     case EIO:
         return "il disco non risponde come dovrebbe";
     default:

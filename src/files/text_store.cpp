@@ -1,9 +1,10 @@
 #include "files/text_store.h"
 
-#include "canvas/fault.h"
+#include "files/own_file.h"
+#include "files/refusal.h"
+#include "files/regular_file.h"
 #include "files/value_text.h"
 
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <vector>
@@ -11,21 +12,18 @@
 namespace pixano {
 namespace {
 
-namespace fs = std::filesystem;
-
 class Text : public PixelFile::Store {
   public:
     using Window = PixelFile::Store::Window;
 
-    explicit Text(std::string name) : name_(std::move(name)), path_(fs::path(name_)) {}
+    explicit Text(std::string name) : name_(std::move(name)) {}
 
     Window Create() override
     {
         Close();
-        std::error_code error;
-        // Whatever bears the name is replaced, not followed: a link or a pipe goes like a file.
-        if (!fs::is_directory(fs::symlink_status(path_, error))) fs::remove(path_, error);
-        Open("wbx");
+        TakeNameInFull();
+        file_ = TellRefusal("scrivere", inFull_, [&] { return CreateOwnFile(name_); });
+        PrepareBuffers();
         unwritten_ = 0;
         return {values_.data(), values_.data() + ValuesPerWindow};
     }
@@ -46,17 +44,18 @@ class Text : public PixelFile::Store {
     {
         Append(end);
         WriteOut(unwritten_);
-        if (std::fclose(file_.release()) != 0) throw Fault(FaultKind::DiskFull, name_);
+        TellRefusal("scrivere", inFull_, [&] {
+            if (!file_.Close()) throw Refusal(errno);
+        });
     }
 
     void Open() override
     {
-        std::error_code error;
-        const fs::file_status status = fs::symlink_status(path_, error);
-        if (!fs::exists(status)) throw Fault(FaultKind::FileNotFound, name_);
-        // Opening a pipe would wait for ever; a link may lead anywhere.
-        if (!fs::is_regular_file(status)) throw Fault(FaultKind::FileAccess, name_);
-        Open("rb");
+        TakeNameInFull();
+        file_ = TellRefusal("leggere", inFull_, [&] {
+            return std::move(OpenRegularFile(name_, Links::Refused).descriptor);
+        });
+        PrepareBuffers();
         unread_ = {text_.data(), text_.data()};
         atEnd_ = false;
     }
@@ -73,13 +72,12 @@ class Text : public PixelFile::Store {
         }
     }
 
-    void Close() override { file_.reset(); }
+    void Close() override { file_ = Descriptor(); }
 
     void Kill() override
     {
-        std::error_code error;
-        if (!fs::remove(path_, error))
-            throw Fault(error ? FaultKind::FileAccess : FaultKind::FileNotFound, name_);
+        TakeNameInFull();
+        TellRefusal("eliminare", inFull_, [&] { DeleteOwnFile(name_); });
     }
 
   private:
@@ -90,24 +88,28 @@ class Text : public PixelFile::Store {
     static constexpr std::size_t BlockLength = 1 << 18;
     static constexpr std::size_t TextLength = BlockLength + ValuesPerWindow * LongestLine;
 
-    struct CloseFile {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
-    void Open(const char* mode)
+    void PrepareBuffers()
     {
-        file_.reset(std::fopen(path_.c_str(), mode));
-        if (!file_) throw Fault(FaultKind::FileAccess, name_);
-        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
         values_.resize(ValuesPerWindow);
         text_.resize(TextLength);
+    }
+
+    /// Messages name the folder too, which is the current one as a rule.
+    void TakeNameInFull()
+    {
+        std::error_code error;
+        inFull_ = std::filesystem::absolute(name_, error).string();
+        if (error) inFull_ = name_;
     }
 
     /// Writes the text's first `length` characters.
     void WriteOut(std::size_t length)
     {
-        if (std::fwrite(text_.data(), 1, length, file_.get()) != length)
-            throw Fault(FaultKind::DiskFull, name_);
+        TellRefusal("scrivere", inFull_, [&] {
+            DescriptorSink sink(file_.Number());
+            if (!sink.Write(std::as_bytes(std::span(text_).first(length))))
+                throw Refusal(sink.Error());
+        });
         unwritten_ -= length;
     }
 
@@ -119,8 +121,10 @@ class Text : public PixelFile::Store {
             ReadMore();
             item = TakeItem(unread_, atEnd_);
         }
-        if (!item) throw Fault(atEnd_ ? FaultKind::InputPastEnd : FaultKind::TypeMismatch, name_);
-        *value = ValueOf(*item, name_);
+        if (!item && atEnd_)
+            throw Fault(FaultKind::InputPastEnd, "Il file «" + inFull_ + "» finisce troppo presto");
+        // An item longer than any number is: let it be told as what it is.
+        *value = ValueOf(item.value_or("…"), inFull_);
         return value + 1;
     }
 
@@ -129,16 +133,21 @@ class Text : public PixelFile::Store {
         std::memmove(text_.data(), unread_.data(), unread_.size());
         // As much as the processor still has at hand when it is parsed.
         const std::size_t room = std::min(TextLength - unread_.size(), ReadLength);
-        const std::size_t got = std::fread(text_.data() + unread_.size(), 1, room, file_.get());
-        if (std::ferror(file_.get()) != 0) throw Fault(FaultKind::FileAccess, name_);
+        const ssize_t got = TellRefusal("leggere", inFull_, [&] {
+            char* const end = text_.data() + unread_.size();
+            const int count =
+                Uninterrupted([&] { return static_cast<int>(read(file_.Number(), end, room)); });
+            if (count < 0) throw Refusal(errno);
+            return count;
+        });
         atEnd_ = got == 0;
-        unread_ = {text_.data(), unread_.size() + got};
+        unread_ = {text_.data(), unread_.size() + static_cast<std::size_t>(got)};
     }
     static constexpr std::size_t ReadLength = 1 << 16;
 
     std::string name_;
-    fs::path path_;
-    std::unique_ptr<std::FILE, CloseFile> file_;
+    std::string inFull_;
+    Descriptor file_;
     std::vector<Colour> values_;
     std::vector<char> text_;
     /// How many characters at the start of the text are still to be written.

@@ -5,16 +5,14 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <string>
 
 namespace pixano {
 namespace {
-
-static_assert(std::endian::native == std::endian::little, "digits are handled as words");
 
 using FourDigits = std::array<char, 4>;
 
@@ -133,6 +131,11 @@ char* AppendLine(Colour value, char* text)
     return text + TailLength;
 }
 
+std::string InFile(std::string_view name)
+{
+    return "Nel file «" + std::string(name) + "» ";
+}
+
 bool IsBlank(char c)
 {
     return c == ' ' || c == '\t';
@@ -205,10 +208,12 @@ Colour ValueOf(std::string_view item, std::string_view name)
     double number = 0;
     const char* const end = item.data() + item.size();
     const auto [stop, error] = std::from_chars(item.data(), end, number);
-    if (error == std::errc::result_out_of_range) throw Fault(FaultKind::Overflow, name);
+    if (error == std::errc::result_out_of_range)
+        throw Fault(FaultKind::Overflow, InFile(name) + "c'è un numero troppo grande");
     // "inf" and "nan" are words here, not numbers.
     if (error != std::errc() || stop != end || !std::isfinite(number))
-        throw Fault(FaultKind::TypeMismatch, name);
+
+        throw Fault(FaultKind::TypeMismatch, InFile(name) + "c'è un testo al posto di un numero");
     return CLng(number);
 }
 

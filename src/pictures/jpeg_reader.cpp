@@ -22,8 +22,7 @@ constexpr int MostScans = 500;
 constexpr std::int64_t MostScannedPixels = std::int64_t{8} << 30;
 
 /// The layout of a surface's pixels: red in the lowest byte of a word, &HFF in the highest.
-constexpr J_COLOR_SPACE ReadLayout =
-    std::endian::native == std::endian::little ? JCS_EXT_RGBA : JCS_EXT_ABGR;
+constexpr J_COLOR_SPACE ReadLayout = JCS_EXT_RGBA;
 
 bool HasInks(const jpeg_decompress_struct& jpeg)
 {

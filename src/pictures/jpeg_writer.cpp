@@ -12,8 +12,7 @@ namespace {
 
 constexpr std::size_t OutputSize = 1 << 16;
 
-constexpr J_COLOR_SPACE WrittenLayout =
-    std::endian::native == std::endian::little ? JCS_EXT_RGBX : JCS_EXT_XBGR;
+constexpr J_COLOR_SPACE WrittenLayout = JCS_EXT_RGBX;
 
 /// libjpeg's view of a sink.
 class JpegTarget : public jpeg_destination_mgr {

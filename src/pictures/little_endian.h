@@ -17,7 +17,7 @@ inline std::uint32_t Load32(const std::byte* bytes)
 {
     std::uint32_t value = 0;
     std::memcpy(&value, bytes, sizeof value);
-    return std::endian::native == std::endian::little ? value : ByteSwapped(value);
+    return value;
 }
 
 inline std::uint16_t Load16(const std::byte* bytes)
@@ -28,7 +28,6 @@ inline std::uint16_t Load16(const std::byte* bytes)
 
 inline void Store32(std::byte* bytes, std::uint32_t value)
 {
-    if (std::endian::native != std::endian::little) value = ByteSwapped(value);
     std::memcpy(bytes, &value, sizeof value);
 }
 

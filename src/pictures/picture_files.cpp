@@ -3,30 +3,20 @@
 #include "files/atomic_file.h"
 #include "files/refusal.h"
 #include "files/regular_file.h"
-#include "files/system_reason.h"
 #include "pictures/decoders.h"
 #include "pictures/encoders.h"
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <string_view>
 
 namespace pixano {
 namespace {
 
-/// Runs `step`; what it refuses becomes a sentence about the file `name`.
 template <class Step>
-auto Telling(const std::string& verb, const std::string& name, Step step)
+auto Telling(const char* verb, const std::string& name, Step step)
 {
-    const std::string beginning = "Impossibile " + verb + " «" + name + "»: ";
-    try {
-        return step();
-    } catch (const Refusal& refusal) {
-        throw PictureError(beginning + refusal.what());
-    } catch (const std::bad_alloc&) {
-        throw PictureError(beginning + "la memoria non basta");
-    }
+    return TellRefusal<PictureError>(verb, name, step);
 }
 
 PictureRead DecodeByContent(ByteSource& source)
@@ -50,13 +40,14 @@ PictureRead Decode(ByteSource& source)
         // A file that could not be read to its end looks damaged: the cause is what counts.
         if (source.Error() == 0) throw;
     }
-    throw Refusal(SystemReason(source.Error()));
+    throw Refusal(source.Error());
 }
 
 PictureRead ReadFile(const std::string& path, Links links)
 {
     return Telling("leggere", path, [&] {
         const RegularFile file = OpenRegularFile(path, links);
+        if (file.size == 0) throw Refusal("il file è vuoto");
         ByteSource source(file.descriptor.Number(), file.size);
         return Decode(source);
     });
@@ -80,12 +71,7 @@ void WriteFile(const Surface& surface, const std::string& path, PictureFormat fo
                AtomicFile::Purpose purpose)
 {
     Telling("salvare", path, [&] {
-        const auto written = [&](AtomicFile::Temporary temporary) {
-            AtomicFile file(path, purpose, temporary);
-            EncodeAs(surface, format, file);
-            return file.Commit();
-        };
-        if (!written(AtomicFile::Temporary::Unnamed)) written(AtomicFile::Temporary::Named);
+        ReplaceFile(path, purpose, [&](ByteSink& file) { EncodeAs(surface, format, file); });
     });
 }
 
@@ -115,6 +101,11 @@ void SaveBitmap(const Surface& surface, const std::string& path)
     WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Document);
 }
 
+void SavePrivateBitmap(const Surface& surface, const std::string& path)
+{
+    WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Rescue);
+}
+
 void WriteWorkingBitmap(const Surface& surface, const std::string& path)
 {
     WriteFile(surface, path, PictureFormat::Bmp, AtomicFile::Purpose::Working);
@@ -128,8 +119,9 @@ PictureFormat FormatOf(const std::string& path)
     if (name.ends_with(".bmp")) return PictureFormat::Bmp;
     if (name.ends_with(".png")) return PictureFormat::Png;
     if (name.ends_with(".jpg") || name.ends_with(".jpeg")) return PictureFormat::Jpeg;
-    throw PictureError("Impossibile salvare «" + path +
-                       "»: il nome deve finire in .bmp, .png, .jpg o .jpeg");
+    throw PictureError(FaultKind::InvalidCall,
+                       "Impossibile salvare «" + path +
+                           "»: il nome deve finire in .bmp, .png, .jpg o .jpeg");
 }
 
 void SavePicture(const Surface& surface, const std::string& path)

@@ -1,21 +1,21 @@
 // Files of pictures: BMP, JPEG and GIF in; BMP, PNG and JPEG out. Knows pixels, no window.
 #pragma once
 
+#include "canvas/fault.h"
 #include "canvas/surface.h"
 #include "files/byte_sink.h"
 
 #include <cstddef>
 #include <span>
-#include <stdexcept>
 #include <string>
 
 namespace pixano {
 
 /// A picture file cannot be read or written. `what()` is one Italian sentence without a full stop,
 /// UTF-8, that names the file and says why.
-class PictureError : public std::runtime_error {
+class PictureError : public Fault {
   public:
-    using std::runtime_error::runtime_error;
+    using Fault::Fault;
 };
 
 struct PictureRead {
@@ -44,6 +44,9 @@ PictureRead ReadPictureFrom(std::span<const std::byte> content, const std::strin
 /// when anything fails the old file is untouched and no new one is left. A link stays, and the file
 /// that it leads to is replaced. Throws PictureError.
 void SaveBitmap(const Surface& surface, const std::string& path);
+
+/// The same for a picture that the program rescues: no link is followed, only the user may read it.
+void SavePrivateBitmap(const Surface& surface, const std::string& path);
 
 /// The same bytes for a file that the program writes for itself and deletes when it ends: whatever
 /// has that name is replaced when the new file is complete, links are not followed, only the user

@@ -55,9 +55,7 @@ class PngWriter {
         png_set_compression_level(png_, FastLevel);
         png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_SUB);
         png_write_info(png_, info_);
-        const bool little = std::endian::native == std::endian::little;
-        png_set_filler(png_, 0, little ? PNG_FILLER_AFTER : PNG_FILLER_BEFORE);
-        if (!little) png_set_bgr(png_);
+        png_set_filler(png_, 0, PNG_FILLER_AFTER);
     }
 
     static void Put(png_structp png, png_bytep bytes, std::size_t count)

@@ -23,9 +23,13 @@ void ReadStrength(Session& s, Form11& window)
 
 void Confirm(Session& s, Form11& window)
 {
-    s.doc.Confermato = 0;
-    SalvaValori(file::Strengths.toStdString(), s.work.Valori);
     s.doc.Confermato = 1;
+    try {
+        SalvaValori(NativePath(file::Strengths).toStdString(), s.work.Valori);
+    } catch (const Fault& fault) {
+        s.remarks += QString::fromUtf8(fault.what()) +
+                     ". La forza vale per questa volta, ma non sarà ricordata";
+    }
     window.accept();
 }
 
@@ -37,23 +41,21 @@ void AskStrengthAndRun(Session& s, const Effect& effect)
     s.work.IndValore = static_cast<std::int16_t>(effect.selector);
     QObject::connect(&window, &Form11::Resized, [&] {
         if (s.ending) return;
-        RunWithinCommand(s, name, FaultEnds::Program, [&] { ReadStrength(s, window); });
+        RunWithinCommand(s, name, Fatal::All, [&] { ReadStrength(s, window); });
         // The window is only about to be shown and cannot be closed from here.
         if (s.ending) QTimer::singleShot(0, &window, &QDialog::reject);
     });
     QObject::connect(&window, &Form11::Moved, [&](int value) {
         s.work.Valori.at(static_cast<std::size_t>(s.work.IndValore)) = value;
     });
-    QObject::connect(&window, &Form11::Confirmed, [&] {
-        RunWithinCommand(s, name, FaultEnds::Command, [&] { Confirm(s, window); });
-    });
+    QObject::connect(&window, &Form11::Confirmed, [&] { Confirm(s, window); });
     window.exec();
     if (std::exchange(s.doc.Confermato, 0) == 1 && !s.ending) RunEffect(s, effect);
 }
 
 void StartEffect(Session& s, const Effect& effect)
 {
-    Run(s, NameOf(effect), effect.faultEnds, [&] {
+    RunCommand(s, NameOf(effect), effect.fatal, [&] {
         if (effect.selector == 0)
             RunEffect(s, effect);
         else
@@ -66,7 +68,7 @@ void StartEffect(Session& s, const Effect& effect)
 void Start(Session& s, const Starts& starts)
 {
     if (const auto* const command = std::get_if<Command>(&starts))
-        Run(s, command->name, command->ends, [&] { command->run(s); });
+        RunCommand(s, command->name, command->fatal, [&] { command->run(s); });
     else if (const auto* const effect = std::get_if<const Effect*>(&starts))
         StartEffect(s, **effect);
 }

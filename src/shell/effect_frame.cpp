@@ -1,6 +1,5 @@
 #include "shell/effect_frame.h"
 
-#include "document/canvas_copy.h"
 #include "document/captions.h"
 #include "document/history.h"
 #include "document/places.h"
@@ -25,12 +24,6 @@ void MoveCheckMark(Session& s, const Effect& effect)
     s.doc.VoceAttiva = *position;
 }
 
-void UnloadProgress(Session& s)
-{
-    s.form4.hide();
-    Form4_Unload(s);
-}
-
 /// The effects that set `Modificato` before the progress window goes: kept exactly. All others set
 /// it last.
 constexpr std::array ModifiedFirst{EffectOf(Sinvert),  EffectOf(Desvert),   EffectOf(Super),
@@ -40,29 +33,38 @@ constexpr std::array ModifiedFirst{EffectOf(Sinvert),  EffectOf(Desvert),   Effe
                                    EffectOf(Incentro), EffectOf(Multifoto), EffectOf(MiniRnd),
                                    EffectOf(MixVert),  EffectOf(MixOriz),   EffectOf(MixMultif)};
 
-void Close(Session& s, const Effect& effect)
+/// The steps after the loops. The picture counts whatever fails in one of them.
+void Close(Session& s, const Effect& effect, FirstFault& fault)
 {
     if (std::ranges::find(ModifiedFirst, &effect) != ModifiedFirst.end()) s.doc.Modificato = 1;
-    UnloadProgress(s);
+    fault.Try([&] { Form4_Unload(s); });
     if (effect.captioned) s.form2.setWindowTitle(EffectCaption(s));
     s.doc.Modificato = 1;
-    NoteCanvasCopy(s, file::PreviewCopy);
 }
 
 }  // namespace
 
 void RunEffect(Session& s, const Effect& effect)
 {
-    Abil(s);
-    RunOnCanvas(s.work, effect, [&] {
+    const auto before = [&] {
         MoveCheckMark(s, effect);
         s.doc.Effetto = NameOf(effect);
         s.doc.FileUndo = file::Undo;
         SaveWorkingPicture(s.work.Picture1, s.doc.FileUndo);
+        if (s.doc.canvasCopy.isEmpty()) s.doc.canvasCopy = NativePath(s.doc.FileUndo);
         s.drawing = true;
-    });
-    s.drawing = false;
-    Close(s, effect);
+    };
+    bool done = false;
+    const auto after = [&] {
+        s.drawing = false;
+        s.doc.canvasCopy.clear();
+        done = true;
+    };
+    Abil(s);
+    FirstFault fault;
+    fault.Try([&] { RunOnCanvas(s.work, effect, {before, after}); });
+    if (done) Close(s, effect, fault);
+    fault.Throw();
 }
 
 QString NameOf(const Effect& effect)
@@ -72,13 +74,16 @@ QString NameOf(const Effect& effect)
 
 void Form4_Unload(Session& s)
 {
+    FirstFault fault;
+    s.form4.Unload();
     s.progress.Unloaded();
     // A window that a fault left open can outlive the document: there is nothing to show then.
-    if (s.doc.open) Mostra(s);
+    if (s.doc.open) fault.Try([&] { Mostra(s); });
     s.form10.EnableHistory({.annulla = s.doc.NumEffetti > 1 ? Switch(true) : std::nullopt,
                             .originale = true,
                             .ripristina = std::nullopt});
     s.form10.ShowHourglass(false);
+    fault.Throw();
 }
 
 }  // namespace pixano

@@ -6,8 +6,9 @@
 
 namespace pixano {
 
-/// Runs the effect on the canvas as its row says. Throws Fault; the canvas is then half drawn, and
-/// the progress window and the pixel working file are left as they were.
+/// Runs the effect on the canvas as its row says. Throws Fault. One in the loops leaves the canvas
+/// half drawn, and the progress window and the pixel working file as they were; after the loops all
+/// other steps are done first.
 void RunEffect(Session& s, const Effect& effect);
 
 /// The name that the user knows the effect by.

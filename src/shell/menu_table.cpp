@@ -73,7 +73,7 @@ constexpr auto Entries = std::to_array<MenuEntry>({
     {"Capov",      "Capovolgi",               "Invers",   Picture,            EffectOf(Capov)},
     {"Multifoto",  "&Multifoto",              "File",     Picture,            EffectOf(Multifoto)},
     {"Menon",      "-",                       "File"},
-    {"Esci",       "&Esci...",                "File",     Nothing,            Command{"Esci", Esci_Click, FaultEnds::Program}},
+    {"Esci",       "&Esci...",                "File",     Nothing,            Command{"Esci", Esci_Click, Fatal::All}},
     {"Effetti",    "&Effetti",                ""},
     {"MiniRnd",    "&Mini Foto Rnd",          "Effetti",  Picture,            EffectOf(MiniRnd)},
     {"Mulstep",    "Multi &Step",             "Effetti",  Picture},

@@ -1,6 +1,7 @@
 #include "shell/only_instance.h"
 
-#include "canvas/fault.h"
+#include "files/refusal.h"
+#include "files/regular_file.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -11,20 +12,24 @@ namespace {
 
 constexpr int Flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
 
-bool IsRegular(const Descriptor& file)
+Descriptor OpenLock(const std::string& path)
 {
     struct stat status {};
-    return file && fstat(file.Number(), &status) == 0 && S_ISREG(status.st_mode);
+    Descriptor file(Uninterrupted([&] { return open(path.c_str(), Flags, 0600); }));
+    if (!file || fstat(file.Number(), &status) != 0) throw Refusal(errno);
+    RequireRegular(status.st_mode);
+    return file;
 }
 
 }  // namespace
 
 OnlyInstance::OnlyInstance(const QString& path)
-    : file_(open(path.toStdString().c_str(), Flags, 0600))
 {
-    if (!IsRegular(file_)) throw Fault(FaultKind::FileAccess, path.toStdString());
-    held_ = flock(file_.Number(), LOCK_EX | LOCK_NB) == 0;
-    if (!held_ && errno != EWOULDBLOCK) throw Fault(FaultKind::FileAccess, path.toStdString());
+    TellRefusal("usare", path.toStdString(), [&] {
+        file_ = OpenLock(path.toStdString());
+        held_ = flock(file_.Number(), LOCK_EX | LOCK_NB) == 0;
+        if (!held_ && errno != EWOULDBLOCK) throw Refusal(errno);
+    });
 }
 
 }  // namespace pixano

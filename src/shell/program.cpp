@@ -70,14 +70,14 @@ int RunSession(Session& session, const Options& options)
     // Relative to the folder that the user is in, whichever one the program works in.
     const QString picture =
         options.picture.isEmpty() ? QString() : QDir().absoluteFilePath(options.picture);
-    Run(session, "Avvio", FaultEnds::Program, [&] {
+    RunCommand(session, "Avvio", Fatal::All, [&] {
         if (options.fromMenu) WorkInDataFolder(session);
         Form_Load(session);
         // A picture that cannot be brought back is no reason not to start.
-        RunWithinCommand(session, "Recupero", FaultEnds::Command, [&] { OfferRecovery(session); });
+        RunWithinCommand(session, "Recupero", Fatal::None, [&] { OfferRecovery(session); });
     });
     if (!session.ending && !picture.isEmpty())
-        Run(session, "Apri", FaultEnds::Command, [&] { OpenNamed(session, picture); });
+        RunCommand(session, "Apri", Fatal::None, [&] { OpenNamed(session, picture); });
     return session.ending ? *session.ending : QApplication::exec();
 }
 

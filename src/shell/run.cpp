@@ -23,53 +23,75 @@ QString KeepUnsavedWork(const Session& s)
         const QString path = DataFolder() + "/lavoro-" + stamp + ".bmp";
         const Surface& canvas = s.work.Picture1;
         if (s.drawing)
-            SaveBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), path.toStdString());
+            SavePrivateBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), path.toStdString());
         else
-            SaveBitmap(canvas, path.toStdString());
-        return "\n\nIl lavoro non salvato è stato conservato nel file " + path;
+            SavePrivateBitmap(canvas, path.toStdString());
+        return "\n\nIl lavoro non salvato è stato conservato nel file «" + path + "».";
     } catch (const std::exception& error) {
-        return "\n\nIl lavoro non salvato non è stato conservato: " +
-               QString::fromUtf8(error.what());
+        return "\n\nIl lavoro non salvato non è stato conservato. " +
+               QString::fromUtf8(error.what()) + '.';
     }
 }
 
-void TellFault(Session& s, const QString& name, FaultEnds ends, const QString& what)
+/// What a run-time error leaves behind, or a command has remarked, is told in one box, once the
+/// user sees the canvas that it speaks of.
+void Tell(Session& s, BoxIcon icon, QString text)
 {
-    QString text = "Errore durante il comando \"" + name + "\":\n" + what + '.';
-    const bool ending = ends == FaultEnds::Program;
-    if (ending) text += KeepUnsavedWork(s) + "\n\nIl programma termina.";
-    s.dialogs.Tell(BoxIcon::Critical, title::Warning, text);
-    if (ending) EndProgram(s, 1);
+    s.remarks.removeDuplicates();
+    for (const QString& remark : std::exchange(s.remarks, {}))
+        text += (text.isEmpty() ? "" : "\n\n") + remark + '.';
+    s.form2.Picture1().repaint();
+    s.form9.Image1().repaint();
+    s.dialogs.Tell(icon, title::Warning, text);
 }
 
-/// A request that cannot be fulfilled ends only the command, whatever else a fault in it would end.
-FaultEnds WhatEnds(const Fault& fault, FaultEnds ends)
+/// The palette is as the menus are, and its pointer that of a program that waits.
+void SettlePalette(Session& s)
 {
-    return fault.Kind() == FaultKind::InvalidCall ? FaultEnds::Command : ends;
+    const auto on = [&s](const char* name) { return s.form1.Enabled(name); };
+    s.form10.EnableHistory({.annulla = on(control::Undo),
+                            .originale = on(control::Orig),
+                            .ripristina = on(control::Redo)});
+    s.form10.ShowHourglass(false);
+}
+
+void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault)
+{
+    SettlePalette(s);
+    QString text =
+        "Errore durante il comando \"" + name + "\":\n" + QString::fromUtf8(fault.what()) + '.';
+    const bool ending = EndsProgram(fatal, fault.Kind());
+    if (ending)
+        text += KeepUnsavedWork(s) + "\n\nIl programma termina.";
+    else
+        SecureCanvas(s);
+    Tell(s, BoxIcon::Critical, text);
+    if (ending) EndProgram(s, 1);
 }
 
 }  // namespace
 
-void RunWithinCommand(Session& s, const QString& name, FaultEnds ends,
+void RunWithinCommand(Session& s, const QString& name, Fatal fatal,
                       const std::function<void()>& command)
 {
     try {
         command();
     } catch (const Fault& fault) {
-        TellFault(s, name, WhatEnds(fault, ends), QString::fromUtf8(fault.what()));
+        EndByFault(s, name, fatal, fault);
     } catch (const std::bad_alloc&) {
-        TellFault(s, name, ends, "Memoria insufficiente");
+        EndByFault(s, name, fatal, Fault(FaultKind::OutOfMemory));
     }
 }
 
-void Run(Session& s, const QString& name, FaultEnds ends, const std::function<void()>& command)
+void RunCommand(Session& s, const QString& name, Fatal fatal, const std::function<void()>& command)
 {
     if (s.busy) return;
     s.busy = true;
     s.drawing = false;
-    RunWithinCommand(s, name, ends, command);
-    if (s.doc.Modificato == 0) ForgetCanvasCopy();
+    RunWithinCommand(s, name, fatal, command);
+    if (!s.ending) SecureCanvas(s);
     s.form2.Picture1().update();
+    if (!s.remarks.isEmpty()) Tell(s, BoxIcon::Exclamation, {});
     s.busy = false;
 }
 

@@ -34,11 +34,12 @@ bool Form_Unload(Session& s)
     if (!CloseDocument(s)) return false;
     // Only now is it certain that the history is needed no more. What it holds is disowned first,
     // lest a run that ends in between seem to have lost it.
-    ForgetCanvasCopy();
+    ForgetCanvasCopy(s);
     KillWorkingPicture(file::Undo);
     KillWorkingPicture(file::Redo);
     for (const QString& name : s.doc.pasted)
         KillWorkingPicture(name);
+    KillWorkingPicture(file::SpareCopy);
     if (s.doc.previewCopied) KillWorkingPicture(file::PreviewCopy);
     EndProgram(s, 0);
     return true;

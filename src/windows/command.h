@@ -13,8 +13,7 @@ struct Session;
 struct Command {
     const char* name;  ///< what it is called in messages, UTF-8
     void (*run)(Session&);
-    /// What a run-time error in it ends.
-    FaultEnds ends = FaultEnds::Command;
+    Fatal fatal = Fatal::None;  ///< the run-time errors in it that end the program
 
     friend bool operator==(const Command&, const Command&) = default;
 };

@@ -31,6 +31,7 @@ class Form1 : public QMainWindow {
     std::optional<int> PositionOf(const Effect& effect) const;
     /// Switches the entry of that name on or off.
     void Enable(const char* name, bool on) const { Control(PositionOf(name)).setEnabled(on); }
+    bool Enabled(const char* name) const { return Control(PositionOf(name)).isEnabled(); }
     /// Sets or takes away the check mark of the entry at `position`.
     void Check(int position, bool checked);
 

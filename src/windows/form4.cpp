@@ -36,6 +36,7 @@ Form4::Form4() : bar_(new QProgressBar)
     bar_->setObjectName("ProgressBar1");
     bar_->setAccessibleName("Avanzamento");
     bar_->setRange(0, BarMaximum);
+    bar_->setValue(0);
     // The title says how much is done; the bar is painted less often and would say less.
     bar_->setTextVisible(false);
     auto* const layout = new QVBoxLayout(this);
@@ -43,10 +44,16 @@ Form4::Form4() : bar_(new QProgressBar)
     setFixedSize(Inside.expandedTo(layout->sizeHint()));
 }
 
+void Form4::Unload()
+{
+    hide();
+    bar_->setValue(0);
+    setWindowTitle("");
+}
+
 void Form4::Show()
 {
     SetCaption("Elab. " + effectName().toStdString());
-    bar_->setValue(0);
     if (!isVisible()) {
         const QRect free = screen()->availableGeometry();
         move(free.center() - rect().center());

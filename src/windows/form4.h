@@ -20,6 +20,9 @@ class Form4 : public QWidget, public ProgressWindow {
     /// The effect's name, asked when the window is shown.
     std::function<QString()> effectName = [] { return QString(); };
 
+    /// The window goes; the next one is new: its bar is empty, and so is its title.
+    void Unload();
+
     void Show() override;
     void SetBar(float value) override;
     float Bar() const override { return static_cast<float>(bar_->value()); }

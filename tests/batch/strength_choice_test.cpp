@@ -38,7 +38,8 @@ TEST_F(StrengthChoice, NeedsTheFileOnlyWhenNoStrengthIsGiven)
     EXPECT_EQ(Run({"-e", "Vetro=3000", "-e", "Specchio", "-o", "b.bmp", "a.bmp"}).status, 0);
     const Ran ran = Run({"-e", "Vetro=3000", "-e", "Vetro", "-o", "c.bmp", "a.bmp"});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err, HasSubstr("File non trovato: " + File("valori.tip")));
+    EXPECT_THAT(ran.err,
+                HasSubstr("Impossibile leggere «" + File("valori.tip") + "»: il file non esiste"));
     EXPECT_FALSE(Exists("c.bmp"));
 }
 
@@ -47,7 +48,7 @@ TEST_F(StrengthChoice, FailsOnAFileThatIsTooShort)
     WriteBytes(File("valori.tip"), "1\r\n2\r\n3\r\n4\r\n");
     const Ran ran = Run({"-e", "Vetro", "-o", "c.bmp", "a.bmp"});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err, HasSubstr("Lettura oltre la fine del file"));
+    EXPECT_THAT(ran.err, HasSubstr("«" + File("valori.tip") + "» finisce prima dei cinque valori"));
     EXPECT_FALSE(Exists("c.bmp"));
 }
 

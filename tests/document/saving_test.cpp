@@ -23,9 +23,8 @@ class Saving : public Program {
     }
     static ShownBox NotSaved(const QString& path, const QString& why)
     {
-        return {BoxIcon::Critical, "Attenzione!",
-                "Il file " + path + " non è stato salvato.\nImpossibile salvare «" + path +
-                    "»: " + why + "."};
+        return {BoxIcon::Exclamation, "Attenzione!",
+                "Impossibile salvare «" + path + "»: " + why + "."};
     }
 };
 

@@ -115,13 +115,27 @@ std::set<std::string_view> NamesWhere(Says says)
     return names;
 }
 
-TEST(Catalogue, EndsTheProgramAtFaultsInTheEightThatPutThePictureTogether)
+TEST(Catalogue, EndsTheProgramAtAnIndexOutsideTheMatrixInEight)
 {
-    EXPECT_EQ(NamesWhere([](const Effect& e) { return e.faultEnds == FaultEnds::Program; }),
+    EXPECT_EQ(NamesWhere([](const Effect& e) {
+                  return EndsProgram(e.fatal, FaultKind::SubscriptOutOfRange);
+              }),
               (std::set<std::string_view>{"Mini Foto Rnd", "Multi Step Verticale",
                                           "Multi Step Orizzontale", "MultiFoto Step",
                                           "Deformazione Casuale", "Mix Verticale",
                                           "Mix Orizzontale", "Mix Multifoto"}));
+    EXPECT_EQ(
+        NamesWhere([](const Effect& e) { return EndsProgram(e.fatal, FaultKind::DivisionByZero); }),
+        (std::set<std::string_view>{"Deformazione Casuale"}));
+}
+
+TEST(Catalogue, EndsOnlyTheCommandAtEveryOtherFault)
+{
+    for (const auto kind : {FaultKind::Overflow, FaultKind::TypeMismatch, FaultKind::InputPastEnd,
+                            FaultKind::FileNotFound, FaultKind::FileAccess, FaultKind::DiskFull,
+                            FaultKind::InvalidCall, FaultKind::OutOfMemory})
+        EXPECT_TRUE(
+            NamesWhere([&](const Effect& e) { return EndsProgram(e.fatal, kind); }).empty());
 }
 
 TEST(Catalogue, LeavesTheCaptionToOneEffect)

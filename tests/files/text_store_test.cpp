@@ -208,7 +208,8 @@ TEST_F(TextFile, IsNamedInTheMessage)
         file.Input();
         FAIL() << "no fault";
     } catch (const Fault& fault) {
-        EXPECT_EQ(std::string(fault.what()), "File non trovato: " + path.string());
+        EXPECT_EQ(std::string(fault.what()),
+                  "Impossibile leggere «" + path.string() + "»: il file non esiste");
     }
 }
 

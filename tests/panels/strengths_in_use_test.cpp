@@ -14,17 +14,14 @@ class StrengthsInUse : public Program {
   protected:
     StrengthsInUse()
     {
-        QDir(folder_.path()).mkdir("program");
-        session.programFolder = folder_.filePath("program");
+        QDir(Root()).mkdir("program");
+        session.programFolder = Root() + "/program";
         Ship("1000\r\n2000\r\n3000\r\n4000\r\n4500\r\n");
         Open("a.bmp", Varied(9, 7));
     }
 
     /// Puts a "valori.tip" beside the program.
-    void Ship(const std::string& content)
-    {
-        Write(folder_.filePath("program/valori.tip"), content);
-    }
+    void Ship(const std::string& content) { Write(Root() + "/program/valori.tip", content); }
     /// Presses "Vetro" and does something in the slider window.
     void PressVetro(const std::function<void(QWidget&)>& act) { Ask("SSCommand6", act); }
     void Ask(const char* button, const std::function<void(QWidget&)>& act)
@@ -206,20 +203,18 @@ TEST_F(StrengthsInUse, WithoutANumberAreNothing)
     EXPECT_EQ(session.work.Valori, Strengths{});
 }
 
-TEST_F(StrengthsInUse, ThatCannotBeWrittenLeaveTheWindowOpen)
+TEST_F(StrengthsInUse, ThatCannotBeWrittenHoldForThisTime)
 {
     QDir().mkdir("valori.tip");
-    PressVetro([this](QWidget& window) {
-        Confirm(window);
-        EXPECT_TRUE(window.isVisible());
-        ASSERT_EQ(dialogs.told.size(), 1U);
-        EXPECT_EQ(dialogs.told.front().title, "Attenzione!");
-        Cancel(window);
-    });
-    EXPECT_EQ(session.doc.NumEffetti, 0);
-    EXPECT_FALSE(session.ending);
+    PressVetro(Confirm);
+    EXPECT_EQ(session.doc.Effetto, "Vetro");
+    EXPECT_EQ(session.doc.Modificato, 1);
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    EXPECT_EQ(dialogs.told.front().text, "Impossibile salvare «" + Path("valori.tip") +
+                                             "»: è una cartella. La forza vale per questa volta, "
+                                             "ma non sarà ricordata.");
     PressVetro(Cancel);
-    EXPECT_EQ(session.doc.NumEffetti, 0) << "the failed confirmation must not count later";
+    EXPECT_EQ(session.doc.NumEffetti, 1) << "the confirmation must not count again";
 }
 
 // ---- a file that is missing or too short ends the program ----
@@ -239,14 +234,14 @@ class UnreadableStrengths : public StrengthsInUse {
 
 TEST_F(UnreadableStrengths, EndTheProgramWithItsMessage)
 {
-    QFile::remove(folder_.filePath("program/valori.tip"));
+    QFile::remove(Root() + "/program/valori.tip");
     PressVetroInVain();
     ASSERT_EQ(dialogs.told.size(), 1U);
     const ShownBox& box = dialogs.told.front();
     EXPECT_EQ(box.icon, BoxIcon::Critical);
     EXPECT_EQ(box.title, "Attenzione!");
     EXPECT_TRUE(box.text.contains("\"Vetro\"")) << box;
-    EXPECT_TRUE(box.text.contains(folder_.filePath("program/valori.tip"))) << box;
+    EXPECT_TRUE(box.text.contains(Root() + "/program/valori.tip")) << box;
     EXPECT_TRUE(box.text.endsWith("Il programma termina.")) << box;
     EXPECT_EQ(session.ending, 1);
     EXPECT_TRUE(KeptWork().isEmpty()) << "nothing was unsaved";

@@ -2,7 +2,7 @@
 // working file is there.
 #pragma once
 
-#include "reliability/desk.h"
+#include "support/desk.h"
 
 namespace pixano::test {
 
@@ -20,25 +20,25 @@ class Busy {
   public:
     explicit Busy(const QString& name = "a.bmp")
     {
-        WriteWorkingBitmap(OpenedPicture(), Folders::Work(name).toStdString());
-        WriteWorkingBitmap(Surface(3, 2, 0xFF), Folders::Work("b.bmp").toStdString());
+        WriteWorkingBitmap(OpenedPicture(), Folders::Path(name).toStdString());
+        WriteWorkingBitmap(Surface(3, 2, 0xFF), Folders::Path("b.bmp").toStdString());
         QFile strengths("valori.tip");
         EXPECT_TRUE(strengths.open(QIODevice::WriteOnly));
         strengths.write("1\r\n2\r\n3\r\n4\r\n5\r\n");
         strengths.close();
         desk.session.programFolder = QDir::currentPath();
-        desk.Open(Folders::Work(name));
+        desk.Open(Folders::Path(name));
         desk.Apply("Specchio");
         first = desk.Canvas();
         desk.Apply("Capovolgi");
         second = desk.Canvas();
-        desk.Click(entry::Undo);
-        desk.Click(entry::Redo);
+        desk.ClickEntry(entry::Undo);
+        desk.ClickEntry(entry::Redo);
         EXPECT_EQ(desk.Canvas(), second);
         EXPECT_TRUE(desk.dialogs.told.empty());
     }
 
-    Desk desk;
+    StartedDesk desk;
     /// After one effect, and after both.
     Surface first;
     Surface second;

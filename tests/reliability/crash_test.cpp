@@ -1,8 +1,9 @@
 // The program killed at random moments and at every moment that matters: the next start has to
 // bring back what was unsaved, and nothing else.
 #include "reliability/child.h"
-#include "reliability/desk.h"
 #include "reliability/knowledge.h"
+#include "reliability/preload/failing_calls.h"
+#include "support/desk.h"
 
 #include <array>
 #include <csignal>
@@ -100,8 +101,11 @@ struct KilledAt {
 
 KilledAt KillAtChange(unsigned seed, int commands, int n)
 {
+    constexpr unsigned Change = Opens | Writes | Names | Deletes;
+    const std::string at = std::to_string(n);
     Child victim({Victim, std::to_string(seed), std::to_string(commands)},
-                 {{"LD_PRELOAD", PIXANO_DEADLY_CHANGES}, {"PIXANO_DIE_AT", std::to_string(n)}});
+                 {{"LD_PRELOAD", FAILING_CALLS},
+                  {"PIXANO_FAILING_CALLS", at + " " + at + " 0 " + std::to_string(Change)}});
     KilledAt killed;
     killed.lines = victim.Rest();
     killed.end = victim.Wait();

@@ -1,7 +1,7 @@
 // A picture in a folder that somebody else has made: nothing is executed, loaded or written there,
 // and no link there leads the program anywhere.
 #include "reliability/child.h"
-#include "reliability/desk.h"
+#include "support/desk.h"
 #include "support/effect_run.h"
 
 #include <gmock/gmock.h>

@@ -153,6 +153,9 @@ std::optional<FaultKind> Model::RunEffect(const Effect& effect)
     } catch (const Fault& fault) {
         progressShown = progressShown || mirror_.progress.shownAfter >= 0;
         fileLeft = fileLeft || MakesPixelFile(effect);
+        paletteUndo = Enabled(Undo_);
+        paletteOriginal = Enabled(Orig);
+        paletteRedo = Enabled(Redo_);
         return fault.Kind();
     }
     if (MakesPixelFile(effect)) fileLeft = false;

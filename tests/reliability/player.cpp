@@ -200,7 +200,7 @@ void Player::PlanEffect(const Effect& effect, std::string& text)
     if (!fault) return;
     text += " (ends in a run-time error)";
     ++told;
-    ended = effect.faultEnds == FaultEnds::Program && *fault != FaultKind::InvalidCall;
+    ended = EndsProgram(effect.fatal, *fault);
 }
 
 Player::Command Player::MenuEffect()

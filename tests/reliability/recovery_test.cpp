@@ -4,10 +4,10 @@
 #include "reliability/busy.h"
 #include "reliability/checksum.h"
 #include "reliability/child.h"
-#include "reliability/hard_times.h"
 #include "reliability/knowledge.h"
 #include "reliability/tampering.h"
 #include "shell/only_instance.h"
+#include "support/hindrances.h"
 
 #include <QClipboard>
 
@@ -43,7 +43,7 @@ class Recovery : public testing::Test {
         const Busy busy(name);
         unsaved = Checksum(busy.second);
         // The next run finds a picture, so it need not make any.
-        WriteWorkingBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
+        WriteWorkingBitmap(Surface(2, 2), Folders::Path("figura 1.bmp").toStdString());
     }
     /// The pictures put aside in the data folder.
     std::set<std::string> Aside() const
@@ -89,7 +89,7 @@ TEST_F(Recovery, KeepsWhatIsNotWantedOnAFullDiskToo)
     Crash();
     std::vector<std::string> lines;
     {
-        const FullDisk disk(100);
+        const FileSizeLimit disk(100);
         lines = NextStart("no");
     }
     EXPECT_THAT(lines, Offered);
@@ -120,11 +120,11 @@ TEST_F(Recovery, BringsAPastedPictureBackAndKeepsItsFileUntilTheEnd)
     copied.setPixelColor(0, 0, Qt::blue);
     QApplication::clipboard()->setImage(copied);
     {
-        Desk desk;
+        StartedDesk desk;
         emit desk.session.form1.Pasted();
         desk.Apply("Specchio");
         unsaved = Checksum(desk.Canvas());
-        WriteWorkingBitmap(Surface(2, 2), Folders::Work("figura 1.bmp").toStdString());
+        WriteWorkingBitmap(Surface(2, 2), Folders::Path("figura 1.bmp").toStdString());
     }
     const auto pasted = [this] { return QDir(folders.Data("")).entryList({"appunti-*"}); };
     EXPECT_EQ(pasted().size(), 1);
@@ -156,8 +156,8 @@ TEST_F(Recovery, ClearsAwayWhatWasNotFinished)
 TEST_F(Recovery, RefusesToStartWithoutALock)
 {
     Crash();
-    const AnybodysRights rights(folders.Root());
-    const Locked locked(folders.Data(""));
+    const OrdinaryUser user{folders.Root().toStdString()};
+    const Locked locked(folders.Data("").toStdString());
     EXPECT_THROW(OnlyInstance(folders.Data("pixano.lock")), Fault);
 }
 
@@ -223,7 +223,7 @@ TEST_P(Tampered, LockIsReplacedOrReported)
     if (file) {
         EXPECT_THAT(NextStart(), AllOf(Offered, Contains(Ready(unsaved)), Contains("status 0")));
     } else {
-        EXPECT_THAT(NextStart(), AllOf(Contains(StartsWith("refused Impossibile accedere al file")),
+        EXPECT_THAT(NextStart(), AllOf(Contains(StartsWith("refused Impossibile usare «")),
                                        Not(Offered), Contains("status 1")));
         QDir().remove(folders.Data("pixano.lock"));
         QDir().rmdir(folders.Data("pixano.lock"));

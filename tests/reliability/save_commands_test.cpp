@@ -47,10 +47,9 @@ class FailingCommand : public Program {
     void ExpectTold(const QString& name)
     {
         ASSERT_EQ(dialogs.told.size(), 1U);
-        EXPECT_EQ(dialogs.told[0].icon, BoxIcon::Critical);
+        EXPECT_EQ(dialogs.told[0].icon, BoxIcon::Exclamation);
         EXPECT_EQ(dialogs.told[0].title, "Attenzione!");
-        const QString text =
-            "Il file " + name + " non è stato salvato.\nImpossibile salvare «" + name + "»: ";
+        const QString text = "Impossibile salvare «" + name + "»: ";
         EXPECT_THAT(dialogs.told[0].text.toStdString(), StartsWith(text.toStdString()));
         dialogs.told.clear();
     }
@@ -99,6 +98,7 @@ TEST_F(FailingCommand, SaveFile)
         // As after another effect.
         WriteBytes(target.toStdString(), old);
         session.doc.Modificato = 1;
+        session.doc.notedCopy = session.doc.canvasCopy;
         session.form1.Enable(control::Salva, true);
     }
 }
@@ -176,8 +176,7 @@ TEST_F(FailingCommand, ALimitOnTheSizeOfFiles)
 
 TEST_F(FailingCommand, AFolderInWhichNothingMayBeWritten)
 {
-    const OrdinaryUser user{Path("altra").toStdString(), target.toStdString(),
-                            folder_.path().toStdString()};
+    const OrdinaryUser user{Root().toStdString()};
     chmod("altra", 0555);
     dialogs.answers.push_back(true);
     SaveAs(target);

@@ -1,7 +1,7 @@
 // Long random series of commands, given to the real windows as a user gives them. After every
 // command the program has to be as a plain model of it says.
-#include "reliability/desk.h"
 #include "reliability/player.h"
+#include "support/desk.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -59,7 +59,7 @@ class OneSequence {
     }
 
     Folders folders_;
-    Desk desk_;
+    StartedDesk desk_;
     Player player_;
 };
 

@@ -36,14 +36,12 @@ pixano_reliability_tests(sequences_test sequences_test.cpp player.cpp model.cpp)
 pixano_long_form(sequences_test)
 
 # Killed, and started again. Not with the sanitizers: nothing may be loaded before theirs.
-if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+if(NOT PIXANO_SANITIZED)
   pixano_windowed(pixano-victim victim.cpp player.cpp model.cpp)
-  add_library(deadly_changes SHARED ${RELIABILITY}/deadly_changes.cpp)
-  target_link_libraries(deadly_changes PRIVATE pixano_options)
   pixano_reliability_tests(crash_test crash_test.cpp child.cpp knowledge.cpp)
   target_compile_definitions(crash_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>"
-                                                PIXANO_DEADLY_CHANGES="$<TARGET_FILE:deadly_changes>")
-  add_dependencies(crash_test pixano-victim deadly_changes)
+                                                FAILING_CALLS="$<TARGET_FILE:failing_calls>")
+  add_dependencies(crash_test pixano-victim failing_calls)
   pixano_long_form(crash_test)
   # No one is killed here: every process comes to its end, and tells which lines it ran.
   pixano_reliability_tests(recovery_test recovery_test.cpp child.cpp knowledge.cpp)

@@ -138,11 +138,9 @@ TEST_F(Ending, IsCalledOffWhenTheNameUsedLastCannotBeWritten)
     QDir(Path("qui")).removeRecursively();
     dialogs.answers = {true};
     ClickEntry(entry::Esci);
-    EXPECT_EQ(dialogs.told,
-              (std::vector<ShownBox>{{BoxIcon::Critical, "Attenzione!",
-                                      "Il file " + Path("qui/s.bmp") +
-                                          " non è stato salvato.\nImpossibile salvare «" +
-                                          Path("qui/s.bmp") + "»: la cartella non esiste."}}));
+    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
+                                                    "Impossibile salvare «" + Path("qui/s.bmp") +
+                                                        "»: la cartella non esiste."}}));
     EXPECT_FALSE(session.ending.has_value());
     EXPECT_EQ(session.doc.Modificato, 1);
     EXPECT_TRUE(Exists(Data("temp.bml")));
@@ -155,9 +153,9 @@ TEST_F(Ending, EndsWithAnErrorWhenASnapshotCannotBeDeleted)
     dialogs.answers = {false};
     session.form1.close();
     ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_EQ(dialogs.told[0].text,
-              "Errore durante il comando \"Esci\":\nImpossibile accedere al file: " +
-                  Data("temp.bml") + ".\n\nIl programma termina.");
+    EXPECT_EQ(dialogs.told[0].text, "Errore durante il comando \"Esci\":\nImpossibile eliminare «" +
+                                        Data("temp.bml") +
+                                        "»: è una cartella.\n\nIl programma termina.");
     EXPECT_EQ(session.ending, 1);
 }
 

@@ -15,7 +15,7 @@ class Faults : public Program {
     ~Faults() override { SpyAction() = nullptr; }
 
     /// Captures, shows the progress window, paints one pixel, and then the file has an end.
-    void FailHalfway(FaultEnds ends = FaultEnds::Command)
+    void FailHalfway(Fatal ends = Fatal::None)
     {
         SpyAction() = [](Work& w) {
             Cattura(w);
@@ -27,7 +27,7 @@ class Faults : public Program {
                 w.Input();
         };
         Effect spy = Spy();
-        spy.faultEnds = ends;
+        spy.fatal = ends;
         RunInFrame(spy);
     }
     /// The files of unsaved work in the data folder.
@@ -44,7 +44,8 @@ TEST_F(Faults, AreToldInOneBoxThatNamesTheCommand)
 {
     FailHalfway();
     EXPECT_EQ(dialogs.told,
-              (std::vector<ShownBox>{ErrorIn("Spia", "Lettura oltre la fine del file: elab.ser")}));
+              (std::vector<ShownBox>{
+                  ErrorIn("Spia", "Il file «" + Path("elab.ser") + "» finisce troppo presto")}));
     EXPECT_FALSE(session.ending.has_value());
 }
 
@@ -131,9 +132,9 @@ TEST_F(Faults, ChangeNoPixelWhenTheSnapshotCannotBeWritten)
 {
     QDir().mkpath(Data("temp.bml"));
     Apply("Specchio");
-    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{ErrorIn(
-                                "Specchio", "Impossibile accedere al file: Impossibile salvare «" +
-                                                Data("temp.bml") + "»: è una cartella")}));
+    EXPECT_EQ(dialogs.told,
+              (std::vector<ShownBox>{ErrorIn(
+                  "Specchio", "Impossibile salvare «" + Data("temp.bml") + "»: è una cartella")}));
     EXPECT_EQ(CanvasLetters(), (Letters{"abc", "def"}));
     EXPECT_FALSE(Exists(Path("elab.ser")));
     EXPECT_FALSE(session.form4.isVisible());
@@ -182,8 +183,8 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
     EXPECT_EQ(dialogs.told.back().text,
               "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla matrice "
               "(ammessi da 0 a 1500): la figura è troppo grande o troppo stretta per questo "
-              "effetto.\n\nIl lavoro non salvato è stato conservato nel file " +
-                  path + "\n\nIl programma termina.");
+              "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
+                  path + "».\n\nIl programma termina.");
     EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
     EXPECT_EQ(session.ending, 1);
 }
@@ -191,7 +192,7 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
 TEST_F(Faults, KeepThePictureBeforeTheEffectThatFailedHalfway)
 {
     Apply("Specchio");
-    FailHalfway(FaultEnds::Program);
+    FailHalfway(Fatal::All);
     EXPECT_EQ(CanvasLetters(), (Letters{"xba", "fed"}));
     ASSERT_EQ(Conserved().size(), 1);
     EXPECT_EQ(Kept(Data(Conserved()[0])), (Letters{"cba", "fed"}));
@@ -206,7 +207,7 @@ TEST_F(Faults, KeepTheCanvasWhenTheProgramEndsBeforeAnEffectDraws)
     QFile::remove(Data("temp.bml"));
     QDir().mkpath(Data("temp.bml"));
     Effect spy = Spy();
-    spy.faultEnds = FaultEnds::Program;
+    spy.fatal = Fatal::All;
     RunInFrame(spy);
     ASSERT_EQ(Conserved().size(), 1);
     EXPECT_EQ(Kept(Data(Conserved()[0])), (Letters{"xba", "fed"}));
@@ -218,11 +219,11 @@ TEST_F(Faults, SayThatUnsavedWorkCouldNotBeKept)
     QDir(Data("")).removeRecursively();
     Write(Data("").chopped(1), "un file");
     Effect spy = Spy();
-    spy.faultEnds = FaultEnds::Program;
+    spy.fatal = Fatal::All;
     RunInFrame(spy);
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_THAT(dialogs.told[0].text.toStdString(),
-                testing::HasSubstr("Il lavoro non salvato non è stato conservato: "));
+                testing::HasSubstr("Il lavoro non salvato non è stato conservato. "));
     EXPECT_EQ(session.ending, 1);
 }
 

@@ -13,12 +13,12 @@ class Starting : public SessionInFolders {
     Starting()
     {
         // Beside the program lie the strengths that it comes with.
-        QDir(folder_.path()).mkdir("program");
-        session.programFolder = folder_.filePath("program");
+        QDir(Root()).mkdir("program");
+        session.programFolder = Root() + "/program";
         Write(Beside("valori.tip"), "1000\r\n2000\r\n3000\r\n4000\r\n5000\r\n");
     }
 
-    QString Beside(const QString& name) const { return folder_.filePath("program/" + name); }
+    QString Beside(const QString& name) const { return Root() + "/program/" + name; }
 
     /// Runs the program with these arguments to its end; `then` is done once it waits for the user.
     int RunWith(
@@ -91,7 +91,7 @@ TEST_F(Starting, WorksInTheFolderThatTheUserIsIn)
     RunWith({Made("a.bmp", Drawn({"abc"}))}, [&] {
         EXPECT_EQ(QDir::currentPath(), here);
         EXPECT_EQ(session.doc.firstFolder, here);
-        EXPECT_EQ(session.programFolder, folder_.filePath("program"));
+        EXPECT_EQ(session.programFolder, Root() + "/program");
     });
     EXPECT_TRUE(Exists("percors.dat"));
     EXPECT_FALSE(Exists(Data("valori.tip")));

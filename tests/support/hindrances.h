@@ -1,21 +1,27 @@
-// What keeps a program from writing: a limit on the size of files, missing rights.
+// What keeps a program from writing, for as long as an object lives: a limit on the size of files,
+// missing rights.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <filesystem>
 #include <initializer_list>
 #include <string>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace pixano::test {
 
-/// No file may grow beyond `bytes` while this lives.
+/// No file may grow beyond `bytes`, as on a full disk.
 class FileSizeLimit {
   public:
     explicit FileSizeLimit(rlim_t bytes)
     {
+        // As the programs do.
+        std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &before_);
         const rlimit limit{bytes, before_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
@@ -28,15 +34,18 @@ class FileSizeLimit {
     rlimit before_{};
 };
 
-/// Whoever runs the tests is an ordinary user while this lives, who owns `paths`.
+/// Whoever runs the tests is an ordinary user, who owns `paths` and all that is in them.
 class OrdinaryUser {
   public:
     explicit OrdinaryUser(std::initializer_list<std::string> paths)
     {
-        constexpr uid_t Nobody = 65534;
         if (before_ != 0) return;
-        for (const std::string& path : paths)
-            EXPECT_EQ(chown(path.c_str(), Nobody, Nobody), 0);
+        for (const std::string& path : paths) {
+            Own(path);
+            if (!std::filesystem::is_directory(path)) continue;
+            for (const auto& entry : std::filesystem::recursive_directory_iterator(path))
+                Own(entry.path());
+        }
         EXPECT_EQ(seteuid(Nobody), 0);
     }
     OrdinaryUser(const OrdinaryUser&) = delete;
@@ -44,7 +53,27 @@ class OrdinaryUser {
     ~OrdinaryUser() { EXPECT_EQ(seteuid(before_), 0); }
 
   private:
+    static constexpr uid_t Nobody = 65534;
+    static void Own(const std::filesystem::path& path)
+    {
+        EXPECT_EQ(lchown(path.c_str(), Nobody, Nobody), 0);
+    }
+
     uid_t before_ = geteuid();
+};
+
+/// Nothing can be made, replaced or deleted in the folder.
+class Locked {
+  public:
+    explicit Locked(std::string folder) : folder_(std::move(folder)) { Set(0500); }
+    Locked(const Locked&) = delete;
+    Locked& operator=(const Locked&) = delete;
+    ~Locked() { Set(0700); }
+
+  private:
+    void Set(mode_t mode) const { EXPECT_EQ(chmod(folder_.c_str(), mode), 0); }
+
+    std::string folder_;
 };
 
 }  // namespace pixano::test

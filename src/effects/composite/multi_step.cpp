@@ -100,7 +100,8 @@ void RowPass(Work& w)
 void RefuseEndlessColumnPass(const Work& w)
 {
     if (w.Alt > 0 && ColumnBand(w) == 0)
-        throw Fault(FaultKind::InvalidCall, "la figura è larga meno di 6 pixel");
+        throw Fault(FaultKind::InvalidCall,
+                    "Operazione impossibile: la figura è larga meno di 6 pixel");
 }
 
 /// Throws InvalidCall where a row pass would never end. One that is too wide for the matrix ends in
@@ -108,7 +109,8 @@ void RefuseEndlessColumnPass(const Work& w)
 void RefuseEndlessRowPass(const Work& w)
 {
     if (w.Larg - 1 <= Matrix::LastIndex && RowBand(w) == 0)
-        throw Fault(FaultKind::InvalidCall, "la figura è alta meno di 6 pixel");
+        throw Fault(FaultKind::InvalidCall,
+                    "Operazione impossibile: la figura è alta meno di 6 pixel");
 }
 
 void Paint(Work& w, Matrix& cells)

@@ -91,7 +91,9 @@ int OpenAt(int folder, const char* path, int flags, mode_t mode)
 {
     if (active && orders.oldFileSystem && (flags & O_TMPFILE) == O_TMPFILE)
         return Refused(EOPNOTSUPP);
-    return FailingOr(Opens, [=] { return syscall(SYS_openat, folder, path, flags, mode); });
+    const bool reads = (flags & (O_WRONLY | O_RDWR | O_CREAT | O_DIRECTORY)) == 0;
+    return FailingOr(reads ? Reads : Opens,
+                     [=] { return syscall(SYS_openat, folder, path, flags, mode); });
 }
 
 /// Takes the orders of a program into which this library is preloaded.
@@ -100,8 +102,11 @@ int OpenAt(int folder, const char* path, int flags, mode_t mode)
     const char* const text = std::getenv("PIXANO_FAILING_CALLS");
     FailingCalls ordered;
     if (text == nullptr) return;
-    if (std::sscanf(text, "%ld %ld %d", &ordered.first, &ordered.last, &ordered.error) == 3)
-        BeginToFail(ordered);
+    if (std::sscanf(text, "%ld %ld %d %u", &ordered.first, &ordered.last, &ordered.error,
+                    &ordered.only) < 3)
+        return;
+    if (ordered.error == 0) ordered.as = FailingCalls::As::Death;
+    BeginToFail(ordered);
 }
 
 [[gnu::destructor]] void TellHowManyFailed()
@@ -259,6 +264,23 @@ int linkat(int folder, const char* from, int newFolder, const char* to, int flag
     return pixano::test::FailingOr(pixano::test::Names, [=] {
         return syscall(SYS_linkat, folder, from, newFolder, to, flags);
     });
+}
+
+int unlinkat(int folder, const char* path, int flags)
+{
+    return pixano::test::FailingOr(pixano::test::Deletes,
+                                   [=] { return syscall(SYS_unlinkat, folder, path, flags); });
+}
+
+int unlink(const char* path)
+{
+    return unlinkat(AT_FDCWD, path, 0);
+}
+
+int remove(const char* path)
+{
+    const int result = unlink(path);
+    return result < 0 && errno == EISDIR ? unlinkat(AT_FDCWD, path, AT_REMOVEDIR) : result;
 }
 
 int link(const char* from, const char* to)

@@ -8,13 +8,17 @@ namespace pixano::test {
 
 /// What a call does to a file. One bit each, so that several can be named.
 enum Call : unsigned {
-    Opens = 1,
+    Opens = 1,  ///< for writing, or a folder
     Writes = 2,
     Synchronises = 4,
     Closes = 8,
     Names = 16,    ///< gives it a name, or another one
     Changes = 32,  ///< its owner, its permissions, its size
+    Deletes = 64,
+    Reads = 128,  ///< opens it for reading
+    /// What a save needs.
     AnyCall = 63,
+    Everything = 255,
     /// The calls that a signal may interrupt.
     Interruptible = AnyCall & ~Names
 };
@@ -45,7 +49,8 @@ struct FailingCalls {
 
 /// From now on calls fail as said, and are counted anew. A program into which this library is
 /// preloaded begins with the orders in PIXANO_FAILING_CALLS: first, last and error, parted by
-/// blanks; it writes how many calls have failed to the file PIXANO_FAILED_CALLS when it ends.
+/// blanks, then which calls count if not any; error 0 stands for Death. It writes how many calls
+/// have failed to the file PIXANO_FAILED_CALLS when it ends.
 void BeginToFail(const FailingCalls& orders);
 
 /// No call fails any more. Gives how many have.
