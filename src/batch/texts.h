@@ -10,6 +10,6 @@ std::string HelpText();
 /// One effect a line: name, family, range of its strength (empty if it has none), parted by tabs.
 std::string EffectList();
 
-inline constexpr const char* VersionText = "Pixano 2.3\n";
+inline constexpr const char* VersionText = "Pixano " PIXANO_VERSION "\n";
 
 }  // namespace pixano::batch

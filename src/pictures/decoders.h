@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/byte_source.h"
-#include "pictures/picture_files.h"
+#include "pictures/picture_read.h"
 
 namespace pixano {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "canvas/fault.h"
-#include "canvas/surface.h"
 #include "files/byte_sink.h"
+#include "pictures/picture_read.h"
 
 #include <cstddef>
 #include <span>
@@ -16,13 +16,6 @@ namespace pixano {
 class PictureError : public Fault {
   public:
     using Fault::Fault;
-};
-
-struct PictureRead {
-    Surface picture;
-    /// The file ended before all pixels were there; the missing ones show `Background`. (In a JPEG,
-    /// those right of the last block that is there are grey; a progressive one may just be coarse.)
-    bool truncated = false;
 };
 
 /// The picture in the file `path` (UTF-8). The format is told by the content, not by the name:

@@ -9,7 +9,7 @@
 namespace pixano {
 namespace {
 
-constexpr const char* VersionText = "Pixano 2.3\n";
+constexpr const char* VersionText = "Pixano " PIXANO_VERSION "\n";
 
 /// A file URL as a path; everything else as it is.
 QString PathOf(const QString& argument)

@@ -92,7 +92,7 @@ int TellUsage()
 void PrepareApplication(QApplication& application)
 {
     QApplication::setApplicationName("pixano");
-    QApplication::setApplicationVersion("2.3");
+    QApplication::setApplicationVersion(PIXANO_VERSION);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     TellAssistiveTools();

@@ -28,7 +28,7 @@ bool HasChildren(MenuTable entries, std::string_view name)
 Form1::Form1(MenuTable entries) : entries_(entries)
 {
     setObjectName("Form1");
-    setWindowTitle("Pixano 2.3");
+    setWindowTitle("Pixano " PIXANO_VERSION);
     setAccessibleName("Pixano, finestra principale");
     setAcceptDrops(true);
     BuildMenus();

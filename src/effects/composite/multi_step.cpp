@@ -113,6 +113,9 @@ void RefuseEndlessRowPass(const Work& w)
                     "Operazione impossibile: la figura è alta meno di 6 pixel");
 }
 
+/// A row of the matrix is given as it lies in memory, unchecked beyond its end. That is safe: a
+/// picture wider than the matrix has ended in a fault before, since every pass that fills `cells`
+/// first writes or reads the cell behind the last one, checked.
 void Paint(Work& w, Matrix& cells)
 {
     w.ShowProgress();
