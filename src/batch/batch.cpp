@@ -64,7 +64,7 @@ unsigned ThreadsOf(const CommandLine& line)
 int RunPictures(const CommandLine& line, const std::string& ownFolder)
 {
     if (line.output == StandardStream && ::isatty(STDOUT_FILENO) == 1)
-        throw WrongCommandLine("Una figura non si scrive su un terminale: manca \"> FILE\"");
+        throw WrongCommandLine("Un'immagine non si scrive su un terminale: manca \"> FILE\"");
     const auto pictures = PlanPictures(line);
     std::error_code error;
     if (line.folder && !std::filesystem::is_directory(*line.folder, error))

@@ -111,13 +111,13 @@ void TakeOption(CommandLine& line, std::span<const std::string_view>& arguments)
 
 void CheckPictures(const CommandLine& line)
 {
-    if (line.inputs.empty()) throw WrongCommandLine("Manca la figura da leggere");
+    if (line.inputs.empty()) throw WrongCommandLine("Manca l'immagine da leggere");
     if (line.output && line.folder)
         throw WrongCommandLine("-o e -d non possono stare insieme: o un file, o una cartella");
     if (!line.output && !line.folder)
         throw WrongCommandLine("Manca -o (il file da scrivere) o -d (la cartella)");
     if (line.output && line.inputs.size() > 1)
-        throw WrongCommandLine("Con più figure serve -d: -o dà il nome a una sola");
+        throw WrongCommandLine("Con più immagini serve -d: -o dà il nome a una sola");
     if (line.folder && std::ranges::find(line.inputs, StandardStream) != line.inputs.end())
         throw WrongCommandLine("Lo standard input non ha un nome: con \"-\" serve -o, non -d");
 }

@@ -60,7 +60,7 @@ void RefuseOverwrittenInputs(const std::vector<PlannedPicture>& pictures)
         const auto identity = IdentityOf(picture.output);
         if (identity && read.contains(*identity))
             throw WrongCommandLine(
-                "Il risultato prenderebbe il posto di una figura da leggere: \"" + picture.output +
+                "Il risultato prenderebbe il posto di un'immagine da leggere: \"" + picture.output +
                 "\"");
     }
 }

@@ -90,13 +90,13 @@ TEST(CommandLine, NeedsNoPictureToTellAboutItself)
 
 TEST(CommandLine, RefusesWhatItCannotFollow)
 {
-    EXPECT_THAT(Complaint({}), HasSubstr("Manca la figura"));
+    EXPECT_THAT(Complaint({}), HasSubstr("Manca l'immagine"));
     EXPECT_THAT(Complaint({"a"}), HasSubstr("Manca -o"));
-    EXPECT_THAT(Complaint({"-o", "b"}), HasSubstr("Manca la figura"));
+    EXPECT_THAT(Complaint({"-o", "b"}), HasSubstr("Manca l'immagine"));
     EXPECT_THAT(Complaint({"a", "-o"}), HasSubstr("Manca il valore dopo -o"));
     EXPECT_THAT(Complaint({"-o", "", "a"}), HasSubstr("vuoto"));
     EXPECT_THAT(Complaint({"-o", "b", ""}), HasSubstr("vuoto"));
-    EXPECT_THAT(Complaint({"-o", "b", "a", "c"}), HasSubstr("Con più figure serve -d"));
+    EXPECT_THAT(Complaint({"-o", "b", "a", "c"}), HasSubstr("Con più immagini serve -d"));
     EXPECT_THAT(Complaint({"-o", "b", "-d", "f", "a"}), HasSubstr("non possono stare insieme"));
     EXPECT_THAT(Complaint({"-o", "b", "-o", "c", "a"}), HasSubstr("due volte"));
     EXPECT_THAT(Complaint({"-d", "f", "-"}), HasSubstr("standard input"));

@@ -146,7 +146,7 @@ TEST_F(Faults, EndOnlyTheCommandWhereThePictureIsRefused)
     Apply("Multi Step Verticale");
     EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{ErrorIn(
                                 "Multi Step Verticale",
-                                "Operazione impossibile: la figura è larga meno di 6 pixel")}));
+                                "Operazione impossibile: l'immagine è larga meno di 6 pixel")}));
     EXPECT_FALSE(session.ending.has_value());
 }
 
@@ -165,7 +165,7 @@ TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
               (std::vector<ShownBox>{
                   {BoxIcon::Critical, "Attenzione!",
                    "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla "
-                   "matrice (ammessi da 0 a 1500): la figura è troppo grande o troppo stretta per "
+                   "matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo stretta per "
                    "questo effetto.\n\nIl programma termina."}}));
     EXPECT_EQ(session.ending, 1);
     EXPECT_FALSE(session.form1.isVisible());
@@ -182,7 +182,7 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
     const QString path = Data(Conserved()[0]);
     EXPECT_EQ(dialogs.told.back().text,
               "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla matrice "
-              "(ammessi da 0 a 1500): la figura è troppo grande o troppo stretta per questo "
+              "(ammessi da 0 a 1500): l'immagine è troppo grande o troppo stretta per questo "
               "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
                   path + "».\n\nIl programma termina.");
     EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
