@@ -12,6 +12,8 @@ Form6::Form6()
 {
     setObjectName("Form6");
     setWindowTitle(QString());
+    // Without a title and without buttons there is nothing for a frame to hold.
+    setWindowFlag(Qt::FramelessWindowHint);
     setAccessibleName("Pixano");
     setAccessibleDescription("Immagine d'apertura: premi Invio per cominciare");
     auto* const picture = FittedPicture("apertura.jpg", QSize(0, 0));

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -80,6 +81,19 @@ QString Breakable(QString text)
     return text.replace(partOfLongName, QStringLiteral(u"\\1\u200b"));
 }
 
+/// Where there is no icon, the toolkit leaves its column empty all the same.
+void CloseEmptyColumn(QMessageBox& box)
+{
+    auto* const text = box.findChild<QLabel*>("qt_msgbox_label");
+    auto* const grid = qobject_cast<QGridLayout*>(box.layout());
+    QLayoutItem* const first = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
+    if (text == nullptr || first == nullptr || first->spacerItem() == nullptr) return;
+    first->spacerItem()->changeSize(0, 0);
+    grid->setHorizontalSpacing(0);
+    text->setContentsMargins(0, 0, 0, 0);
+    text->setIndent(0);
+}
+
 void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)
 {
     box.setObjectName("MsgBox");
@@ -90,6 +104,7 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(Breakable(text));
+    CloseEmptyColumn(box);
 }
 
 /// The toolkit's own sizes cut the columns off, and are larger than a small screen.
