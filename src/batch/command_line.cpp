@@ -61,6 +61,15 @@ constexpr auto Options = std::to_array<Option>({
      [](CommandLine& line, std::string_view value) {
          SetOnce(line.jobs, "-j", WholeNumber<unsigned>("-j", value, 1));
      }},
+    {"", "--entro", true,
+     [](CommandLine& line, std::string_view value) {
+         SetOnce(line.within, "--entro", WholeNumber<int>("--entro", value, 1));
+     }},
+    {"", "--tutti", false,
+     [](CommandLine& line, std::string_view) {
+         // What the tool tells about itself goes before.
+         if (line.task == Task::Pictures) line.task = Task::Sheet;
+     }},
     {"", "--seme", true,
      [](CommandLine& line, std::string_view value) {
          SetOnce(line.seed, "--seme", WholeNumber<std::uint64_t>("--seme", value, 0));
@@ -109,6 +118,19 @@ void TakeOption(CommandLine& line, std::span<const std::string_view>& arguments)
     option->take(line, value.value_or(std::string_view()));
 }
 
+void CheckSheet(const CommandLine& line)
+{
+    if (line.inputs.empty()) throw WrongCommandLine("Manca l'immagine da leggere");
+    if (line.inputs.size() > 1)
+        throw WrongCommandLine("--tutti prova una sola immagine alla volta");
+    if (line.inputs.front() == StandardStream)
+        throw WrongCommandLine("--tutti ha bisogno di un file: \"-\" non ha un nome da ripetere");
+    if (!line.steps.empty())
+        throw WrongCommandLine("--tutti prova da sé ogni effetto: -e non può stargli accanto");
+    if (line.output || !line.folder)
+        throw WrongCommandLine("--tutti scrive in una cartella: serve -d, non -o");
+}
+
 void CheckPictures(const CommandLine& line)
 {
     if (line.inputs.empty()) throw WrongCommandLine("Manca l'immagine da leggere");
@@ -142,6 +164,7 @@ CommandLine ParseCommandLine(std::span<const std::string_view> arguments)
             line.inputs.push_back(Named("le opzioni", argument));
     }
     if (line.task == Task::Pictures) CheckPictures(line);
+    if (line.task == Task::Sheet) CheckSheet(line);
     return line;
 }
 

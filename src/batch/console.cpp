@@ -55,7 +55,7 @@ void Console::Print(std::size_t place, const Outcome& outcome)
 
 void Console::PrintResult(const PlannedPicture& picture, const std::string& result)
 {
-    if (quiet_) return;
+    if (quiet_ || result.empty()) return;
     // The picture itself has standard output then.
     std::FILE* const to = picture.output == StandardStream ? stderr : stdout;
     if (std::fprintf(to, "%s\n", result.c_str()) < 0 || std::fflush(to) != 0) allDone_ = false;

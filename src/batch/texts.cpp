@@ -3,8 +3,6 @@
 #include "effects/catalogue.h"
 
 namespace pixano::batch {
-namespace {
-
 std::string_view FamilyName(Family family)
 {
     switch (family) {
@@ -18,12 +16,11 @@ std::string_view FamilyName(Family family)
     return "";
 }
 
-}  // namespace
-
 std::string HelpText()
 {
     return R"(Uso: pixano-batch [OPZIONI] -o USCITA INGRESSO
      pixano-batch [OPZIONI] -d CARTELLA INGRESSO...
+     pixano-batch [OPZIONI] --tutti -d CARTELLA FOTO
 
 Applica gli effetti di Pixano a una o più immagini (BMP, JPEG o GIF), senza finestre.
 
@@ -36,6 +33,11 @@ Applica gli effetti di Pixano a una o più immagini (BMP, JPEG o GIF), senza fin
                               in .bmp o non ha estensione
   -d, --cartella CARTELLA     scrive il risultato di NOME.* in CARTELLA/NOME.bmp
   -j, --insieme N             elabora N immagini alla volta (tutti i processori se manca)
+      --entro N               prima degli effetti riduce le immagini che hanno un
+                              lato più lungo di N pixel, facendo la media dell'area
+      --tutti                 prova tutti gli effetti su FOTO: in CARTELLA scrive una
+                              piccola immagine per ognuno e una pagina, index.html,
+                              con i nomi, le forze e i comandi che li ripetono
       --seme N                fa partire i numeri casuali da N, per ogni immagine
       --silenzioso            scrive soltanto errori e avvisi
       --elenco                elenca gli effetti: nome, famiglia, valori della forza
