@@ -3,10 +3,12 @@
 #include "canvas/fault.h"
 #include "document/canvas_copy.h"
 #include "document/places.h"
+#include "document/recovery_note.h"
 #include "document/working_pictures.h"
 #include "pictures/picture_files.h"
 
 #include <QDateTime>
+#include <QDir>
 
 #include <new>
 
@@ -30,6 +32,24 @@ QString KeepUnsavedWork(const Session& s)
     } catch (const std::exception& error) {
         return "\n\nIl lavoro non salvato non è stato conservato. " +
                QString::fromUtf8(error.what()) + '.';
+    }
+}
+
+/// Nobody goes back, forward or shows a preview any more: only what the next start offers stays.
+void RemoveNeedlessFiles(const Session& s)
+{
+    try {
+        const std::optional<RecoveryNote> note = ReadRecoveryNote();
+        if (!note && RecoveryNoteThere()) return;
+        QStringList names{file::Undo, file::Redo};
+        if (s.doc.previewCopied) names += file::PreviewCopy;
+        for (const QString& name : names + s.doc.pasted) {
+            const QString path = QDir::current().absoluteFilePath(NativePath(name));
+            const bool offered = note && (path == note->copy || path == note->picture);
+            if (!offered) KillWorkingPicture(name);
+        }
+    } catch (const Fault&) {
+        return;  // the end was told, and is not told twice
     }
 }
 
@@ -66,7 +86,10 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
     else
         SecureCanvas(s);
     Tell(s, BoxIcon::Critical, text);
-    if (ending) EndProgram(s, 1);
+    if (!ending) return;
+    if (s.doc.Modificato == 0) ForgetCanvasCopy();
+    RemoveNeedlessFiles(s);
+    EndProgram(s, 1);
 }
 
 }  // namespace

@@ -81,17 +81,20 @@ QString Breakable(QString text)
     return text.replace(partOfLongName, QStringLiteral(u"\\1\u200b"));
 }
 
-/// Where there is no icon, the toolkit leaves its column empty all the same.
-void CloseEmptyColumn(QMessageBox& box)
+/// Brings the text close to its icon, and to the edge where there is none: the toolkit leaves the
+/// icon's column empty then.
+void PlaceText(QMessageBox& box)
 {
     auto* const text = box.findChild<QLabel*>("qt_msgbox_label");
     auto* const grid = qobject_cast<QGridLayout*>(box.layout());
-    QLayoutItem* const first = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
-    if (text == nullptr || first == nullptr || first->spacerItem() == nullptr) return;
-    first->spacerItem()->changeSize(0, 0);
-    grid->setHorizontalSpacing(0);
+    if (text == nullptr || grid == nullptr) return;
     text->setContentsMargins(0, 0, 0, 0);
     text->setIndent(0);
+    text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    QLayoutItem* const first = grid->itemAtPosition(0, 0);
+    if (first == nullptr || first->spacerItem() == nullptr) return;
+    first->spacerItem()->changeSize(0, 0);
+    grid->setHorizontalSpacing(0);
 }
 
 void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)
@@ -104,7 +107,7 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(Breakable(text));
-    CloseEmptyColumn(box);
+    PlaceText(box);
 }
 
 /// The toolkit's own sizes cut the columns off, and are larger than a small screen.

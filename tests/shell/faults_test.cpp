@@ -1,6 +1,7 @@
 // Run-time errors: what the user is told, what stays behind, and how the program goes on or ends.
 #include "canvas/captures.h"
 #include "canvas/fault.h"
+#include "document/recovery_note.h"
 #include "shell/spy_effect.h"
 #include "support/program.h"
 
@@ -187,6 +188,29 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
                   path + "».\n\nIl programma termina.");
     EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
     EXPECT_EQ(session.ending, 1);
+}
+
+TEST_F(FatalFaults, LeaveNoFileThatNothingNeeds)
+{
+    Apply("Multi Step Orizzontale");
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp"),
+                                Path("elab.ser"), Data("recupero.txt")})
+        EXPECT_FALSE(Exists(file)) << file.toStdString();
+}
+
+TEST_F(FatalFaults, LeaveWhatTheNextStartOffersAndNothingElse)
+{
+    Apply("Specchio");
+    Apply("Capovolgi");
+    ClickEntry(entry::Undo);
+    ASSERT_TRUE(Exists(Data("temp2.bml")));
+    Apply("Multi Step Orizzontale");
+    ASSERT_EQ(session.ending, 1);
+    const std::optional<RecoveryNote> note = ReadRecoveryNote();
+    ASSERT_TRUE(note.has_value());
+    EXPECT_TRUE(Exists(note->copy));
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp")})
+        EXPECT_EQ(Exists(file), file == note->copy) << file.toStdString();
 }
 
 TEST_F(Faults, KeepThePictureBeforeTheEffectThatFailedHalfway)
