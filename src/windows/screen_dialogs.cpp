@@ -91,6 +91,9 @@ void PlaceText(QMessageBox& box)
     text->setContentsMargins(0, 0, 0, 0);
     text->setIndent(0);
     text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // A short text stands at the middle of its icon.
+    if (!box.iconPixmap().isNull())
+        text->setMinimumHeight(qRound(box.iconPixmap().deviceIndependentSize().height()));
     QLayoutItem* const first = grid->itemAtPosition(0, 0);
     if (first == nullptr || first->spacerItem() == nullptr) return;
     first->spacerItem()->changeSize(0, 0);
