@@ -7,7 +7,6 @@
 #include "batch/sheet.h"
 #include "batch/texts.h"
 #include "files/strengths_file.h"
-#include "pictures/picture_files.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -76,12 +75,12 @@ int RunJobs(const std::vector<PlannedPicture>& pictures, const CommandLine& line
     return console.AllDone() ? AllDone : SomethingFailed;
 }
 
-/// Throws PictureError when the folder that the results go to is not there.
+/// Throws FileNotFound when the folder that the results go to is not there.
 void RequireFolder(const CommandLine& line)
 {
     std::error_code error;
     if (line.folder && !std::filesystem::is_directory(*line.folder, error))
-        throw PictureError("La cartella \"" + *line.folder + "\" non esiste");
+        throw Fault(FaultKind::FileNotFound, "La cartella \"" + *line.folder + "\" non esiste");
 }
 
 int RunSheet(const CommandLine& line, const std::string& ownFolder)
@@ -140,8 +139,6 @@ int RunBatch(std::span<const std::string_view> arguments, const std::string& own
                         CommandWrong);
     } catch (const Fault& fault) {
         return Complain(fault.what(), SomethingFailed);
-    } catch (const PictureError& error) {
-        return Complain(error.what(), SomethingFailed);
     }
 }
 

@@ -31,13 +31,6 @@ void SaveSmall(Surface picture, const std::string& path, SmallPicture& shown)
     shown = {NameOnly(path), small.Width(), small.Height()};
 }
 
-bool Written(const std::string& text, const std::string& path, AtomicFile::Temporary temporary)
-{
-    AtomicFile file(path, AtomicFile::Purpose::Document, temporary);
-    file.Write(std::as_bytes(std::span(text)));
-    return file.Commit();
-}
-
 }  // namespace
 
 Sheet::Sheet(const CommandLine& line, const PlannedSheet& plan, const Strengths& valori)
@@ -92,12 +85,10 @@ Outcome Sheet::Try(std::size_t place, ChainProgress& progress)
 void Sheet::WritePage() const
 {
     const std::string text = SheetPage(contents_);
-    try {
-        if (!Written(text, plan_.page, AtomicFile::Temporary::Unnamed))
-            Written(text, plan_.page, AtomicFile::Temporary::Named);
-    } catch (const Refusal& refusal) {
-        throw PictureError("Impossibile salvare «" + plan_.page + "»: " + refusal.what());
-    }
+    TellRefusal("salvare", plan_.page, [&] {
+        ReplaceFile(plan_.page, AtomicFile::Purpose::Document,
+                    [&](ByteSink& file) { file.Write(std::as_bytes(std::span(text))); });
+    });
 }
 
 }  // namespace pixano::batch

@@ -22,7 +22,7 @@ class Sheet {
     /// places of its own.
     Outcome Try(std::size_t place, ChainProgress& progress);
 
-    /// Throws PictureError.
+    /// Throws Fault.
     void WritePage() const;
 
   private:

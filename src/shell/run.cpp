@@ -8,7 +8,6 @@
 #include "pictures/picture_files.h"
 
 #include <QDateTime>
-#include <QDir>
 
 #include <new>
 
@@ -40,13 +39,15 @@ void RemoveNeedlessFiles(const Session& s)
 {
     try {
         const std::optional<RecoveryNote> note = ReadRecoveryNote();
-        if (!note && RecoveryNoteThere()) return;
-        QStringList names{file::Undo, file::Redo};
+        // Where no note tells it, any of them may be all that is left of the work.
+        if (!note && (s.doc.Modificato == 1 || RecoveryNoteThere())) return;
+        QStringList names{file::Undo, file::Redo, file::SpareCopy};
         if (s.doc.previewCopied) names += file::PreviewCopy;
         for (const QString& name : names + s.doc.pasted) {
-            const QString path = QDir::current().absoluteFilePath(NativePath(name));
+            const QString path = NativePath(name);
             const bool offered = note && (path == note->copy || path == note->picture);
-            if (!offered) KillWorkingPicture(name);
+            const bool told = s.doc.Modificato == 1 && path == s.doc.canvasCopy;
+            if (!offered && !told) KillWorkingPicture(name);
         }
     } catch (const Fault&) {
         return;  // the end was told, and is not told twice
@@ -87,7 +88,7 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
         SecureCanvas(s);
     Tell(s, BoxIcon::Critical, text);
     if (!ending) return;
-    if (s.doc.Modificato == 0) ForgetCanvasCopy();
+    if (s.doc.Modificato == 0) ForgetCanvasCopy(s);
     RemoveNeedlessFiles(s);
     EndProgram(s, 1);
 }
