@@ -26,7 +26,7 @@ install(FILES packaging/pixano.desktop DESTINATION share/applications)
 install(FILES packaging/org.example.pixano.metainfo.xml DESTINATION share/metainfo)
 install(FILES packaging/completion/pixano packaging/completion/pixano-batch
         DESTINATION share/bash-completion/completions)
-install(FILES resources/pixano.svg DESTINATION share/icons/hicolor/scalable/apps)
+install(FILES resources/drawings/pixano.svg DESTINATION share/icons/hicolor/scalable/apps)
 foreach(size 16 24 32 48 64 128 256)
   install(FILES resources/icons/pixano-${size}.png RENAME pixano.png
           DESTINATION share/icons/hicolor/${size}x${size}/apps)

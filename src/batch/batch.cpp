@@ -4,12 +4,14 @@
 #include "batch/console.h"
 #include "batch/plan.h"
 #include "batch/pool.h"
+#include "batch/sheet.h"
 #include "batch/texts.h"
 #include "files/strengths_file.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <thread>
 
 #include <unistd.h>
@@ -49,7 +51,7 @@ int Complain(const std::string& text, ExitStatus status)
 
 Recipe RecipeOf(const CommandLine& line, const std::string& ownFolder)
 {
-    Recipe recipe{line.steps, {}, line.seed};
+    Recipe recipe{line.steps, {}, line.seed, line.within};
     const bool needsFile = std::ranges::any_of(
         line.steps, [](const Step& step) { return step.effect->selector != 0 && !step.strength; });
     if (needsFile) LeggiValori(ownFolder + "/valori.tip", recipe.valori);
@@ -61,21 +63,51 @@ unsigned ThreadsOf(const CommandLine& line)
     return line.jobs.value_or(std::max(1U, std::thread::hardware_concurrency()));
 }
 
-int RunPictures(const CommandLine& line, const std::string& ownFolder)
+/// Runs the job of each place, as many at once as wanted, and says how each ended.
+int RunJobs(const std::vector<PlannedPicture>& pictures, const CommandLine& line,
+            const std::function<Outcome(std::size_t place, ChainProgress& progress)>& job)
 {
-    if (line.output == StandardStream && ::isatty(STDOUT_FILENO) == 1)
-        throw WrongCommandLine("Una figura non si scrive su un terminale: manca \"> FILE\"");
-    const auto pictures = PlanPictures(line);
-    std::error_code error;
-    if (line.folder && !std::filesystem::is_directory(*line.folder, error))
-        return Complain("La cartella \"" + *line.folder + "\" non esiste", SomethingFailed);
-    const Recipe recipe = RecipeOf(line, ownFolder);
     Console console(pictures, line.quiet);
     ForEachPlace(pictures.size(), ThreadsOf(line), [&](std::size_t place) {
         ConsoleProgress progress(console);
-        console.Ended(place, RunPictureJob(pictures[place], recipe, progress));
+        console.Ended(place, job(place, progress));
     });
     return console.AllDone() ? AllDone : SomethingFailed;
+}
+
+/// Throws FileNotFound when the folder that the results go to is not there.
+void RequireFolder(const CommandLine& line)
+{
+    std::error_code error;
+    if (line.folder && !std::filesystem::is_directory(*line.folder, error))
+        throw Fault(FaultKind::FileNotFound, "La cartella \"" + *line.folder + "\" non esiste");
+}
+
+int RunSheet(const CommandLine& line, const std::string& ownFolder)
+{
+    const PlannedSheet plan = PlanSheet(line);
+    RequireFolder(line);
+    Strengths valori{};
+    LeggiValori(ownFolder + "/valori.tip", valori);
+    Sheet sheet(line, plan, valori);
+    const int status =
+        RunJobs(plan.effects, line, [&sheet](std::size_t place, ChainProgress& progress) {
+            return sheet.Try(place, progress);
+        });
+    sheet.WritePage();
+    return line.quiet ? status : std::max(status, Print(plan.page + "\n"));
+}
+
+int RunPictures(const CommandLine& line, const std::string& ownFolder)
+{
+    if (line.output == StandardStream && ::isatty(STDOUT_FILENO) == 1)
+        throw WrongCommandLine("Un'immagine non si scrive su un terminale: manca \"> FILE\"");
+    const auto pictures = PlanPictures(line);
+    RequireFolder(line);
+    const Recipe recipe = RecipeOf(line, ownFolder);
+    return RunJobs(pictures, line, [&](std::size_t place, ChainProgress& progress) {
+        return RunPictureJob(pictures[place], recipe, progress);
+    });
 }
 
 int RunTask(const CommandLine& line, const std::string& ownFolder)
@@ -87,6 +119,8 @@ int RunTask(const CommandLine& line, const std::string& ownFolder)
         return Print(VersionText);
     case Task::List:
         return Print(EffectList());
+    case Task::Sheet:
+        return RunSheet(line, ownFolder);
     case Task::Pictures:
         break;
     }

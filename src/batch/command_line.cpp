@@ -61,6 +61,15 @@ constexpr auto Options = std::to_array<Option>({
      [](CommandLine& line, std::string_view value) {
          SetOnce(line.jobs, "-j", WholeNumber<unsigned>("-j", value, 1));
      }},
+    {"", "--entro", true,
+     [](CommandLine& line, std::string_view value) {
+         SetOnce(line.within, "--entro", WholeNumber<int>("--entro", value, 1));
+     }},
+    {"", "--tutti", false,
+     [](CommandLine& line, std::string_view) {
+         // What the tool tells about itself goes before.
+         if (line.task == Task::Pictures) line.task = Task::Sheet;
+     }},
     {"", "--seme", true,
      [](CommandLine& line, std::string_view value) {
          SetOnce(line.seed, "--seme", WholeNumber<std::uint64_t>("--seme", value, 0));
@@ -109,15 +118,28 @@ void TakeOption(CommandLine& line, std::span<const std::string_view>& arguments)
     option->take(line, value.value_or(std::string_view()));
 }
 
+void CheckSheet(const CommandLine& line)
+{
+    if (line.inputs.empty()) throw WrongCommandLine("Manca l'immagine da leggere");
+    if (line.inputs.size() > 1)
+        throw WrongCommandLine("--tutti prova una sola immagine alla volta");
+    if (line.inputs.front() == StandardStream)
+        throw WrongCommandLine("--tutti ha bisogno di un file: \"-\" non ha un nome da ripetere");
+    if (!line.steps.empty())
+        throw WrongCommandLine("--tutti prova da sé ogni effetto: -e non può stargli accanto");
+    if (line.output || !line.folder)
+        throw WrongCommandLine("--tutti scrive in una cartella: serve -d, non -o");
+}
+
 void CheckPictures(const CommandLine& line)
 {
-    if (line.inputs.empty()) throw WrongCommandLine("Manca la figura da leggere");
+    if (line.inputs.empty()) throw WrongCommandLine("Manca l'immagine da leggere");
     if (line.output && line.folder)
         throw WrongCommandLine("-o e -d non possono stare insieme: o un file, o una cartella");
     if (!line.output && !line.folder)
         throw WrongCommandLine("Manca -o (il file da scrivere) o -d (la cartella)");
     if (line.output && line.inputs.size() > 1)
-        throw WrongCommandLine("Con più figure serve -d: -o dà il nome a una sola");
+        throw WrongCommandLine("Con più immagini serve -d: -o dà il nome a una sola");
     if (line.folder && std::ranges::find(line.inputs, StandardStream) != line.inputs.end())
         throw WrongCommandLine("Lo standard input non ha un nome: con \"-\" serve -o, non -d");
 }
@@ -142,6 +164,7 @@ CommandLine ParseCommandLine(std::span<const std::string_view> arguments)
             line.inputs.push_back(Named("le opzioni", argument));
     }
     if (line.task == Task::Pictures) CheckPictures(line);
+    if (line.task == Task::Sheet) CheckSheet(line);
     return line;
 }
 

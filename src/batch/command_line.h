@@ -15,7 +15,7 @@ namespace pixano::batch {
 /// The name that means standard input or standard output.
 inline constexpr std::string_view StandardStream = "-";
 
-enum class Task { Pictures, Help, Version, List };
+enum class Task { Pictures, Sheet, Help, Version, List };
 
 struct CommandLine {
     Task task = Task::Pictures;
@@ -24,6 +24,7 @@ struct CommandLine {
     std::optional<std::string> output;  ///< the file of the only result
     std::optional<std::string> folder;  ///< the folder of all results
     std::optional<unsigned> jobs;  ///< pictures at once; as many as there are cores if not given
+    std::optional<int> within;     ///< the longest side that a picture may have; larger ones shrink
     bool quiet = false;
     std::vector<std::string> inputs;
 };

@@ -55,7 +55,7 @@ void Console::Print(std::size_t place, const Outcome& outcome)
 
 void Console::PrintResult(const PlannedPicture& picture, const std::string& result)
 {
-    if (quiet_) return;
+    if (quiet_ || result.empty()) return;
     // The picture itself has standard output then.
     std::FILE* const to = picture.output == StandardStream ? stderr : stdout;
     if (std::fprintf(to, "%s\n", result.c_str()) < 0 || std::fflush(to) != 0) allDone_ = false;
@@ -77,7 +77,7 @@ void Console::ClearProgress()
 std::string Console::Count() const
 {
     if (pictures_.size() == 1) return {};
-    return std::to_string(ended_) + " figure su " + std::to_string(pictures_.size()) + "   ";
+    return std::to_string(ended_) + " immagini su " + std::to_string(pictures_.size()) + "   ";
 }
 
 }  // namespace pixano::batch

@@ -2,6 +2,7 @@
 
 #include "batch/standard_streams.h"
 #include "effects/frame.h"
+#include "pictures/shrink.h"
 
 #include <filesystem>
 #include <new>
@@ -34,6 +35,7 @@ void WriteOutput(const Surface& surface, const std::string& name)
 Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
 {
     PictureRead read = ReadInput(picture.input);
+    if (recipe.within) read.picture = ShrunkWithin(std::move(read.picture), *recipe.within);
     // A state of its own: no picture can tell which ones were done before it.
     Work w(MemoryStore(), progress, recipe.seed ? Timer(*recipe.seed) : Timer());
     PutOnCanvas(w, std::move(read.picture));
@@ -41,14 +43,16 @@ Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress&
     const std::string caption =
         RunChain(w, recipe.steps, recipe.valori, Caption(fileName, w), progress);
     WriteOutput(w.Picture1, picture.output);
-    return {true, picture.output + ": " + caption,
-            read.truncated
-                ? picture.input + ": attenzione, il file è incompleto; quel che manca resta grigio"
-                : "",
-            ""};
+    return {true, picture.output + ": " + caption, NoticeOf(picture.input, read.truncated), ""};
 }
 
 }  // namespace
+
+std::string NoticeOf(const std::string& input, bool truncated)
+{
+    return truncated ? input + ": attenzione, il file è incompleto; quel che manca resta grigio"
+                     : std::string();
+}
 
 Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
 {

@@ -16,6 +16,7 @@ struct Recipe {
     std::span<const Step> steps;
     Strengths valori{};
     std::optional<std::uint64_t> seed;
+    std::optional<int> within;  ///< larger pictures are made smaller first
 };
 
 /// How one picture ended. All texts are one line without its end, UTF-8; empty = nothing to say.
@@ -25,6 +26,10 @@ struct Outcome {
     std::string notice;  ///< a doubt about a picture that is done all the same
     std::string error;   ///< why it is not done
 };
+
+/// The doubt about a picture whose file ended before all its pixels were there; empty for a whole
+/// one.
+std::string NoticeOf(const std::string& input, bool truncated);
 
 /// Never throws; when the picture is not done, no file has appeared or changed.
 Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress);

@@ -60,12 +60,42 @@ void RefuseOverwrittenInputs(const std::vector<PlannedPicture>& pictures)
         const auto identity = IdentityOf(picture.output);
         if (identity && read.contains(*identity))
             throw WrongCommandLine(
-                "Il risultato prenderebbe il posto di una figura da leggere: \"" + picture.output +
+                "Il risultato prenderebbe il posto di un'immagine da leggere: \"" + picture.output +
                 "\"");
     }
 }
 
+/// "Rotazione +90°" is rotazione-piu-90.
+std::string FileNameOf(const Effect& effect)
+{
+    std::string name;
+    for (const char c : effect.name) {
+        const bool first = name.empty() || name.back() == '-';
+        if (c >= 'A' && c <= 'Z') name += static_cast<char>(c - 'A' + 'a');
+        if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9')) name += c;
+        if (c == '+' && first) name += "piu-";
+        if (c == '-' && first) name += "meno-";
+        if (c == ' ') name += '-';
+    }
+    return name;
+}
+
 }  // namespace
+
+PlannedSheet PlanSheet(const CommandLine& line)
+{
+    const std::string& input = line.inputs.front();
+    const fs::path folder = *line.folder;
+    const auto in = [&folder](const std::string& name) { return (folder / name).string(); };
+    PlannedSheet sheet{{}, in("originale.jpg"), in("index.html")};
+    for (const Effect& effect : Effects)
+        sheet.effects.push_back({input, in(FileNameOf(effect) + ".jpg")});
+    auto all = sheet.effects;
+    all.push_back({input, sheet.original});
+    all.push_back({input, sheet.page});
+    RefuseOverwrittenInputs(all);
+    return sheet;
+}
 
 std::vector<PlannedPicture> PlanPictures(const CommandLine& line)
 {

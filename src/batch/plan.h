@@ -19,4 +19,14 @@ struct PlannedPicture {
 /// read, or to a file whose name asks for a format that is not written.
 std::vector<PlannedPicture> PlanPictures(const CommandLine& line);
 
+/// The files of a sheet of all effects on one picture, none of which is that picture.
+struct PlannedSheet {
+    std::vector<PlannedPicture> effects;  ///< one small picture for each effect of the catalogue
+    std::string original;                 ///< the small picture without an effect
+    std::string page;
+};
+
+/// Throws WrongCommandLine when the picture itself would be replaced.
+PlannedSheet PlanSheet(const CommandLine& line);
+
 }  // namespace pixano::batch

@@ -3,8 +3,6 @@
 #include "effects/catalogue.h"
 
 namespace pixano::batch {
-namespace {
-
 std::string_view FamilyName(Family family)
 {
     switch (family) {
@@ -18,14 +16,13 @@ std::string_view FamilyName(Family family)
     return "";
 }
 
-}  // namespace
-
 std::string HelpText()
 {
     return R"(Uso: pixano-batch [OPZIONI] -o USCITA INGRESSO
      pixano-batch [OPZIONI] -d CARTELLA INGRESSO...
+     pixano-batch [OPZIONI] --tutti -d CARTELLA FOTO
 
-Applica gli effetti di Pixano a una o più figure (BMP, JPEG o GIF), senza finestre.
+Applica gli effetti di Pixano a una o più immagini (BMP, JPEG o GIF), senza finestre.
 
   -e, --effetto NOME[=FORZA]  applica l'effetto; ripetibile, nell'ordine dato.
                               FORZA è un numero, per gli effetti che ne hanno una;
@@ -35,18 +32,23 @@ Applica gli effetti di Pixano a una o più figure (BMP, JPEG o GIF), senza fines
                               JPEG se finisce in .jpg o .jpeg, BMP se finisce
                               in .bmp o non ha estensione
   -d, --cartella CARTELLA     scrive il risultato di NOME.* in CARTELLA/NOME.bmp
-  -j, --insieme N             elabora N figure alla volta (tutti i processori se manca)
-      --seme N                fa partire i numeri casuali da N, per ogni figura
+  -j, --insieme N             elabora N immagini alla volta (tutti i processori se manca)
+      --entro N               prima degli effetti riduce le immagini che hanno un
+                              lato più lungo di N pixel, facendo la media dell'area
+      --tutti                 prova tutti gli effetti su FOTO: in CARTELLA scrive una
+                              piccola immagine per ognuno e una pagina, index.html,
+                              con i nomi, le forze e i comandi che li ripetono
+      --seme N                fa partire i numeri casuali da N, per ogni immagine
       --silenzioso            scrive soltanto errori e avvisi
       --elenco                elenca gli effetti: nome, famiglia, valori della forza
       --versione              scrive la versione
   -h, --aiuto                 scrive questo testo
 
 Al posto di INGRESSO o di FILE, "-" è lo standard input o lo standard output.
-Per ogni figura scrive una riga con il nome del risultato e la didascalia;
+Per ogni immagine scrive una riga con il nome del risultato e la didascalia;
 con -o - la riga va sullo standard error.
 
-Esce con 0 se tutto è riuscito, con 1 se una figura non è riuscita (nessun file
+Esce con 0 se tutto è riuscito, con 1 se un'immagine non è riuscita (nessun file
 viene allora scritto o cambiato per essa), con 2 se il comando è sbagliato.
 )";
 }

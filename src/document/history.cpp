@@ -123,7 +123,7 @@ Surface ReadOriginal(const Session& s)
     const Surface& canvas = s.work.Picture1;
     if (d.Modificato == 1 &&
         (picture.Width() != canvas.Width() || picture.Height() != canvas.Height()))
-        throw PictureError(FaultKind::FileAccess, "La figura nel file «" + name.toStdString() +
+        throw PictureError(FaultKind::FileAccess, "L'immagine nel file «" + name.toStdString() +
                                                       "» ora ha un'altra misura");
     return picture;
 }

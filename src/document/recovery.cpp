@@ -60,9 +60,10 @@ QString KeepRemains(const QString& copy)
 
 void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QString& copy)
 {
-    s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
-                   "L'ultima volta Pixano si è interrotto con modifiche non salvate" + ofPicture +
-                       ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(copy));
+    s.dialogs.Tell(
+        BoxIcon::Exclamation, title::Warning,
+        "L'ultima volta Pixano si è chiuso in modo imprevisto con modifiche non salvate" +
+            ofPicture + ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(copy));
 }
 
 /// The noted copy, if it is the picture that was noted. Throws PictureError.
@@ -101,7 +102,7 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
 
 void Offer(Session& s, const RecoveryNote& note)
 {
-    const QString ofPicture = " alla figura " + QFileInfo(note.picture).fileName();
+    const QString ofPicture = " all'immagine " + QFileInfo(note.picture).fileName();
     Surface picture;
     try {
         picture = NotedPicture(note);
@@ -109,15 +110,16 @@ void Offer(Session& s, const RecoveryNote& note)
         TellLost(s, ofPicture, QString::fromUtf8(error.what()), note.copy);
         return;
     }
-    const bool wanted = s.dialogs.Ask(BoxIcon::Exclamation, title::Notice,
-                                      "L'ultima volta Pixano si è interrotto con modifiche non "
-                                      "salvate" +
-                                          ofPicture + ".\nVuoi recuperarla?");
+    const bool wanted =
+        s.dialogs.Ask(BoxIcon::Exclamation, title::Notice,
+                      "L'ultima volta Pixano si è chiuso in modo imprevisto con modifiche non "
+                      "salvate" +
+                          ofPicture + ".\nVuoi recuperarle?");
     if (wanted)
         BringBack(s, note, std::move(picture));
     else
         s.dialogs.Tell(BoxIcon::None, title::Notice,
-                       "La figura resta nel file " + PutAside(note.copy, picture) + '.');
+                       "L'immagine resta nel file " + PutAside(note.copy, picture) + '.');
 }
 
 }  // namespace

@@ -17,13 +17,13 @@ std::string SystemReason(int error)
     case EPERM:
         return "manca il permesso";
     case EROFS:
-        return "il disco è di sola lettura";
+        return "il disco è in sola lettura";
     case ENOSPC:
         return "non c'è più spazio sul disco";
     case EDQUOT:
-        return "lo spazio concesso all'utente è esaurito";
+        return "la quota disco dell'utente è esaurita";
     case EFBIG:
-        return "il file supera la grandezza concessa";
+        return "il file supera la dimensione consentita";
     case ENAMETOOLONG:
         return "il nome è troppo lungo";
     case ELOOP:

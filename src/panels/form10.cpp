@@ -1,5 +1,6 @@
 #include "panels/form10.h"
 
+#include "panels/built_in.h"
 #include "windows/palette_strip.h"
 #include "windows/twips.h"
 #include "windows/window_operation.h"
@@ -100,6 +101,7 @@ Form10::Form10(PaletteTable buttons)
         BuildButton(row)->setParent(boxes_.at(static_cast<std::size_t>(row.frame)));
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         LayInRows(*boxes_[i], PerRow.at(i), i + 1 < boxes_.size() ? Margin : 0);
+    DrawPictures();
     ArrangeFor(screen()->availableGeometry().height());
 }
 
@@ -111,7 +113,7 @@ QPushButton* Form10::BuildButton(const PaletteButton& row)
     button->setAccessibleName(QString::fromUtf8(row.accessible));
     button->setAutoDefault(true);  // the return key presses it, as the blank does
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    if (row.picture != nullptr) button->setIcon(QIcon(QString(":/pixano/") + row.picture));
+    if (row.picture != nullptr) pictures_.emplace_back(button, row.picture);
     if (row.frame == PaletteFrame::Riflessi) {
         QFont font;
         font.setFamilies({"MS Sans Serif", font.family()});
@@ -119,6 +121,19 @@ QPushButton* Form10::BuildButton(const PaletteButton& row)
     }
     connect(button, &QPushButton::clicked, this, [this, &row] { emit Pressed(row); });
     return button;
+}
+
+void Form10::DrawPictures()
+{
+    for (const auto& [button, picture] : pictures_)
+        button->setIcon(ButtonPicture(picture, palette().color(QPalette::ButtonText)));
+}
+
+void Form10::changeEvent(QEvent* event)
+{
+    // Other colours of the desktop ask for another ink.
+    if (event->type() == QEvent::PaletteChange) DrawPictures();
+    QWidget::changeEvent(event);
 }
 
 void Form10::ArrangeFor(int height)

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace pixano {
@@ -41,6 +42,7 @@ class Form10 : public QWidget {
     void Pressed(const pixano::PaletteButton& button);
 
   protected:
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
@@ -50,11 +52,14 @@ class Form10 : public QWidget {
     };
 
     QPushButton* BuildButton(const PaletteButton& row);
+    void DrawPictures();
     void Size(const ButtonSize& size);
     bool FitsItsWidth();
 
     /// The boxes of the buttons, from top to bottom; the last one has no frame.
     std::vector<QWidget*> boxes_;
+    /// The buttons that show a picture, and its file.
+    std::vector<std::pair<QPushButton*, const char*>> pictures_;
 };
 
 }  // namespace pixano

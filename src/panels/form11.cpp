@@ -60,8 +60,8 @@ Form11::Form11(const QString& effect, const QWidget& palette)
 void Form11::BuildSlider()
 {
     slider1_->setObjectName("Slider1");
-    slider1_->setAccessibleName("Intensità");
-    slider1_->setToolTip("Anche con le frecce, la rotella o scrivendo il valore");
+    slider1_->setAccessibleName("Forza");
+    slider1_->setToolTip("Si sposta anche con le frecce o la rotella, o scrivendo il valore");
     slider1_->setRange(0, LargestPosition);
     slider1_->setSingleStep(PositionStep);
     slider1_->setPageStep(Page);

@@ -12,11 +12,13 @@ Form6::Form6()
 {
     setObjectName("Form6");
     setWindowTitle(QString());
+    // Without a title and without buttons there is nothing for a frame to hold.
+    setWindowFlag(Qt::FramelessWindowHint);
     setAccessibleName("Pixano");
-    setAccessibleDescription("Figura d'apertura: premi Invio per cominciare");
+    setAccessibleDescription("Immagine d'apertura: premi Invio per cominciare");
     auto* const picture = FittedPicture("apertura.jpg", QSize(0, 0));
     picture->setObjectName("Picture1");
-    picture->setAccessibleName("Figura d'apertura");
+    picture->setAccessibleName("Immagine d'apertura");
     picture->installEventFilter(this);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -141,10 +141,10 @@ BmpCoding CodingOf(const Fields& fields)
         break;
     case 4:
         if (fields.os2 && fields.bits == 24) return BmpCoding::Rle24;
-        if (!fields.os2) throw Refusal("il file BMP contiene una figura JPEG: non è previsto");
+        if (!fields.os2) throw Refusal("il file BMP contiene un'immagine JPEG: non è previsto");
         break;
     case 5:
-        if (!fields.os2) throw Refusal("il file BMP contiene una figura PNG: non è previsto");
+        if (!fields.os2) throw Refusal("il file BMP contiene un'immagine PNG: non è previsto");
         break;
     default:
         break;

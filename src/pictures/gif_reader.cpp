@@ -121,7 +121,7 @@ class GifReader {
         while (DGifGetRecordType(gif_.get(), &record) == GIF_OK) {
             if (record == IMAGE_DESC_RECORD_TYPE) return;
             if (record == TERMINATE_RECORD_TYPE)
-                throw Refusal("il file GIF non contiene nessuna figura");
+                throw Refusal("il file GIF non contiene nessuna immagine");
             if (record == EXTENSION_RECORD_TYPE) ReadExtension();
         }
         RefuseDamaged();

@@ -25,9 +25,9 @@ std::string JpegErrors::Reason() const
     case JERR_OUT_OF_MEMORY:
         return "la memoria non basta";
     case JERR_IMAGE_TOO_BIG:
-        return "la figura è troppo grande";
+        return "l'immagine è troppo grande";
     case JERR_EMPTY_IMAGE:
-        return "le dimensioni della figura non sono valide";
+        return "le dimensioni dell'immagine non sono valide";
     case JERR_BAD_PRECISION:
     case JERR_SOF_UNSUPPORTED:
     case JERR_CONVERSION_NOTIMPL:

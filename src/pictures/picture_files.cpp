@@ -28,7 +28,7 @@ PictureRead DecodeByContent(ByteSource& source)
     if (magic.starts_with("BM")) return DecodeBmp(source);
     if (magic.starts_with("\xFF\xD8\xFF")) return DecodeJpeg(source);
     if (magic.starts_with("GIF8")) return DecodeGif(source);
-    throw Refusal("non è una figura BMP, JPEG o GIF");
+    throw Refusal("non è un'immagine BMP, JPEG o GIF");
 }
 
 PictureRead Decode(ByteSource& source)
@@ -56,7 +56,7 @@ PictureRead ReadFile(const std::string& path, Links links)
 void EncodeAs(const Surface& surface, PictureFormat format, ByteSink& sink)
 {
     if (surface.Width() == 0 || surface.Height() == 0)
-        throw Refusal("non c'è nessuna figura da scrivere");
+        throw Refusal("non c'è nessuna immagine da scrivere");
     switch (format) {
     case PictureFormat::Bmp:
         return EncodeBmp(surface, sink);

@@ -10,12 +10,13 @@ void CheckSize(std::int64_t width, std::int64_t height)
 {
     const std::string size = std::to_string(width) + " x " + std::to_string(height);
     if (width <= 0 || height <= 0)
-        throw Refusal("le dimensioni della figura non sono valide (" + size + ")");
+        throw Refusal("le dimensioni dell'immagine non sono valide (" + size + ")");
     if (width > LongestSide || height > LongestSide)
-        throw Refusal("la figura è troppo grande (" + size + "): i lati possono avere al massimo " +
-                      std::to_string(LongestSide) + " pixel");
+        throw Refusal("l'immagine è troppo grande (" + size +
+                      "): i lati possono avere al massimo " + std::to_string(LongestSide) +
+                      " pixel");
     if (width * height > MostPixels)
-        throw Refusal("la figura è troppo grande (" + size +
+        throw Refusal("l'immagine è troppo grande (" + size +
                       "): può avere al massimo 256 milioni di pixel");
 }
 

@@ -21,11 +21,11 @@ QString PathOf(const QString& argument)
 
 }  // namespace
 
-const char* const UsageText = "Uso: pixano [--da-menu] [--] [FIGURA]\n"
+const char* const UsageText = "Uso: pixano [--da-menu] [--] [IMMAGINE]\n"
                               "\n"
-                              "Applica effetti particolari a figure BMP, JPEG e GIF.\n"
+                              "Applica effetti particolari a immagini BMP, JPEG e GIF.\n"
                               "\n"
-                              "  FIGURA       la figura da aprire (anche come URL file:)\n"
+                              "  IMMAGINE     l'immagine da aprire (anche come URL file:)\n"
                               "  --da-menu    lavora nella cartella dei dati dell'utente\n"
                               "  --aiuto      mostra questo testo\n"
                               "  --versione   mostra la versione\n";

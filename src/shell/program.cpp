@@ -11,6 +11,7 @@
 #include "shell/run.h"
 #include "shell/start_up.h"
 #include "windows/assistive.h"
+#include "windows/own_style.h"
 #include "windows/screen_dialogs.h"
 
 #include <QApplication>
@@ -95,6 +96,7 @@ void PrepareApplication(QApplication& application)
     QApplication::setApplicationVersion(PIXANO_VERSION);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
+    QApplication::setStyle(new OwnStyle);
     TellAssistiveTools();
     // Dialogs of the desktop would speak its language, whatever it is.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -3,6 +3,7 @@
 #include "canvas/fault.h"
 #include "document/canvas_copy.h"
 #include "document/places.h"
+#include "document/recovery_note.h"
 #include "document/working_pictures.h"
 #include "pictures/picture_files.h"
 
@@ -30,6 +31,26 @@ QString KeepUnsavedWork(const Session& s)
     } catch (const std::exception& error) {
         return "\n\nIl lavoro non salvato non è stato conservato. " +
                QString::fromUtf8(error.what()) + '.';
+    }
+}
+
+/// Nobody goes back, forward or shows a preview any more: only what the next start offers stays.
+void RemoveNeedlessFiles(const Session& s)
+{
+    try {
+        const std::optional<RecoveryNote> note = ReadRecoveryNote();
+        // Where no note tells it, any of them may be all that is left of the work.
+        if (!note && (s.doc.Modificato == 1 || RecoveryNoteThere())) return;
+        QStringList names{file::Undo, file::Redo, file::SpareCopy};
+        if (s.doc.previewCopied) names += file::PreviewCopy;
+        for (const QString& name : names + s.doc.pasted) {
+            const QString path = NativePath(name);
+            const bool offered = note && (path == note->copy || path == note->picture);
+            const bool told = s.doc.Modificato == 1 && path == s.doc.canvasCopy;
+            if (!offered && !told) KillWorkingPicture(name);
+        }
+    } catch (const Fault&) {
+        return;  // the end was told, and is not told twice
     }
 }
 
@@ -66,7 +87,10 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
     else
         SecureCanvas(s);
     Tell(s, BoxIcon::Critical, text);
-    if (ending) EndProgram(s, 1);
+    if (!ending) return;
+    if (s.doc.Modificato == 0) ForgetCanvasCopy(s);
+    RemoveNeedlessFiles(s);
+    EndProgram(s, 1);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace pixano {
 PictureBox::PictureBox(const Surface& surface) : surface_(surface)
 {
     setObjectName("Picture1");
-    setAccessibleName("Figura");
+    setAccessibleName("Immagine");
     setFrameStyle(static_cast<int>(QFrame::WinPanel) | static_cast<int>(QFrame::Sunken));
     FitPicture();
 }
@@ -41,7 +41,7 @@ Form2::Form2(const Surface& surface) : HeldWindow(new PictureBox(surface))
 {
     picture1_ = static_cast<PictureBox*>(widget());
     setObjectName("Form2");
-    setAccessibleName("Figura elaborata");
+    setAccessibleName("Immagine elaborata");
     // The window's inside is larger than the picture, and takes what is dropped on either.
     viewport()->setAcceptDrops(true);
     connect(picture1_, &PictureBox::Clicked, this, [this] { BringForward(*this); });

@@ -9,7 +9,7 @@ namespace pixano {
 ImageControl::ImageControl()
 {
     setObjectName("Image1");
-    setAccessibleName("Anteprima della figura");
+    setAccessibleName("Anteprima dell'immagine");
 }
 
 void ImageControl::SetPicture(Surface picture)

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -80,6 +81,25 @@ QString Breakable(QString text)
     return text.replace(partOfLongName, QStringLiteral(u"\\1\u200b"));
 }
 
+/// Brings the text close to its icon, and to the edge where there is none: the toolkit leaves the
+/// icon's column empty then.
+void PlaceText(QMessageBox& box)
+{
+    auto* const text = box.findChild<QLabel*>("qt_msgbox_label");
+    auto* const grid = qobject_cast<QGridLayout*>(box.layout());
+    if (text == nullptr || grid == nullptr) return;
+    text->setContentsMargins(0, 0, 0, 0);
+    text->setIndent(0);
+    text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // A short text stands at the middle of its icon.
+    if (!box.iconPixmap().isNull())
+        text->setMinimumHeight(qRound(box.iconPixmap().deviceIndependentSize().height()));
+    QLayoutItem* const first = grid->itemAtPosition(0, 0);
+    if (first == nullptr || first->spacerItem() == nullptr) return;
+    first->spacerItem()->changeSize(0, 0);
+    grid->setHorizontalSpacing(0);
+}
+
 void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)
 {
     box.setObjectName("MsgBox");
@@ -90,6 +110,7 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(Breakable(text));
+    PlaceText(box);
 }
 
 /// The toolkit's own sizes cut the columns off, and are larger than a small screen.

@@ -80,6 +80,17 @@ TEST(CommandLine, TakesADashAsStandardInputAndOutput)
     EXPECT_THAT(line.inputs, ElementsAre("-"));
 }
 
+TEST(CommandLine, AsksForASheetOfAllEffects)
+{
+    const CommandLine line = Parsed({"--tutti", "-d", "f", "--entro", "800", "a.jpg"});
+    EXPECT_EQ(line.task, Task::Sheet);
+    EXPECT_EQ(line.folder, "f");
+    EXPECT_EQ(line.within, 800);
+    EXPECT_THAT(line.inputs, ElementsAre("a.jpg"));
+    EXPECT_EQ(Parsed({"--tutti", "--aiuto"}).task, Task::Help);
+    EXPECT_EQ(Parsed({"--aiuto", "--tutti"}).task, Task::Help);
+}
+
 TEST(CommandLine, NeedsNoPictureToTellAboutItself)
 {
     EXPECT_EQ(Parsed({"--aiuto"}).task, Task::Help);
@@ -90,16 +101,22 @@ TEST(CommandLine, NeedsNoPictureToTellAboutItself)
 
 TEST(CommandLine, RefusesWhatItCannotFollow)
 {
-    EXPECT_THAT(Complaint({}), HasSubstr("Manca la figura"));
+    EXPECT_THAT(Complaint({}), HasSubstr("Manca l'immagine"));
     EXPECT_THAT(Complaint({"a"}), HasSubstr("Manca -o"));
-    EXPECT_THAT(Complaint({"-o", "b"}), HasSubstr("Manca la figura"));
+    EXPECT_THAT(Complaint({"-o", "b"}), HasSubstr("Manca l'immagine"));
     EXPECT_THAT(Complaint({"a", "-o"}), HasSubstr("Manca il valore dopo -o"));
     EXPECT_THAT(Complaint({"-o", "", "a"}), HasSubstr("vuoto"));
     EXPECT_THAT(Complaint({"-o", "b", ""}), HasSubstr("vuoto"));
-    EXPECT_THAT(Complaint({"-o", "b", "a", "c"}), HasSubstr("Con più figure serve -d"));
+    EXPECT_THAT(Complaint({"-o", "b", "a", "c"}), HasSubstr("Con più immagini serve -d"));
     EXPECT_THAT(Complaint({"-o", "b", "-d", "f", "a"}), HasSubstr("non possono stare insieme"));
     EXPECT_THAT(Complaint({"-o", "b", "-o", "c", "a"}), HasSubstr("due volte"));
     EXPECT_THAT(Complaint({"-d", "f", "-"}), HasSubstr("standard input"));
+    EXPECT_THAT(Complaint({"--tutti", "-d", "f"}), HasSubstr("Manca l'immagine"));
+    EXPECT_THAT(Complaint({"--tutti", "-d", "f", "a", "b"}), HasSubstr("una sola"));
+    EXPECT_THAT(Complaint({"--tutti", "-d", "f", "-"}), HasSubstr("ha bisogno di un file"));
+    EXPECT_THAT(Complaint({"--tutti", "a"}), HasSubstr("serve -d"));
+    EXPECT_THAT(Complaint({"--tutti", "-o", "b", "a"}), HasSubstr("serve -d"));
+    EXPECT_THAT(Complaint({"--tutti", "-d", "f", "-e", "Specchio", "a"}), HasSubstr("-e non"));
     EXPECT_THAT(Complaint({"-x", "a"}), HasSubstr("\"-x\""));
     EXPECT_THAT(Complaint({"--chissà", "a"}), HasSubstr("\"--chissà\""));
     EXPECT_THAT(Complaint({"--silenzioso=1", "a"}), HasSubstr("non prende un valore"));
@@ -109,6 +126,9 @@ TEST(CommandLine, RefusesWhatIsNoWholeNumber)
 {
     for (const auto* const text : {"", "x", "1x", "-1", "1.5", " 1", "18446744073709551616"})
         EXPECT_THAT(Complaint({"--seme", text, "-o", "b", "a"}), HasSubstr("numero intero"))
+            << text;
+    for (const auto* const text : {"0", "-2", "2147483648", "due"})
+        EXPECT_THAT(Complaint({"--entro", text, "-o", "b", "a"}), HasSubstr("numero intero"))
             << text;
     for (const auto* const text : {"0", "-2", "4294967296", "due"})
         EXPECT_THAT(Complaint({"-j", text, "-o", "b", "a"}), HasSubstr("numero intero")) << text;

@@ -129,7 +129,7 @@ TEST_F(Tool, ShowsItsProgressOnATerminal)
             EXPECT_EQ(ran.out, "");
             continue;
         }
-        EXPECT_THAT(ran.out, HasSubstr("\r\033[K0 figure su 2   Vetro  ("));
+        EXPECT_THAT(ran.out, HasSubstr("\r\033[K0 immagini su 2   Vetro  ("));
         EXPECT_THAT(ran.out, HasSubstr("%)\r\033[Kfatte/grande.bmp: Vetro   1400x1400"));
     }
 }

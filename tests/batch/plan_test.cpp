@@ -60,6 +60,35 @@ TEST(Plan, RefusesToReplaceAPictureThatIsRead)
     EXPECT_EQ(PlanPictures(Into(folder / "", {folder / "b.jpg"})).size(), 1U);
 }
 
+TEST(Plan, NamesTheSmallPicturesOfASheetAfterTheirEffects)
+{
+    const PlannedSheet sheet = PlanSheet(Into("out", {"in/a.jpg"}));
+    std::map<std::string_view, std::string> names;
+    for (std::size_t i = 0; i < Effects.size(); ++i)
+        names[Effects[i].name] = sheet.effects.at(i).output;
+    EXPECT_EQ(sheet.effects.size(), 46U);
+    EXPECT_EQ(names["Specchio"], "out/specchio.jpg");
+    EXPECT_EQ(names["Rotazione -90°"], "out/rotazione-meno-90.jpg");
+    EXPECT_EQ(names["Rotazione +90°"], "out/rotazione-piu-90.jpg");
+    EXPECT_EQ(names["Rifl.o Oriz. Superiore"], "out/riflo-oriz-superiore.jpg");
+    EXPECT_EQ(sheet.original, "out/originale.jpg");
+    EXPECT_EQ(sheet.page, "out/index.html");
+    std::set<std::string> different;
+    for (const PlannedPicture& picture : sheet.effects)
+        different.insert(picture.output);
+    EXPECT_EQ(different.size(), 46U);
+}
+
+TEST(Plan, RefusesASheetThatWouldReplaceItsPicture)
+{
+    const TemporaryFolder folder;
+    for (const char* const name : {"specchio.jpg", "originale.jpg", "index.html", "mio.jpg"})
+        WriteBytes(folder / name, "x");
+    for (const char* const name : {"specchio.jpg", "originale.jpg", "index.html"})
+        EXPECT_THROW(PlanSheet(Into(folder / "", {folder / name})), WrongCommandLine) << name;
+    EXPECT_NO_THROW(PlanSheet(Into(folder / "", {folder / "mio.jpg"})));
+}
+
 TEST(Plan, RefusesFormatsThatAreNotWritten)
 {
     EXPECT_THROW(PlanPictures(To("out.gif", "a")), WrongCommandLine);

@@ -163,7 +163,7 @@ TEST_F(DamagedHistory, KeepsTheChangesWhenTheOpenedPictureNowHasAnotherSize)
     Made("a.bmp", Drawn({"xy"}));
     ClickEntry(entry::Orig);
     EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
-                                                    "La figura nel file «" + Path("a.bmp") +
+                                                    "L'immagine nel file «" + Path("a.bmp") +
                                                         "» ora ha un'altra misura."}}));
     EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
     EXPECT_EQ(session.doc.Modificato, 1);

@@ -52,7 +52,7 @@ TEST_F(Program, TellsWhyAFileIsNoPictureAndKeepsTheOneThatIsOpen)
     Write("b.bmp", "solo testo");
     Open(Path("b.bmp"));
     EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{
-                                Unreadable(Path("b.bmp"), "non è una figura BMP, JPEG o GIF")}));
+                                Unreadable(Path("b.bmp"), "non è un'immagine BMP, JPEG o GIF")}));
     EXPECT_TRUE(Seen(session) == before);
     EXPECT_EQ(Bytes("percors.dat"), "\"" + Path("a.bmp").toStdString() + "\"\r\n");
 }

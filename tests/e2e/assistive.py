@@ -169,7 +169,7 @@ def bring_to_front(title, node):
 
 def canvas(what):
     """The canvas, once its title says that."""
-    return window("frame", f"Figura elaborata: {what} {width}x{height}")
+    return window("frame", f"Immagine elaborata: {what} {width}x{height}")
 
 
 def look_at_start():
@@ -180,10 +180,10 @@ def look_at_start():
 
 def look_at_windows():
     check(canvas("foto.jpg"))
-    named(canvas("foto.jpg"), "image", "Figura")
+    named(canvas("foto.jpg"), "image", "Immagine")
     preview = window("frame", f"Anteprima: foto.jpg ({width} x {height}) - 100%")
     check(preview)
-    named(preview, "image", "Anteprima della figura")
+    named(preview, "image", "Anteprima dell'immagine")
 
 
 def look_at_menus():
@@ -232,7 +232,7 @@ def look_at_slider(palette):
     vetro = named(palette, "push button", "Vetro")
     trigger(vetro, "Press")
     window_ = front_window("dialog", "Vetro")
-    slider = named(window_, "slider", "Intensità")
+    slider = named(window_, "slider", "Forza")
     tab_through([slider, named(window_, "push button", "OK"), named(window_, "push button", "Annulla")])
     before = slider.get_current_value()
     keys("Right")

@@ -60,6 +60,7 @@ expect_words 'pixano-batch -e Vetro=1\t' pixano-batch -e Vetro=10000
 expect_words 'pixano-batch -e "Foto Color Rnd=1\t' pixano-batch -e 'Foto Color Rnd=10000'
 expect_words 'pixano-batch -e Specchio=1\t' pixano-batch -e Specchio=1
 expect_words 'pixano-batch --si\t fo\t' pixano-batch --silenzioso foto.jpg
+expect_words 'pixano-batch --tu\t --en\t' pixano-batch --tutti --entro
 expect_words 'pixano-batch -d \t' pixano-batch -d risultati/
 expect_words 'pixano-batch -- --si\t' pixano-batch -- --si
 expect_words 'pixano --da\t fo\t' pixano --da-menu foto.jpg

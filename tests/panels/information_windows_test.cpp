@@ -1,3 +1,4 @@
+#include "panels/built_in.h"
 #include "panels/fitted_picture.h"
 #include "panels/form5.h"
 #include "panels/form6.h"
@@ -26,9 +27,9 @@ void ExpectPicture(const QWidget& window, QSize size)
 {
     const auto* const picture = window.findChild<QLabel*>("Picture1");
     ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->pixmap().size(), size);
+    EXPECT_EQ(picture->pixmap().deviceIndependentSize().toSize(), size);
     const QImage image = picture->pixmap().toImage();
-    EXPECT_NE(image.pixel(0, 0), image.pixel(size.width() / 2, size.height() / 2));
+    EXPECT_NE(image.pixel(0, 0), image.pixel(image.width() / 2, image.height() / 2));
 }
 
 TEST(Informazioni, ShowsTheEmblemInTheMiddleOfTheScreen)
@@ -58,6 +59,7 @@ TEST(OpeningPicture, HasNoCaption)
     Form6 window;
     window.show();
     EXPECT_TRUE(window.windowTitle().isEmpty());
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     ExpectPicture(window, {640, 420});
     ExpectCentred(window);
 }
@@ -81,6 +83,22 @@ TEST(OpeningPicture, StaysAtOtherKeys)
     window.show();
     QTest::keyClick(&window, Qt::Key_A);
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST(FittedPicture, IsDrawnForTheDotsOfAFineScreen)
+{
+    // Twice the size has the detail of twice the size: it is not the small one made larger.
+    for (const char* const file : {"emblema.jpg", "apertura.jpg"}) {
+        const QImage small = BuiltIn(file, 1);
+        for (const qreal dotsPerPixel : {1.25, 1.5, 2.0}) {
+            const QImage fine = BuiltIn(file, dotsPerPixel);
+            EXPECT_EQ(fine.size(), 2 * small.size()) << file;
+            EXPECT_EQ(fine.devicePixelRatio(), 2) << file;
+            EXPECT_NE(fine,
+                      small.scaled(fine.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation))
+                << file;
+        }
+    }
 }
 
 TEST(FittedPicture, ShrinksInProportionWhereTheScreenIsTooSmall)
@@ -135,10 +153,20 @@ TEST_F(Description, SaysWhatTheProgramIsFor)
         EXPECT_TRUE(text.contains(said)) << said;
 }
 
-TEST_F(Description, IsNotLongerThanItsBox)
+TEST_F(Description, FillsItsBoxAndHasAMargin)
 {
     const auto* const box = window.findChild<QTextBrowser*>("RichTextBox1");
     EXPECT_LE(Text().size().height(), box->viewport()->height());
+    EXPECT_GT(Text().size().height(), box->viewport()->height() - 2);
+    EXPECT_GE(Text().documentMargin(), 12);
+}
+
+TEST_F(Description, IsSignedAndHasOneKindOfApostrophe)
+{
+    const QString text = Text().toPlainText();
+    EXPECT_TRUE(text.trimmed().endsWith("Gli autori di Pixano")) << text.toStdString();
+    EXPECT_TRUE(text.contains('\''));
+    EXPECT_FALSE(text.contains(QChar(0x2019)));
 }
 
 TEST_F(Description, ClosesAtItsButtonAndAtEscape)

@@ -42,13 +42,31 @@ TEST(Palette, ShowsPicturesOnTheButtonsWithoutCaption)
     for (const char* name : {"SSCommand9", "SSCommand10", "Command1", "Command2"}) {
         const auto* const button = palette.findChild<QPushButton*>(name);
         ASSERT_TRUE(button->text().isEmpty()) << name;
-        // Large enough for a screen of double scale, and no two alike.
-        const QImage picture = button->icon().pixmap(QSize(48, 48)).toImage();
-        ASSERT_EQ(picture.size(), QSize(48, 48)) << name;
+        // Drawn for a screen of double scale too, and no two alike.
+        const QImage picture = button->icon().pixmap(QSize(22, 22), 2).toImage();
+        ASSERT_EQ(picture.size(), QSize(44, 44)) << name;
         const QByteArray bytes(reinterpret_cast<const char*>(picture.bits()),
                                picture.sizeInBytes());
         EXPECT_FALSE(shown.contains(bytes)) << name;
         shown.append(bytes);
+    }
+}
+
+TEST(Palette, ShowsMagnifiersInTheColourOfTheLettersOnTheButtonsOwnGround)
+{
+    Form10 palette(PaletteButtons());
+    for (const QColor letters : {QColor(0xfa, 0xfa, 0xff), QColor(0x10, 0x20, 0x30)}) {
+        QPalette colours = palette.palette();
+        colours.setColor(QPalette::ButtonText, letters);
+        palette.setPalette(colours);
+        for (const char* name : {"Command1", "Command2"}) {
+            const auto* const button = palette.findChild<QPushButton*>(name);
+            const QImage picture = button->icon().pixmap(QSize(22, 22), 1).toImage();
+            EXPECT_EQ(picture.pixelColor(21, 0).alpha(), 0) << name;  // a corner
+            const QColor sign = picture.pixelColor(9, 9);
+            EXPECT_EQ(sign.alpha(), 255) << name;
+            EXPECT_EQ(sign.rgb(), letters.rgb()) << name;
+        }
     }
 }
 

@@ -18,11 +18,11 @@ std::string RefusalOf(const BmpHead& head)
 TEST(BmpHeader, SizesThatCannotBe)
 {
     EXPECT_THAT(RefusalOf({.width = 0}),
-                HasSubstr("dimensioni della figura non sono valide (0 x 1)"));
-    EXPECT_THAT(RefusalOf({.height = 0}), HasSubstr("dimensioni della figura non sono valide"));
-    EXPECT_THAT(RefusalOf({.width = -5}), HasSubstr("dimensioni della figura non sono valide"));
+                HasSubstr("dimensioni dell'immagine non sono valide (0 x 1)"));
+    EXPECT_THAT(RefusalOf({.height = 0}), HasSubstr("dimensioni dell'immagine non sono valide"));
+    EXPECT_THAT(RefusalOf({.width = -5}), HasSubstr("dimensioni dell'immagine non sono valide"));
     EXPECT_THAT(RefusalOf({.width = INT_MIN}),
-                HasSubstr("dimensioni della figura non sono valide"));
+                HasSubstr("dimensioni dell'immagine non sono valide"));
 }
 
 TEST(BmpHeader, SizesBeyondTheBounds)
@@ -70,8 +70,8 @@ TEST(BmpHeader, KindsThatAreNotRead)
 
 TEST(BmpHeader, OtherFormatsInside)
 {
-    EXPECT_THAT(RefusalOf({.bits = 0, .compression = 4}), HasSubstr("contiene una figura JPEG"));
-    EXPECT_THAT(RefusalOf({.bits = 0, .compression = 5}), HasSubstr("contiene una figura PNG"));
+    EXPECT_THAT(RefusalOf({.bits = 0, .compression = 4}), HasSubstr("contiene un'immagine JPEG"));
+    EXPECT_THAT(RefusalOf({.bits = 0, .compression = 5}), HasSubstr("contiene un'immagine PNG"));
 }
 
 TEST(BmpHeader, MasksWithGaps)
@@ -102,7 +102,7 @@ TEST(BmpHeader, AFileThatEndsInItsHeader)
 TEST(BmpHeader, AMessageNamesTheFile)
 {
     EXPECT_EQ(RefusalOf({.width = 0}),
-              "Impossibile leggere «prova»: le dimensioni della figura non sono valide (0 x 1)");
+              "Impossibile leggere «prova»: le dimensioni dell'immagine non sono valide (0 x 1)");
 }
 
 }  // namespace

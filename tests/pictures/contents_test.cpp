@@ -10,7 +10,7 @@ using testing::HasSubstr;
 
 TEST(Contents, OtherThanBmpJpegAndGifAreRefused)
 {
-    constexpr auto Message = "non è una figura BMP, JPEG o GIF";
+    constexpr auto Message = "non è un'immagine BMP, JPEG o GIF";
     EXPECT_THAT(Bytes().Add("\x89PNG\r\n\x1A\n").Refusal(), HasSubstr(Message));
     EXPECT_THAT(Bytes().Add("<svg xmlns=\"http://www.w3.org/2000/svg\"/>").Refusal(),
                 HasSubstr(Message));

@@ -111,7 +111,7 @@ TEST(Gif, AScreenWithoutSizeTakesItsFrames)
     EXPECT_EQ(ReadColours(File({GifScreen(0, 0), GifFrame(5, 5, 2, 1), GifPixels({1, 2}), GifEnd})),
               (Colours{B, C}));
     EXPECT_THAT(File({GifScreen(0, 0), GifFrame(0, 0, 0, 0), GifPixels({}), GifEnd}).Refusal(),
-                HasSubstr("le dimensioni della figura non sono valide (0 x 0)"));
+                HasSubstr("le dimensioni dell'immagine non sono valide (0 x 0)"));
 }
 
 TEST(Gif, AFrameWithoutSizeLeavesTheBackground)
@@ -180,7 +180,7 @@ TEST(Gif, BeforeThePixelsADamagedFileIsRefused)
 TEST(Gif, NoFrameAtAll)
 {
     EXPECT_THAT(File({GifScreen(2, 2), GifEnd}).Refusal(),
-                HasSubstr("non contiene nessuna figura"));
+                HasSubstr("non contiene nessuna immagine"));
 }
 
 TEST(Gif, SizesBeyondTheBounds)

@@ -13,7 +13,7 @@ TEST(JpegBounds, SidesAndPixels)
     const Bytes file = MakeJpeg(Shaded(16, 16));
     EXPECT_THAT(WithSides(file, 32768, 1).Refusal(), HasSubstr("troppo grande (32768 x 1)"));
     EXPECT_THAT(WithSides(file, 1, 65500).Refusal(), HasSubstr("troppo grande (1 x 65500)"));
-    EXPECT_THAT(WithSides(file, 65535, 65535).Refusal(), HasSubstr("la figura è troppo grande"));
+    EXPECT_THAT(WithSides(file, 65535, 65535).Refusal(), HasSubstr("l'immagine è troppo grande"));
     EXPECT_THAT(WithSides(file, 32767, 32767).Refusal(), HasSubstr("256 milioni"));
     EXPECT_THAT(WithSides(file, 16, 0).Refusal(), HasSubstr("non sono valide"));
     EXPECT_THAT(WithSides(file, 0, 16).Refusal(), HasSubstr("non sono valide"));

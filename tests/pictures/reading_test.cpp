@@ -114,7 +114,7 @@ TEST_F(Reading, OtherContentIsNamed)
 {
     WriteFile(folder / "testo.bmp", Bytes().Add("niente di che"));
     EXPECT_EQ(RefusalOf(folder / "testo.bmp"), "Impossibile leggere «" + (folder / "testo.bmp") +
-                                                   "»: non è una figura BMP, JPEG o GIF");
+                                                   "»: non è un'immagine BMP, JPEG o GIF");
 }
 
 TEST_F(Reading, MemoryLeftByOthersDoesNotShow)

@@ -207,11 +207,12 @@ TEST_F(Saving, AFailureOnTheWayKeepsTheOldFile)
     const Surface large(400, 400);
     {
         const FileSizeLimit limit(100000);
-        EXPECT_THAT(RefusalOf(SaveBitmap, large, path), HasSubstr("supera la grandezza concessa"));
+        EXPECT_THAT(RefusalOf(SaveBitmap, large, path),
+                    HasSubstr("supera la dimensione consentita"));
         EXPECT_THAT(RefusalOf(WriteWorkingBitmap, large, path),
-                    HasSubstr("supera la grandezza concessa"));
+                    HasSubstr("supera la dimensione consentita"));
         EXPECT_THAT(RefusalOf(SavePicture, Surface(3000, 3000), folder / "nuova.jpg"),
-                    HasSubstr("supera la grandezza concessa"));
+                    HasSubstr("supera la dimensione consentita"));
     }
     EXPECT_EQ(ReadFile(path), old);
     EXPECT_THAT(folder.Names(), ElementsAre("figura.bmp"));
@@ -249,7 +250,7 @@ TEST_F(Saving, WhatIsProtectedIsKept)
 
 TEST_F(Saving, NoPicture)
 {
-    EXPECT_THAT(RefusalOf(SaveBitmap, Surface(), path), HasSubstr("nessuna figura"));
+    EXPECT_THAT(RefusalOf(SaveBitmap, Surface(), path), HasSubstr("nessuna immagine"));
     EXPECT_TRUE(folder.Names().empty());
 }
 

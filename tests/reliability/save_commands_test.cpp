@@ -170,7 +170,7 @@ TEST_F(FailingCommand, ALimitOnTheSizeOfFiles)
     dialogs.answers.push_back(true);
     SaveAs(target);
     EXPECT_THAT(dialogs.told.at(0).text.toStdString(),
-                HasSubstr("il file supera la grandezza concessa"));
+                HasSubstr("il file supera la dimensione consentita"));
     ExpectNothingLost(target);
 }
 

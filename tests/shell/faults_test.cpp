@@ -1,6 +1,7 @@
 // Run-time errors: what the user is told, what stays behind, and how the program goes on or ends.
 #include "canvas/captures.h"
 #include "canvas/fault.h"
+#include "document/recovery_note.h"
 #include "shell/spy_effect.h"
 #include "support/program.h"
 
@@ -146,7 +147,7 @@ TEST_F(Faults, EndOnlyTheCommandWhereThePictureIsRefused)
     Apply("Multi Step Verticale");
     EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{ErrorIn(
                                 "Multi Step Verticale",
-                                "Operazione impossibile: la figura è larga meno di 6 pixel")}));
+                                "Operazione impossibile: l'immagine è larga meno di 6 pixel")}));
     EXPECT_FALSE(session.ending.has_value());
 }
 
@@ -165,7 +166,7 @@ TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
               (std::vector<ShownBox>{
                   {BoxIcon::Critical, "Attenzione!",
                    "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla "
-                   "matrice (ammessi da 0 a 1500): la figura è troppo grande o troppo stretta per "
+                   "matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo stretta per "
                    "questo effetto.\n\nIl programma termina."}}));
     EXPECT_EQ(session.ending, 1);
     EXPECT_FALSE(session.form1.isVisible());
@@ -182,11 +183,34 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
     const QString path = Data(Conserved()[0]);
     EXPECT_EQ(dialogs.told.back().text,
               "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla matrice "
-              "(ammessi da 0 a 1500): la figura è troppo grande o troppo stretta per questo "
+              "(ammessi da 0 a 1500): l'immagine è troppo grande o troppo stretta per questo "
               "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
                   path + "».\n\nIl programma termina.");
     EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
     EXPECT_EQ(session.ending, 1);
+}
+
+TEST_F(FatalFaults, LeaveNoFileThatNothingNeeds)
+{
+    Apply("Multi Step Orizzontale");
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp"),
+                                Path("elab.ser"), Data("recupero.txt")})
+        EXPECT_FALSE(Exists(file)) << file.toStdString();
+}
+
+TEST_F(FatalFaults, LeaveWhatTheNextStartOffersAndNothingElse)
+{
+    Apply("Specchio");
+    Apply("Capovolgi");
+    ClickEntry(entry::Undo);
+    ASSERT_TRUE(Exists(Data("temp2.bml")));
+    Apply("Multi Step Orizzontale");
+    ASSERT_EQ(session.ending, 1);
+    const std::optional<RecoveryNote> note = ReadRecoveryNote();
+    ASSERT_TRUE(note.has_value());
+    EXPECT_TRUE(Exists(note->copy));
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp")})
+        EXPECT_EQ(Exists(file), file == note->copy) << file.toStdString();
 }
 
 TEST_F(Faults, KeepThePictureBeforeTheEffectThatFailedHalfway)

@@ -104,7 +104,7 @@ TEST(ProgramOptions, AreAnsweredWithoutAScreenWhereTheyOnlyAsk)
 TEST(ProgramOptions, AreAllInTheUsageText)
 {
     EXPECT_THAT(UsageText, StartsWith("Uso: pixano "));
-    for (const char* const option : {"--da-menu", "--aiuto", "--versione", "FIGURA"})
+    for (const char* const option : {"--da-menu", "--aiuto", "--versione", "IMMAGINE"})
         EXPECT_THAT(UsageText, HasSubstr(option));
 }
 

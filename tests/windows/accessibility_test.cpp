@@ -138,11 +138,11 @@ TEST_F(Accessibility, WindowsAndPicturesAreToldAsWhatTheyAre)
 
 TEST_F(Accessibility, AWindowTellsItsTitleToo)
 {
-    EXPECT_EQ(NameOf(session.form2), "Figura elaborata: a.bmp 9x7");
+    EXPECT_EQ(NameOf(session.form2), "Immagine elaborata: a.bmp 9x7");
     EXPECT_EQ(NameOf(session.form9), "Anteprima: a.bmp (9 x 7) - 100%");
     EXPECT_EQ(NameOf(session.form10), "Strumenti");
     Apply("Specchio");
-    EXPECT_EQ(NameOf(session.form2), "Figura elaborata: Specchio 9x7");
+    EXPECT_EQ(NameOf(session.form2), "Immagine elaborata: Specchio 9x7");
 }
 
 TEST_F(Accessibility, EveryMenuHasAName)

@@ -57,6 +57,18 @@ TEST_F(AnyScreen, HoldsTheMainWindowWithAllItsMenus)
     EXPECT_GE(bar->width(), bar->sizeHint().width());
 }
 
+TEST_F(AnyScreen, ShowsItsPicturesInTheScreensOwnDots)
+{
+    const qreal dots = QApplication::primaryScreen()->devicePixelRatio();
+    const Form5 emblem;
+    const Form6 opening;
+    for (const QWidget* const window :
+         {static_cast<const QWidget*>(&emblem), static_cast<const QWidget*>(&opening)}) {
+        const QPixmap shown = window->findChild<QLabel*>("Picture1")->pixmap();
+        EXPECT_EQ(shown.devicePixelRatio(), dots) << window->objectName().toStdString();
+    }
+}
+
 TEST_F(AnyScreen, LeavesThePaletteFreeBesideTheMainWindowWhereTheMenusAllowIt)
 {
     constexpr int Palette = 217;

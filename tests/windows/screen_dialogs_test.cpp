@@ -2,10 +2,14 @@
 #include "support/program.h"
 #include "windows/screen_dialogs.h"
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QStyle>
+
+#include <tuple>
 
 namespace pixano::test {
 namespace {
@@ -79,6 +83,48 @@ TEST_F(RealBox, TellsUntilItIsClosed)
     });
     dialogs.Tell(BoxIcon::Critical, "Attenzione!", "testo");
     EXPECT_TRUE(shown);
+}
+
+/// The program's own drawing of that name, at twice its size.
+QImage Drawn(const QString& name)
+{
+    return QImage(":/pixano/icons/" + name + "@2x.png").convertToFormat(QImage::Format_ARGB32);
+}
+
+TEST_F(RealBox, ShowsTheProgramsOwnIconsAndNoneOnButtons)
+{
+    for (const auto& [icon, name, shown] :
+         {std::tuple(BoxIcon::Question, "domanda", QMessageBox::Question),
+          {BoxIcon::Exclamation, "avviso", QMessageBox::Warning},
+          {BoxIcon::Critical, "errore", QMessageBox::Critical}}) {
+        Meanwhile([&, name = name, shown = shown](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), shown);
+            const QIcon standard = box.style()->standardIcon(
+                shown == QMessageBox::Question  ? QStyle::SP_MessageBoxQuestion
+                : shown == QMessageBox::Warning ? QStyle::SP_MessageBoxWarning
+                                                : QStyle::SP_MessageBoxCritical);
+            const QImage fine =
+                standard.pixmap(QSize(48, 48), 2).toImage().convertToFormat(QImage::Format_ARGB32);
+            EXPECT_EQ(fine.size(), QSize(96, 96)) << name;
+            EXPECT_EQ(fine.pixel(48, 70), Drawn(name).pixel(48, 70)) << name;
+            EXPECT_EQ(box.iconPixmap().deviceIndependentSize(), QSizeF(48, 48)) << name;
+            for (const QAbstractButton* const button : box.buttons())
+                EXPECT_TRUE(button->icon().isNull()) << name;
+            box.button(QMessageBox::No)->click();
+        });
+        EXPECT_FALSE(dialogs.Ask(icon, "Avviso!", "?"));
+    }
+}
+
+TEST_F(RealBox, LeavesNoEmptyColumnWhereItHasNoIcon)
+{
+    Meanwhile([](QMessageBox& box) {
+        const auto* const text = box.findChild<QLabel*>("qt_msgbox_label");
+        const auto* const buttons = box.findChild<QDialogButtonBox*>();
+        EXPECT_EQ(text->x() + text->contentsMargins().left() + text->indent(), buttons->x());
+        box.button(QMessageBox::No)->click();
+    });
+    EXPECT_FALSE(dialogs.Ask(BoxIcon::None, "", "Salvare i cambiamenti del file elaborato?"));
 }
 
 TEST_F(RealBox, NamesItsIconForThoseWhoDoNotSeeIt)

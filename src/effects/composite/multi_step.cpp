@@ -101,7 +101,7 @@ void RefuseEndlessColumnPass(const Work& w)
 {
     if (w.Alt > 0 && ColumnBand(w) == 0)
         throw Fault(FaultKind::InvalidCall,
-                    "Operazione impossibile: la figura è larga meno di 6 pixel");
+                    "Operazione impossibile: l'immagine è larga meno di 6 pixel");
 }
 
 /// Throws InvalidCall where a row pass would never end. One that is too wide for the matrix ends in
@@ -110,7 +110,7 @@ void RefuseEndlessRowPass(const Work& w)
 {
     if (w.Larg - 1 <= Matrix::LastIndex && RowBand(w) == 0)
         throw Fault(FaultKind::InvalidCall,
-                    "Operazione impossibile: la figura è alta meno di 6 pixel");
+                    "Operazione impossibile: l'immagine è alta meno di 6 pixel");
 }
 
 /// A row of the matrix is given as it lies in memory, unchecked beyond its end. That is safe: a

@@ -277,10 +277,10 @@ TEST(MultiStep, SaysWhichSideIsTooSmall)
         }
         return {};
     };
-    EXPECT_EQ(text(Vertstep, 5, 8), "Operazione impossibile: la figura è larga meno di 6 pixel");
-    EXPECT_EQ(text(Orizstep, 8, 5), "Operazione impossibile: la figura è alta meno di 6 pixel");
+    EXPECT_EQ(text(Vertstep, 5, 8), "Operazione impossibile: l'immagine è larga meno di 6 pixel");
+    EXPECT_EQ(text(Orizstep, 8, 5), "Operazione impossibile: l'immagine è alta meno di 6 pixel");
     EXPECT_EQ(text(MultiFotoStep, 5, 8),
-              "Operazione impossibile: la figura è larga meno di 6 pixel");
+              "Operazione impossibile: l'immagine è larga meno di 6 pixel");
 }
 
 // The pile of left-over lines lies at index Larg or Alt; the other direction needs one index less.

@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Links of the documents lead somewhere, and no picture of theirs is left over: documents.sh PROJECT
+set -euo pipefail
+
+cd -- "$1"
+complain() {
+    printf '%s\n' "$@" >&2
+    failed=1
+}
+failed=0
+
+used=$(mktemp)
+trap 'rm -f "$used"' EXIT
+for page in README.md CONTRIBUTING.md resources/README.md docs/*.md; do
+    folder=$(dirname -- "$page")
+    # Links and pictures, in Markdown and in its HTML.
+    while read -r link; do
+        file=${link%%#*}
+        case $link in
+        http*) continue ;;
+        '#'*)
+            # A place of the page: set by hand, or a heading's.
+            anchor=${link#\#}
+            grep -qF "<a id=\"$anchor\"></a>" "$page" || sed -nE 's/^#+ //p' "$page" | tr '[:upper:] ' '[:lower:]-' |
+                sed 's/[^[:alnum:]àèéìòù-]//g' | grep -qxF -- "$anchor" || complain "$page: no place $link"
+            continue
+            ;;
+        esac
+        [[ -e $folder/$file ]] || complain "$page: no file $link"
+        realpath --relative-to=. -m -- "$folder/$file" >>"$used"
+    done < <(grep -oE '\]\([^)]+\)|(src|href)="[^"]+"' "$page" | sed -E 's/^\]\(//; s/\)$//; s/^(src|href)="//; s/"$//')
+done
+grep -oE 'docs/[^<]+' packaging/*.metainfo.xml >>"$used" || complain "The metainfo names no screenshot"
+while read -r picture; do
+    [[ -e $picture ]] || complain "The metainfo names $picture, which is not there"
+done < <(grep -oE 'docs/[^<]+' packaging/*.metainfo.xml)
+while read -r picture; do
+    grep -qxF -- "$picture" "$used" || complain "Nothing links $picture"
+done < <(find docs -name '*.jpg' -o -name '*.png' | sort)
+[[ $(grep -c '<a id="' docs/guida.md) -eq 46 ]] || complain "The guide does not describe 46 effects"
+exit "$failed"
