@@ -20,7 +20,7 @@ test_packages=(
 bench_packages=(graphicsmagick imagemagick time)
 
 # What making the Debian package needs on top of the first list.
-package_packages=(dpkg-dev file)
+package_packages=(debhelper dpkg-dev)
 # What checking it needs on top of that.
 package_test_packages=(
     lintian desktop-file-utils appstream man-db groff-base mmdebstrap bash-completion
