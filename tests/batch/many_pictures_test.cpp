@@ -116,7 +116,7 @@ TEST_F(Tool, ShowsItsProgressOnATerminal)
 {
     SaveBitmap(Surface(1400, 1400, 0x123456), File("grande.bmp"));
     SaveBitmap(Surface(1400, 1400, 0x654321), File("altra.bmp"));
-    std::string command = program + " -j 1";
+    std::string command = "TERM=xterm '" + program + "' -j 1";
     for (int i = 0; i < 30; ++i)
         command += " -e Vetro=2500";
     for (const char* const quiet : {"", " --silenzioso"}) {
