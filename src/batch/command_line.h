@@ -24,6 +24,7 @@ struct CommandLine {
     std::optional<std::string> output;  ///< the file of the only result
     std::optional<std::string> folder;  ///< the folder of all results
     std::optional<unsigned> jobs;  ///< pictures at once; as many as there are cores if not given
+    std::optional<int> quality;    ///< of JPEG results, 1 to 100
     bool quiet = false;
     std::vector<std::string> inputs;
 };

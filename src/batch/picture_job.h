@@ -3,6 +3,7 @@
 
 #include "batch/chain.h"
 #include "batch/plan.h"
+#include "pictures/picture_files.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,6 +17,7 @@ struct Recipe {
     std::span<const Step> steps;
     Strengths valori{};
     std::optional<std::uint64_t> seed;
+    int quality = Extras().quality;  ///< of JPEG results
 };
 
 /// How one picture ended. All texts are one line without its end, UTF-8; empty = nothing to say.

@@ -1,6 +1,7 @@
 #include "batch/texts.h"
 
 #include "effects/catalogue.h"
+#include "files/system_reason.h"
 
 namespace pixano::batch {
 namespace {
@@ -37,18 +38,26 @@ Applica gli effetti di Pixano a una o più figure (BMP, JPEG o GIF), senza fines
   -d, --cartella CARTELLA     scrive il risultato di NOME.* in CARTELLA/NOME.bmp
   -j, --insieme N             elabora N figure alla volta (tutti i processori se manca)
       --seme N                fa partire i numeri casuali da N, per ogni figura
+      --qualita N             qualità dei risultati JPEG, da 1 a 100 (95 se manca)
       --silenzioso            scrive soltanto errori e avvisi
       --elenco                elenca gli effetti: nome, famiglia, valori della forza
-      --versione              scrive la versione
-  -h, --aiuto                 scrive questo testo
+      --versione, --version   scrive la versione
+  -h, --aiuto, --help         scrive questo testo
 
+Un'opzione lunga si può abbreviare, finché non si confonde con un'altra.
 Al posto di INGRESSO o di FILE, "-" è lo standard input o lo standard output.
 Per ogni figura scrive una riga con il nome del risultato e la didascalia;
-con -o - la riga va sullo standard error.
+con -o - la riga va sullo standard error. Il profilo ICC di una figura passa
+al suo risultato JPEG o PNG.
 
 Esce con 0 se tutto è riuscito, con 1 se una figura non è riuscita (nessun file
 viene allora scritto o cambiato per essa), con 2 se il comando è sbagliato.
 )";
+}
+
+std::string UnprintedText(int error)
+{
+    return "Impossibile scrivere sullo standard output: " + SystemReason(error);
 }
 
 std::string EffectList()

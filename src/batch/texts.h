@@ -7,6 +7,9 @@ namespace pixano::batch {
 
 std::string HelpText();
 
+/// Why standard output did not take a line: `error` is the errno.
+std::string UnprintedText(int error);
+
 /// One effect a line: name, family, range of its strength (empty if it has none), parted by tabs.
 std::string EffectList();
 

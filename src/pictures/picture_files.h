@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace pixano {
 
@@ -23,6 +24,8 @@ struct PictureRead {
     /// The file ended before all pixels were there; the missing ones show `Background`. (In a JPEG,
     /// those right of the last block that is there are grey; a progressive one may just be coarse.)
     bool truncated = false;
+    /// The colour profile (ICC) that the file carries for red, green and blue; empty without one.
+    std::vector<std::byte> profile{};
 };
 
 /// The picture in the file `path` (UTF-8). The format is told by the content, not by the name:
@@ -62,8 +65,18 @@ PictureFormat FormatOf(const std::string& path);
 /// As `SaveBitmap`, in the format that the name's extension asks for. Throws PictureError.
 void SavePicture(const Surface& surface, const std::string& path);
 
+/// What a file may carry besides the pixels, where its format has a place for it.
+struct Extras {
+    int quality = 95;                  ///< of a JPEG, 1 to 100
+    std::vector<std::byte> profile{};  ///< as in `PictureRead`; a BMP has none
+};
+
+/// As `SavePicture`, with extras. Throws PictureError.
+void SaveWithExtras(const Surface& surface, const std::string& path, const Extras& extras);
+
 /// Gives the surface, as a complete file of that format, to the sink; `name` stands for where it
 /// goes in messages. Throws PictureError.
-void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name);
+void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name,
+            const Extras& extras = {});
 
 }  // namespace pixano
