@@ -16,6 +16,8 @@ test_packages=(
     clang-format clang-tidy cppcheck
     bash-completion parallel
 )
+# What handing pictures to several machines needs to be tried; Debian starts a server of its own with it.
+machines_test_packages=(openssh-client openssh-server)
 # What measuring it beside other tools needs on top of both.
 bench_packages=(graphicsmagick imagemagick time)
 
