@@ -25,7 +25,7 @@ bench_packages=(graphicsmagick imagemagick time)
 package_packages=(debhelper dpkg-dev)
 # What checking it needs on top of that.
 package_test_packages=(
-    lintian desktop-file-utils appstream man-db groff-base mmdebstrap bash-completion
+    lintian desktop-file-utils appstream man-db groff-base mmdebstrap autopkgtest bash-completion
     xvfb openbox xdotool imagemagick x11-utils
 )
 
