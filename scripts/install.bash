@@ -18,6 +18,10 @@ test_packages=(
 )
 # What handing pictures to several machines needs to be tried; Debian starts a server of its own with it.
 machines_test_packages=(openssh-client openssh-server)
+# What its long form builds with as well.
+clang_packages=(clang)
+# What building the batch tool for another processor needs, and running it here.
+arm64_packages=(g++-aarch64-linux-gnu qemu-user-static mmdebstrap)
 # What measuring it beside other tools needs on top of both.
 bench_packages=(graphicsmagick imagemagick time)
 

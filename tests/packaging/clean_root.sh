@@ -24,6 +24,7 @@ export PIXANO_PROJECT=$project
 mmdebstrap --quiet --variant=apt --include=pixano \
     --aptopt='APT::Install-Recommends "false"' \
     --customize-hook='"$PIXANO_PROJECT/tests/packaging/in_clean_root.sh" "$1"' \
+    --customize-hook='sed -i "/ copy:/d" "$1"/etc/apt/sources.list' \
     --customize-hook="autopkgtest -U --no-built-binaries $folder/archive/*.deb $folder/archive/*.dsc -- chroot \"\$1\"" \
     "$codename" "$folder/root.tar" \
     "deb http://deb.debian.org/debian $codename main" \
