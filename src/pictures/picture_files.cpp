@@ -75,7 +75,8 @@ void WriteFile(const Surface& surface, const std::string& path, PictureFormat fo
                AtomicFile::Purpose purpose, const Extras& extras = {})
 {
     Telling("salvare", path, [&] {
-        ReplaceFile(path, purpose, [&](ByteSink& file) { EncodeAs(surface, format, file, extras); });
+        ReplaceFile(path, purpose,
+                    [&](ByteSink& file) { EncodeAs(surface, format, file, extras); });
     });
 }
 
