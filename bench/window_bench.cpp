@@ -1,8 +1,10 @@
 // The windowed program beside what it cannot do without: plainly writing and reading its files, and
-// bare decoding of a JPEG. No screen is needed. Usage: pixano-window-bench [COLUMNS ROWS]; prints
-// one line for each measurement.
+// bare decoding of a JPEG; or, for a picture, the memory that it takes. No screen is needed. Prints
+// one line for each measurement. Usage: pixano-window-bench [COLUMNS ROWS | PICTURE]
+#include "document/history.h"
 #include "document/opening.h"
 #include "document/places.h"
+#include "document/showing.h"
 #include "effects/catalogue.h"
 #include "measure.h"
 #include "pictures/picture_files.h"
@@ -22,6 +24,7 @@
 #include <cstdlib>
 
 #include <jpeglib.h>
+#include <sys/resource.h>
 
 namespace pixano::bench {
 namespace {
@@ -136,6 +139,32 @@ void RunRows(Session& s, int width, int height)
         });
 }
 
+/// What the process has taken at most, in canvases beyond 60 MB, after each step of some work.
+void RunMemory(Session& s, const QString& picture)
+{
+    constexpr double Megabyte = 1e6;
+    constexpr double Besides = 60 * Megabyte;
+    const auto tell = [&](const char* step) {
+        QApplication::processEvents();
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        const double canvas = 4.0 * s.work.Larg * s.work.Alt;
+        const double peak = static_cast<double>(usage.ru_maxrss) * 1024;
+        std::printf("peak after %s: %.0f MB, %.2f canvases + 60 MB\n", step, peak / Megabyte,
+                    (peak - Besides) / canvas);
+    };
+    OpenNamed(s, picture);
+    tell("opening");
+    Start(s, EffectOf(Specchio));
+    tell("\"Specchio\"");
+    Start(s, EffectOf(Specchio));
+    tell("\"Specchio\" again");
+    Undo_Click(s);
+    tell("\"Annulla\"");
+    ChangeZoom(s, -0.2);
+    tell("a smaller preview");
+}
+
 int Main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -143,12 +172,17 @@ int Main(int argc, char* argv[])
     qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
     QApplication application(argc, argv);
     PrepareApplication(application);
+    const QString picture = QDir::current().absoluteFilePath(argc == 2 ? argv[1] : "foto.jpg");
     QDir::setCurrent(folder.path());
     NoDialogs dialogs;
     Session session(dialogs, ProgramControls(), Timer(1));
     ConnectEvents(session);
     session.doc.CartellaAvvio = folder.path();
-    RunRows(session, argc == 3 ? std::atoi(argv[1]) : 4000, argc == 3 ? std::atoi(argv[2]) : 3000);
+    if (argc == 2)
+        RunMemory(session, picture);
+    else
+        RunRows(session, argc == 3 ? std::atoi(argv[1]) : 4000,
+                argc == 3 ? std::atoi(argv[2]) : 3000);
     QDir::setCurrent("/");
     return 0;
 }

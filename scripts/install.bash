@@ -16,14 +16,20 @@ test_packages=(
     clang-format clang-tidy cppcheck
     bash-completion parallel
 )
+# What handing pictures to several machines needs to be tried; Debian starts a server of its own with it.
+machines_test_packages=(openssh-client openssh-server)
+# What its long form builds with as well.
+clang_packages=(clang)
+# What building the batch tool for another processor needs, and running it here.
+arm64_packages=(g++-aarch64-linux-gnu qemu-user-static mmdebstrap)
 # What measuring it beside other tools needs on top of both.
 bench_packages=(graphicsmagick imagemagick time)
 
 # What making the Debian package needs on top of the first list.
-package_packages=(dpkg-dev file)
+package_packages=(debhelper dpkg-dev)
 # What checking it needs on top of that.
 package_test_packages=(
-    lintian desktop-file-utils appstream man-db groff-base mmdebstrap bash-completion
+    lintian desktop-file-utils appstream man-db groff-base mmdebstrap autopkgtest bash-completion
     xvfb openbox xdotool imagemagick x11-utils
 )
 

@@ -1,8 +1,12 @@
 // The tests that need no windows.
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 int main(int argc, char* argv[])
 {
+    // Tests become another user now and then, who must get into the folders that they make.
+    umask(022);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -8,8 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 int main(int argc, char* argv[])
 {
+    // Tests become another user now and then, who must get into the folders that they make.
+    umask(022);
     testing::InitGoogleTest(&argc, argv);
     if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

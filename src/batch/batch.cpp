@@ -9,6 +9,7 @@
 #include "files/strengths_file.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -37,21 +38,22 @@ class ConsoleProgress : public ChainProgress {
     std::string_view effect_;
 };
 
-int Print(const std::string& text)
-{
-    const bool printed = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
-    return printed ? AllDone : SomethingFailed;
-}
-
 int Complain(const std::string& text, ExitStatus status)
 {
     std::fprintf(stderr, "pixano-batch: %s\n", text.c_str());
     return status;
 }
 
+int Print(const std::string& text)
+{
+    if (std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0) return AllDone;
+    return Complain(UnprintedText(errno), SomethingFailed);
+}
+
 Recipe RecipeOf(const CommandLine& line, const std::string& ownFolder)
 {
     Recipe recipe{line.steps, {}, line.seed, line.within};
+    if (line.quality) recipe.quality = *line.quality;
     const bool needsFile = std::ranges::any_of(
         line.steps, [](const Step& step) { return step.effect->selector != 0 && !step.strength; });
     if (needsFile) LeggiValori(ownFolder + "/valori.tip", recipe.valori);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
 namespace pixano::batch {
 namespace {
@@ -12,16 +13,21 @@ std::string Quoted(std::string_view text)
     return "\"" + std::string(text) + "\"";
 }
 
-/// A whole number of at least `least`, decimal digits only.
+/// A whole number of at least `least` and at most `most`, decimal digits only.
 template <typename Number>
-Number WholeNumber(std::string_view option, std::string_view text, Number least)
+Number WholeNumber(std::string_view option, std::string_view text, Number least,
+                   Number most = std::numeric_limits<Number>::max())
 {
     Number number = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stop != end || number < least)
+    if (error != std::errc() || stop != end || number < least || number > most) {
+        const std::string above = most == std::numeric_limits<Number>::max()
+                                      ? " in su, non "
+                                      : " a " + std::to_string(most) + ", non ";
         throw WrongCommandLine("Dopo " + std::string(option) + " serve un numero intero da " +
-                               std::to_string(least) + " in su, non " + Quoted(text));
+                               std::to_string(least) + above + Quoted(text));
+    }
     return number;
 }
 
@@ -74,9 +80,16 @@ constexpr auto Options = std::to_array<Option>({
      [](CommandLine& line, std::string_view value) {
          SetOnce(line.seed, "--seme", WholeNumber<std::uint64_t>("--seme", value, 0));
      }},
+    {"", "--qualita", true,
+     [](CommandLine& line, std::string_view value) {
+         SetOnce(line.quality, "--qualita", WholeNumber<int>("--qualita", value, 1, 100));
+     }},
     {"", "--silenzioso", false, [](CommandLine& line, std::string_view) { line.quiet = true; }},
     {"-h", "--aiuto", false, [](CommandLine& line, std::string_view) { line.task = Task::Help; }},
+    {"", "--help", false, [](CommandLine& line, std::string_view) { line.task = Task::Help; }},
     {"", "--versione", false,
+     [](CommandLine& line, std::string_view) { line.task = Task::Version; }},
+    {"", "--version", false,
      [](CommandLine& line, std::string_view) { line.task = Task::Version; }},
     {"", "--elenco", false, [](CommandLine& line, std::string_view) { line.task = Task::List; }},
 });
@@ -88,13 +101,32 @@ struct Recognised {
     std::optional<std::string_view> value;
 };
 
+/// The option of that long name, or the only one whose name begins so ("--version", which begins as
+/// "--versione" does, means the same). The end of the table when there is none.
+const Option* FindLong(std::string_view name)
+{
+    const auto exact = std::ranges::find(Options, name, &Option::longName);
+    if (exact != Options.end()) return exact;
+    const Option* found = Options.end();
+    for (const Option& option : Options) {
+        if (name.size() <= 2 || !option.longName.starts_with(name)) continue;
+        const bool same = found != Options.end() && found->longName.starts_with(option.longName);
+        if (found != Options.end() && !same)
+            throw WrongCommandLine("Opzione ambigua: " + Quoted(name) + " può essere " +
+                                   std::string(found->longName) + " o " +
+                                   std::string(option.longName));
+        found = &option;
+    }
+    return found;
+}
+
 Recognised Recognise(std::string_view argument)
 {
     const bool isLong = argument.starts_with("--");
     const std::size_t nameLength = isLong ? std::min(argument.find('='), argument.size()) : 2;
     const auto name = argument.substr(0, nameLength);
     const auto* const option =
-        std::ranges::find(Options, name, isLong ? &Option::longName : &Option::shortName);
+        isLong ? FindLong(name) : std::ranges::find(Options, name, &Option::shortName);
     if (option == Options.end()) throw WrongCommandLine("Opzione sconosciuta: " + Quoted(argument));
     if (nameLength == argument.size()) return {option, std::nullopt};
     return {option, argument.substr(nameLength + (isLong ? 1 : 0))};

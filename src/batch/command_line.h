@@ -25,6 +25,7 @@ struct CommandLine {
     std::optional<std::string> folder;  ///< the folder of all results
     std::optional<unsigned> jobs;  ///< pictures at once; as many as there are cores if not given
     std::optional<int> within;     ///< the longest side that a picture may have; larger ones shrink
+    std::optional<int> quality;    ///< of JPEG results, 1 to 100
     bool quiet = false;
     std::vector<std::string> inputs;
 };

@@ -1,6 +1,11 @@
 #include "batch/console.h"
 
+#include "batch/texts.h"
+
+#include <cerrno>
 #include <cstdio>
+#include <cstdlib>
+#include <string_view>
 
 #include <unistd.h>
 
@@ -9,12 +14,20 @@ namespace {
 
 constexpr auto BetweenProgressLines = std::chrono::milliseconds(100);
 
+/// The progress line takes a terminal that can clear a line.
+bool ClearsLines()
+{
+    const char* const kind = std::getenv("TERM");
+    return ::isatty(STDERR_FILENO) == 1 && kind != nullptr && *kind != '\0' &&
+           std::string_view(kind) != "dumb";
+}
+
 }  // namespace
 
 Console::Console(const std::vector<PlannedPicture>& pictures, bool quiet)
     : pictures_(pictures),
       quiet_(quiet),
-      terminal_(!quiet && ::isatty(STDERR_FILENO) == 1),
+      terminal_(!quiet && ClearsLines()),
       // A run that is over at once shows no progress.
       nextProgress_(Clock::now() + BetweenProgressLines)
 {
@@ -58,7 +71,9 @@ void Console::PrintResult(const PlannedPicture& picture, const std::string& resu
     if (quiet_ || result.empty()) return;
     // The picture itself has standard output then.
     std::FILE* const to = picture.output == StandardStream ? stderr : stdout;
-    if (std::fprintf(to, "%s\n", result.c_str()) < 0 || std::fflush(to) != 0) allDone_ = false;
+    if (std::fprintf(to, "%s\n", result.c_str()) >= 0 && std::fflush(to) == 0) return;
+    std::fprintf(stderr, "pixano-batch: %s\n", UnprintedText(errno).c_str());
+    allDone_ = false;
 }
 
 void Console::ShowProgress(const std::string& text)

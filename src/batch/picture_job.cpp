@@ -15,21 +15,21 @@ PictureRead ReadInput(const std::string& name)
     return name == StandardStream ? ReadStandardInput() : ReadPicture(name);
 }
 
-void Save(const Surface& surface, const std::string& name)
+void Save(const Surface& surface, const std::string& name, const Extras& extras)
 {
     // A name without an extension asks for no other format.
     if (std::filesystem::path(name).has_extension())
-        SavePicture(surface, name);
+        SaveWithExtras(surface, name, extras);
     else
         SaveBitmap(surface, name);
 }
 
-void WriteOutput(const Surface& surface, const std::string& name)
+void WriteOutput(const Surface& surface, const std::string& name, const Extras& extras)
 {
     if (name == StandardStream)
         WriteStandardOutput(surface);
     else
-        Save(surface, name);
+        Save(surface, name, extras);
 }
 
 Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
@@ -42,7 +42,8 @@ Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress&
     const std::string fileName = std::filesystem::path(picture.input).filename().string();
     const std::string caption =
         RunChain(w, recipe.steps, recipe.valori, Caption(fileName, w), progress);
-    WriteOutput(w.Picture1, picture.output);
+    const Extras extras{recipe.quality, std::move(read.profile)};
+    WriteOutput(w.Picture1, picture.output, extras);
     return {true, picture.output + ": " + caption, NoticeOf(picture.input, read.truncated), ""};
 }
 

@@ -3,6 +3,7 @@
 
 #include "batch/chain.h"
 #include "batch/plan.h"
+#include "pictures/picture_files.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,7 +17,8 @@ struct Recipe {
     std::span<const Step> steps;
     Strengths valori{};
     std::optional<std::uint64_t> seed;
-    std::optional<int> within;  ///< larger pictures are made smaller first
+    std::optional<int> within;       ///< larger pictures are made smaller first
+    int quality = Extras().quality;  ///< of JPEG results
 };
 
 /// How one picture ended. All texts are one line without its end, UTF-8; empty = nothing to say.

@@ -1,6 +1,7 @@
 #include "batch/texts.h"
 
 #include "effects/catalogue.h"
+#include "files/system_reason.h"
 
 namespace pixano::batch {
 std::string_view FamilyName(Family family)
@@ -39,18 +40,26 @@ Applica gli effetti di Pixano a una o più immagini (BMP, JPEG o GIF), senza fin
                               piccola immagine per ognuno e una pagina, index.html,
                               con i nomi, le forze e i comandi che li ripetono
       --seme N                fa partire i numeri casuali da N, per ogni immagine
+      --qualita N             qualità dei risultati JPEG, da 1 a 100 (95 se manca)
       --silenzioso            scrive soltanto errori e avvisi
       --elenco                elenca gli effetti: nome, famiglia, valori della forza
-      --versione              scrive la versione
-  -h, --aiuto                 scrive questo testo
+      --versione, --version   scrive la versione
+  -h, --aiuto, --help         scrive questo testo
 
+Un'opzione lunga si può abbreviare, finché non si confonde con un'altra.
 Al posto di INGRESSO o di FILE, "-" è lo standard input o lo standard output.
 Per ogni immagine scrive una riga con il nome del risultato e la didascalia;
-con -o - la riga va sullo standard error.
+con -o - la riga va sullo standard error. Il profilo ICC di un'immagine passa
+al suo risultato JPEG o PNG.
 
 Esce con 0 se tutto è riuscito, con 1 se un'immagine non è riuscita (nessun file
 viene allora scritto o cambiato per essa), con 2 se il comando è sbagliato.
 )";
+}
+
+std::string UnprintedText(int error)
+{
+    return "Impossibile scrivere sullo standard output: " + SystemReason(error);
 }
 
 std::string EffectList()

@@ -13,6 +13,9 @@ std::string HelpText();
 /// What a family of effects is called.
 std::string_view FamilyName(Family family);
 
+/// Why standard output did not take a line: `error` is the errno.
+std::string UnprintedText(int error);
+
 /// One effect a line: name, family, range of its strength (empty if it has none), parted by tabs.
 std::string EffectList();
 

@@ -3,12 +3,13 @@
 
 #include "canvas/surface.h"
 #include "files/byte_sink.h"
+#include "pictures/extras.h"
 
 namespace pixano {
 
 /// Each gives the complete file to the sink. The surface has at least one pixel. Throws Refusal.
 void EncodeBmp(const Surface& surface, ByteSink& sink);
-void EncodePng(const Surface& surface, ByteSink& sink);
-void EncodeJpeg(const Surface& surface, ByteSink& sink);
+void EncodePng(const Surface& surface, ByteSink& sink, const Extras& extras);
+void EncodeJpeg(const Surface& surface, ByteSink& sink, const Extras& extras);
 
 }  // namespace pixano

@@ -50,7 +50,7 @@ class JpegTarget : public jpeg_destination_mgr {
 
 class JpegWriter {
   public:
-    explicit JpegWriter(ByteSink& sink) : sink_(sink), target_(sink)
+    JpegWriter(ByteSink& sink, const Extras& extras) : sink_(sink), extras_(extras), target_(sink)
     {
         jpeg_.err = &errors_;
         Run([this] { jpeg_create_compress(&jpeg_); });
@@ -76,17 +76,19 @@ class JpegWriter {
 
     void Start(const Surface& surface)
     {
-        constexpr int Quality = 95;
         jpeg_.image_width = static_cast<JDIMENSION>(surface.Width());
         jpeg_.image_height = static_cast<JDIMENSION>(surface.Height());
         jpeg_.input_components = 4;
         jpeg_.in_color_space = WrittenLayout;
         jpeg_set_defaults(&jpeg_);
-        jpeg_set_quality(&jpeg_, Quality, TRUE);
+        jpeg_set_quality(&jpeg_, extras_.quality, TRUE);
         // The colours as fine as the light: effects draw edges one pixel wide.
         jpeg_.comp_info[0].h_samp_factor = 1;
         jpeg_.comp_info[0].v_samp_factor = 1;
         jpeg_start_compress(&jpeg_, TRUE);
+        if (!extras_.profile.empty())
+            jpeg_write_icc_profile(&jpeg_, reinterpret_cast<const JOCTET*>(extras_.profile.data()),
+                                   static_cast<unsigned>(extras_.profile.size()));
     }
 
     void WriteRows(const Surface& surface)
@@ -101,6 +103,7 @@ class JpegWriter {
     }
 
     ByteSink& sink_;
+    const Extras& extras_;
     JpegErrors errors_;
     JpegTarget target_;
     jpeg_compress_struct jpeg_{};
@@ -108,9 +111,9 @@ class JpegWriter {
 
 }  // namespace
 
-void EncodeJpeg(const Surface& surface, ByteSink& sink)
+void EncodeJpeg(const Surface& surface, ByteSink& sink, const Extras& extras)
 {
-    JpegWriter(sink).Write(surface);
+    JpegWriter(sink, extras).Write(surface);
 }
 
 }  // namespace pixano

@@ -5,6 +5,7 @@
 #include "files/regular_file.h"
 #include "pictures/decoders.h"
 #include "pictures/encoders.h"
+#include "pictures/icc_profile.h"
 
 #include <algorithm>
 #include <array>
@@ -35,7 +36,10 @@ PictureRead Decode(ByteSource& source)
 {
     try {
         PictureRead read = DecodeByContent(source);
-        if (source.Error() == 0) return read;
+        if (source.Error() == 0) {
+            read.profile = ProfileIn(source);
+            return read;
+        }
     } catch (const Refusal&) {
         // A file that could not be read to its end looks damaged: the cause is what counts.
         if (source.Error() == 0) throw;
@@ -53,7 +57,7 @@ PictureRead ReadFile(const std::string& path, Links links)
     });
 }
 
-void EncodeAs(const Surface& surface, PictureFormat format, ByteSink& sink)
+void EncodeAs(const Surface& surface, PictureFormat format, ByteSink& sink, const Extras& extras)
 {
     if (surface.Width() == 0 || surface.Height() == 0)
         throw Refusal("non c'è nessuna immagine da scrivere");
@@ -61,17 +65,18 @@ void EncodeAs(const Surface& surface, PictureFormat format, ByteSink& sink)
     case PictureFormat::Bmp:
         return EncodeBmp(surface, sink);
     case PictureFormat::Png:
-        return EncodePng(surface, sink);
+        return EncodePng(surface, sink, extras);
     case PictureFormat::Jpeg:
-        return EncodeJpeg(surface, sink);
+        return EncodeJpeg(surface, sink, extras);
     }
 }
 
 void WriteFile(const Surface& surface, const std::string& path, PictureFormat format,
-               AtomicFile::Purpose purpose)
+               AtomicFile::Purpose purpose, const Extras& extras = {})
 {
     Telling("salvare", path, [&] {
-        ReplaceFile(path, purpose, [&](ByteSink& file) { EncodeAs(surface, format, file); });
+        ReplaceFile(path, purpose,
+                    [&](ByteSink& file) { EncodeAs(surface, format, file, extras); });
     });
 }
 
@@ -126,12 +131,18 @@ PictureFormat FormatOf(const std::string& path)
 
 void SavePicture(const Surface& surface, const std::string& path)
 {
-    WriteFile(surface, path, FormatOf(path), AtomicFile::Purpose::Document);
+    SaveWithExtras(surface, path, {});
 }
 
-void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name)
+void SaveWithExtras(const Surface& surface, const std::string& path, const Extras& extras)
 {
-    Telling("scrivere", name, [&] { EncodeAs(surface, format, sink); });
+    WriteFile(surface, path, FormatOf(path), AtomicFile::Purpose::Document, extras);
+}
+
+void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name,
+            const Extras& extras)
+{
+    Telling("scrivere", name, [&] { EncodeAs(surface, format, sink, extras); });
 }
 
 }  // namespace pixano

@@ -3,6 +3,7 @@
 
 #include "canvas/fault.h"
 #include "files/byte_sink.h"
+#include "pictures/extras.h"
 #include "pictures/picture_read.h"
 
 #include <cstddef>
@@ -55,8 +56,12 @@ PictureFormat FormatOf(const std::string& path);
 /// As `SaveBitmap`, in the format that the name's extension asks for. Throws PictureError.
 void SavePicture(const Surface& surface, const std::string& path);
 
+/// As `SavePicture`, with extras. Throws PictureError.
+void SaveWithExtras(const Surface& surface, const std::string& path, const Extras& extras);
+
 /// Gives the surface, as a complete file of that format, to the sink; `name` stands for where it
 /// goes in messages. Throws PictureError.
-void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name);
+void Encode(const Surface& surface, PictureFormat format, ByteSink& sink, const std::string& name,
+            const Extras& extras = {});
 
 }  // namespace pixano

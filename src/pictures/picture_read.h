@@ -3,6 +3,9 @@
 
 #include "canvas/surface.h"
 
+#include <cstddef>
+#include <vector>
+
 namespace pixano {
 
 struct PictureRead {
@@ -10,6 +13,8 @@ struct PictureRead {
     /// The file ended before all pixels were there; the missing ones show `Background`. (In a JPEG,
     /// those right of the last block that is there are grey; a progressive one may just be coarse.)
     bool truncated = false;
+    /// The colour profile (ICC) that the file carries for red, green and blue; empty without one.
+    std::vector<std::byte> profile{};
 };
 
 }  // namespace pixano

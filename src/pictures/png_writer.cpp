@@ -14,7 +14,7 @@ namespace {
 
 class PngWriter {
   public:
-    explicit PngWriter(ByteSink& sink) : sink_(sink)
+    PngWriter(ByteSink& sink, const Extras& extras) : sink_(sink), extras_(extras)
     {
         png_ = png_create_write_struct(PNG_LIBPNG_VER_STRING, this, Fail,
                                        [](png_structp, png_const_charp) {});
@@ -54,6 +54,12 @@ class PngWriter {
                      PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
         png_set_compression_level(png_, FastLevel);
         png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_SUB);
+        // A profile that libpng finds fault with is left out.
+        png_set_benign_errors(png_, 1);
+        if (!extras_.profile.empty())
+            png_set_iCCP(png_, info_, "ICC", PNG_COMPRESSION_TYPE_BASE,
+                         reinterpret_cast<png_const_bytep>(extras_.profile.data()),
+                         static_cast<png_uint_32>(extras_.profile.size()));
         png_write_info(png_, info_);
         png_set_filler(png_, 0, PNG_FILLER_AFTER);
     }
@@ -70,6 +76,7 @@ class PngWriter {
     }
 
     ByteSink& sink_;
+    const Extras& extras_;
     GuardedCalls calls_;
     png_structp png_ = nullptr;
     png_infop info_ = nullptr;
@@ -77,9 +84,9 @@ class PngWriter {
 
 }  // namespace
 
-void EncodePng(const Surface& surface, ByteSink& sink)
+void EncodePng(const Surface& surface, ByteSink& sink, const Extras& extras)
 {
-    PngWriter(sink).Write(surface);
+    PngWriter(sink, extras).Write(surface);
 }
 
 }  // namespace pixano

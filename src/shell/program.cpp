@@ -4,6 +4,7 @@
 #include "document/opening.h"
 #include "document/places.h"
 #include "document/recovery.h"
+#include "files/system_reason.h"
 #include "shell/controls.h"
 #include "shell/events.h"
 #include "shell/only_instance.h"
@@ -23,8 +24,10 @@
 #include <QStandardPaths>
 #include <QTranslator>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <string>
 
 namespace pixano {
 namespace {
@@ -82,6 +85,16 @@ int RunSession(Session& session, const Options& options)
     return session.ending ? *session.ending : QApplication::exec();
 }
 
+/// Gives the exit status.
+int Answer(const char* text)
+{
+    if (std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0) return 0;
+    const std::string reason = SystemReason(errno);
+    std::fprintf(stderr, "Pixano: impossibile scrivere sullo standard output: %s.\n",
+                 reason.c_str());
+    return 1;
+}
+
 int TellUsage()
 {
     std::fputs(UsageText, stderr);
@@ -122,10 +135,7 @@ int StartProgram(int argc, char* argv[])
 {
     SurviveSizeLimits();
     // These answers need no screen, so they come before the application does.
-    if (const char* const answer = AnswerWithoutScreen(argc, argv)) {
-        std::fputs(answer, stdout);
-        return 0;
-    }
+    if (const char* const answer = AnswerWithoutScreen(argc, argv)) return Answer(answer);
     // So does this one: the toolkit would end the program by a signal.
     if (const QStringList arguments(argv, argv + argc); ScreenIsMissing(arguments)) {
         if (!OptionsFrom(arguments)) return TellUsage();

@@ -12,9 +12,20 @@ ImageControl::ImageControl()
     setAccessibleName("Anteprima dell'immagine");
 }
 
-void ImageControl::SetPicture(Surface picture)
+void ImageControl::SetPicture(Surface&& picture)
 {
     picture_ = std::move(picture);
+    Changed();
+}
+
+void ImageControl::SetPicture(const Surface& picture)
+{
+    picture_ = picture;
+    Changed();
+}
+
+void ImageControl::Changed()
+{
     if (!stretch_) resize(picture_.Width(), picture_.Height());
     update();
 }

@@ -16,7 +16,9 @@ class ImageControl : public QWidget {
     ImageControl();
 
     /// Shows another picture. Unless it stretches, the control takes the picture's size.
-    void SetPicture(Surface picture);
+    void SetPicture(Surface&& picture);
+    /// A copy, in the place of the picture before it where that had the same size.
+    void SetPicture(const Surface& picture);
     void SetStretch(bool stretch);
     const Surface& Picture() const { return picture_; }
     bool Stretch() const { return stretch_; }
@@ -25,6 +27,8 @@ class ImageControl : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void Changed();
+
     Surface picture_;
     bool stretch_ = false;
 };

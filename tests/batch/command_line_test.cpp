@@ -6,6 +6,7 @@
 namespace pixano::batch::test {
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -97,6 +98,27 @@ TEST(CommandLine, NeedsNoPictureToTellAboutItself)
     EXPECT_EQ(Parsed({"-h"}).task, Task::Help);
     EXPECT_EQ(Parsed({"--versione"}).task, Task::Version);
     EXPECT_EQ(Parsed({"--elenco"}).task, Task::List);
+    EXPECT_EQ(Parsed({"--help"}).task, Task::Help);
+    EXPECT_EQ(Parsed({"--version"}).task, Task::Version);
+}
+
+TEST(CommandLine, TakesTheBeginningOfALongOptionThatIsNoOthers)
+{
+    EXPECT_EQ(Parsed({"--a"}).task, Task::Help);
+    EXPECT_EQ(Parsed({"--vers"}).task, Task::Version);
+    EXPECT_EQ(Parsed({"--el"}).task, Task::List);
+    const CommandLine line = Parsed(
+        {"--sem=7", "--ins", "3", "--eff", "Specchio", "--car", "f", "--qual", "80", "--si", "a"});
+    EXPECT_EQ(line.seed, 7U);
+    EXPECT_EQ(line.jobs, 3U);
+    EXPECT_EQ(line.steps.size(), 1U);
+    EXPECT_EQ(line.folder, "f");
+    EXPECT_EQ(line.quality, 80);
+    EXPECT_TRUE(line.quiet);
+    EXPECT_THAT(Complaint({"--s", "a"}),
+                AllOf(HasSubstr("\"--s\""), HasSubstr("--seme"), HasSubstr("--silenzioso")));
+    for (const auto* const text : {"--silenziosoo", "--x", "-elenco=", "--=7"})
+        EXPECT_NE(Complaint({text, "-d", "f", "a"}), "(none)") << text;
 }
 
 TEST(CommandLine, RefusesWhatItCannotFollow)
@@ -132,6 +154,9 @@ TEST(CommandLine, RefusesWhatIsNoWholeNumber)
             << text;
     for (const auto* const text : {"0", "-2", "4294967296", "due"})
         EXPECT_THAT(Complaint({"-j", text, "-o", "b", "a"}), HasSubstr("numero intero")) << text;
+    for (const auto* const text : {"0", "101", "9O"})
+        EXPECT_THAT(Complaint({"--qualita", text, "-o", "b", "a"}), HasSubstr("da 1 a 100"))
+            << text;
 }
 
 TEST(Step, NeedsTheExactName)

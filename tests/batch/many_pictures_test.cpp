@@ -4,6 +4,8 @@
 #include "effects/catalogue.h"
 #include "support/effect_run.h"
 
+#include <sys/resource.h>
+
 namespace pixano::batch::test {
 namespace {
 
@@ -112,11 +114,40 @@ TEST_F(ManyPictures, NeedTheirFolder)
 
 // On a terminal, which "script" stands for: one line that is written over again and again, gone
 // before a result is told.
+/// How often the programs that have ended were given a fresh page.
+long PagesGiven()
+{
+    rusage usage{};
+    EXPECT_EQ(getrusage(RUSAGE_CHILDREN, &usage), 0);
+    return usage.ru_minflt;
+}
+
+TEST_F(Tool, UsesThePagesOfOnePictureAgainForTheNext)
+{
+    constexpr int Count = 60;
+    // Canvas, working file and matrix cells of one picture have some 400 pages.
+    constexpr long MostOfAPicture = 50;
+    std::filesystem::create_directory(File("fatte"));
+    for (const char* const jobs : {"-j1", "-j2"}) {
+        std::vector<std::string> command{"-e", "Specchio", "-e", "Vetro", "-d", "fatte", jobs};
+        const long before = PagesGiven();
+        SaveBitmap(Surface(320, 240, 0x123456), File("0.bmp"));
+        ASSERT_EQ(Run({"-e", "Specchio", "-e", "Vetro", "-o", "una.bmp", "0.bmp"}).status, 0);
+        const long one = PagesGiven() - before;
+        for (int i = 0; i < Count; ++i) {
+            command.push_back(std::to_string(i) + ".bmp");
+            SaveBitmap(Surface(320, 240, 0x123456), File(command.back()));
+        }
+        ASSERT_EQ(Run(command).status, 0);
+        EXPECT_LT(PagesGiven() - before - 3 * one, Count * MostOfAPicture) << jobs;
+    }
+}
+
 TEST_F(Tool, ShowsItsProgressOnATerminal)
 {
     SaveBitmap(Surface(1400, 1400, 0x123456), File("grande.bmp"));
     SaveBitmap(Surface(1400, 1400, 0x654321), File("altra.bmp"));
-    std::string command = program + " -j 1";
+    std::string command = "TERM=xterm '" + program + "' -j 1";
     for (int i = 0; i < 30; ++i)
         command += " -e Vetro=2500";
     for (const char* const quiet : {"", " --silenzioso"}) {

@@ -101,6 +101,43 @@ TEST_F(Tool, FailsWhenItCannotTellTheCaption)
     Draw("a.bmp", {"ab"});
     const Ran ran = RunProgram({"sh", "-c", "\"$0\" -o b.bmp a.bmp >/dev/full", program}, Folder());
     EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("standard output: non c'è più spazio"));
+}
+
+TEST_F(Tool, TellsThatItCannotTellAboutItself)
+{
+    for (const auto* const option : {"--aiuto", "--versione", "--elenco"}) {
+        const Ran ran = RunProgram(
+            {"sh", "-c", "\"$0\" " + std::string(option) + " >/dev/full", program}, Folder());
+        EXPECT_EQ(ran.status, 1) << option;
+        EXPECT_EQ(ran.err, "pixano-batch: Impossibile scrivere sullo standard output: "
+                           "non c'è più spazio sul disco\n");
+    }
+}
+
+TEST_F(Tool, SendsNoEscapeSequencesToATerminalThatCallsItselfDumb)
+{
+    SaveBitmap(Surface(1400, 1400, 0x123456), File("a.bmp"));
+    // "script" gives it a terminal; so many effects take longer than the progress line waits for.
+    std::string command = "'" + program + "' -o b.bmp a.bmp";
+    for (int i = 0; i < 30; ++i)
+        command += " -e Vetro=2500";
+    for (const auto* const kind : {"dumb", "", "xterm"}) {
+        const Ran ran = RunProgram(
+            {"env", "TERM=" + std::string(kind), "script", "-qec", command, "/dev/null"}, Folder());
+        EXPECT_EQ(ran.status, 0);
+        EXPECT_EQ(ran.out.find('\033') != std::string::npos, kind == std::string("xterm")) << kind;
+    }
+}
+
+TEST_F(Tool, HandsTheQualityOnToJpegResults)
+{
+    Draw("a.bmp", {"abcdefgh", "hgfedcba"});
+    EXPECT_EQ(Run({"--qualita", "5", "-o", "5.jpg", "a.bmp"}).status, 0);
+    EXPECT_EQ(Run({"--qualita=95", "-o", "95.jpg", "a.bmp"}).status, 0);
+    EXPECT_EQ(Run({"-o", "usual.jpg", "a.bmp"}).status, 0);
+    EXPECT_EQ(Bytes("95.jpg"), Bytes("usual.jpg"));
+    EXPECT_LT(Bytes("5.jpg").size(), Bytes("usual.jpg").size());
 }
 
 TEST_F(Tool, RefusesAWrongCommandBeforeReadingAnything)

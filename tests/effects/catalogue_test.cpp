@@ -90,7 +90,6 @@ const std::map<std::string_view, void (*)(Work&)> Functions{
 
 TEST(Catalogue, FindsEachEffectByItsName)
 {
-    EXPECT_EQ(Effects.size(), Functions.size());
     for (const auto& [name, function] : Functions) {
         const Effect* const effect = FindEffect(name);
         ASSERT_NE(effect, nullptr) << name;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The Debian package on a new Debian: apt brings what it depends on, and nothing else is there. Needs the
-# archive of Debian packages.
+# archive of Debian packages. Then the package's own tests, debian/tests, in the same place.
 # Usage: clean_root.sh PROJECT
 # shellcheck source-path=SCRIPTDIR
 set -euo pipefail
@@ -16,14 +16,16 @@ chmod 755 "$folder"
 
 # An archive that holds this one package.
 mkdir "$folder/archive"
-cp "$package" "$folder/archive"
+cp "$package" "${package%/*}"/pixano_*.{dsc,tar.xz} "$folder/archive"
 (cd "$folder/archive" && dpkg-scanpackages --multiversion . >Packages 2>/dev/null)
 
 codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
 export PIXANO_PROJECT=$project
 mmdebstrap --quiet --variant=apt --include=pixano \
     --aptopt='APT::Install-Recommends "false"' \
-    --customize-hook="$project/tests/packaging/in_clean_root.sh" \
+    --customize-hook='"$PIXANO_PROJECT/tests/packaging/in_clean_root.sh" "$1"' \
+    --customize-hook='sed -i "/ copy:/d" "$1"/etc/apt/sources.list' \
+    --customize-hook="autopkgtest -U --no-built-binaries $folder/archive/*.deb $folder/archive/*.dsc -- chroot \"\$1\"" \
     "$codename" "$folder/root.tar" \
     "deb http://deb.debian.org/debian $codename main" \
     "deb [trusted=yes] copy:$folder/archive ./"

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# What the Tab key makes of a command line, asked from a real bash on a terminal of its own.
+# What the Tab key makes of a command line, asked from a real bash on a terminal of its own; before, whether
+# completion and manual pages know what the programs know.
 # Usage: completion.sh PROJECT FOLDER_OF_PROGRAMS
 # shellcheck source-path=SCRIPTDIR
 set -euo pipefail
@@ -43,6 +44,18 @@ complete_keys() {
     cat "$folder/words"
 }
 
+# What a program says of itself stands in its completion and in both its manual pages.
+for name in pixano pixano-batch; do
+    for word in $("$programs/$name" --aiuto | grep -oE -- '--[a-z-]{2,}|\.(bmp|png|jpe?g)\b' | sort -u); do
+        [[ $word == .* ]] || grep -qE -- "(^|[ '])$word([ ']|\$)" "$project/packaging/completion/$name" ||
+            fail "FAILED: the completion of $name does not offer $word"
+        for page in "$project/packaging/man"/{,it/}"$name.1"; do
+            sed 's/\\-/-/g' "$page" | grep -qE -- "(^|[ /\"])${word/./\\.}([ \",.]|\$)" ||
+                fail "FAILED: $page does not tell of $word"
+        done
+    done
+done
+
 expect_words() {
     local keys=$1
     shift
@@ -59,6 +72,7 @@ expect_words 'pixano-batch --effetto=Mix\\ M\t' pixano-batch '--effetto=Mix Mult
 expect_words 'pixano-batch -e Vetro=1\t' pixano-batch -e Vetro=10000
 expect_words 'pixano-batch -e "Foto Color Rnd=1\t' pixano-batch -e 'Foto Color Rnd=10000'
 expect_words 'pixano-batch -e Specchio=1\t' pixano-batch -e Specchio=1
+expect_words 'pixano-batch --qua\t 80 fo\t' pixano-batch --qualita 80 foto.jpg
 expect_words 'pixano-batch --si\t fo\t' pixano-batch --silenzioso foto.jpg
 expect_words 'pixano-batch --tu\t --en\t' pixano-batch --tutti --entro
 expect_words 'pixano-batch -d \t' pixano-batch -d risultati/

@@ -104,7 +104,8 @@ KilledAt KillAtChange(unsigned seed, int commands, int n)
     constexpr unsigned Change = Opens | Writes | Names | Deletes;
     const std::string at = std::to_string(n);
     Child victim({Victim, std::to_string(seed), std::to_string(commands)},
-                 {{"LD_PRELOAD", FAILING_CALLS},
+                 {{"LD_LIBRARY_PATH", FAILING_CALLS_FOLDER},
+                  {"LD_PRELOAD", FAILING_CALLS},
                   {"PIXANO_FAILING_CALLS", at + " " + at + " 0 " + std::to_string(Change)}});
     KilledAt killed;
     killed.lines = victim.Rest();

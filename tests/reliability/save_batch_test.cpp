@@ -18,7 +18,8 @@ class FailingTool : public Tool {
     }
     ~FailingTool() override
     {
-        for (const char* const name : {"LD_PRELOAD", "PIXANO_FAILING_CALLS", "PIXANO_FAILED_CALLS"})
+        for (const char* const name :
+             {"LD_LIBRARY_PATH", "LD_PRELOAD", "PIXANO_FAILING_CALLS", "PIXANO_FAILED_CALLS"})
             unsetenv(name);
     }
 
@@ -33,6 +34,8 @@ class FailingTool : public Tool {
         WriteBytes(File("b" + extension), old);
         const std::string orders =
             std::to_string(first) + ' ' + std::to_string(last) + ' ' + std::to_string(error);
+        // Folders are named apart: a blank in the other variable would end the name.
+        setenv("LD_LIBRARY_PATH", FAILING_CALLS_FOLDER, 1);
         setenv("LD_PRELOAD", FAILING_CALLS, 1);
         setenv("PIXANO_FAILING_CALLS", orders.c_str(), 1);
         setenv("PIXANO_FAILED_CALLS", (reports / "failed").c_str(), 1);

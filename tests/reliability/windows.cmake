@@ -40,7 +40,8 @@ if(NOT PIXANO_SANITIZED)
   pixano_windowed(pixano-victim victim.cpp player.cpp model.cpp)
   pixano_reliability_tests(crash_test crash_test.cpp child.cpp knowledge.cpp)
   target_compile_definitions(crash_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>"
-                                                FAILING_CALLS="$<TARGET_FILE:failing_calls>")
+                                                FAILING_CALLS="$<TARGET_FILE_NAME:failing_calls>"
+                                                FAILING_CALLS_FOLDER="$<TARGET_FILE_DIR:failing_calls>")
   add_dependencies(crash_test pixano-victim failing_calls)
   pixano_long_form(crash_test)
   # No one is killed here: every process comes to its end, and tells which lines it ran.

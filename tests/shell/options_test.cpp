@@ -141,6 +141,16 @@ TEST(RealProgram, AnswersWithoutAScreen)
     EXPECT_EQ(version.out, "Pixano 2.3\n");
 }
 
+TEST(RealProgram, TellsThatItCannotAnswer)
+{
+    QProcess program;
+    program.start("sh", {"-c", "\"$0\" --aiuto >/dev/full", PIXANO});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_THAT(program.readAllStandardError().toStdString(),
+                HasSubstr("standard output: non c'è più spazio"));
+}
+
 TEST(RealProgram, TellsItsUsageAndEndsWithTwoAtAnUnknownOption)
 {
     const Ended ended = Started({"--sbagliata"}, "offscreen");

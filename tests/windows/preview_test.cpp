@@ -59,6 +59,11 @@ TEST_F(Preview, HoldsItsOwnCopy)
     image_.SetPicture(picture);
     picture.PSet(0, 0, 0);
     EXPECT_EQ(image_.Picture().Point(0, 0), a_);
+    // Another of that size takes no more memory, not even while it is copied.
+    const std::uint32_t* const place = image_.Picture().Pixels();
+    image_.SetPicture(picture);
+    EXPECT_EQ(image_.Picture().Pixels(), place);
+    EXPECT_EQ(image_.Picture().Point(0, 0), 0);
 }
 
 }  // namespace
