@@ -1,6 +1,7 @@
 #include "document/places.h"
 
 #include "canvas/fault.h"
+#include "windows/file_names.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +14,7 @@ QString DataFolder()
     QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (!QDir().mkpath(folder))
         throw Fault(FaultKind::FileAccess,
-                    "Impossibile creare la cartella «" + folder.toStdString() + "»");
+                    "Impossibile creare la cartella «" + FileBytes(folder) + "»");
     // Somebody may have made it before, open to all.
     constexpr auto Private = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
