@@ -1,5 +1,7 @@
 #include "batch/console.h"
 
+#include "batch/harmless.h"
+
 #include <cstdio>
 
 #include <unistd.h>
@@ -48,7 +50,7 @@ void Console::Print(std::size_t place, const Outcome& outcome)
 {
     const PlannedPicture& picture = pictures_[place];
     for (const std::string& text : {outcome.notice, outcome.error})
-        if (!text.empty()) std::fprintf(stderr, "pixano-batch: %s\n", text.c_str());
+        if (!text.empty()) std::fprintf(stderr, "pixano-batch: %s\n", Harmless(text).c_str());
     if (outcome.done) PrintResult(picture, outcome.result);
     if (!outcome.done) allDone_ = false;
 }
@@ -58,7 +60,8 @@ void Console::PrintResult(const PlannedPicture& picture, const std::string& resu
     if (quiet_ || result.empty()) return;
     // The picture itself has standard output then.
     std::FILE* const to = picture.output == StandardStream ? stderr : stdout;
-    if (std::fprintf(to, "%s\n", result.c_str()) < 0 || std::fflush(to) != 0) allDone_ = false;
+    if (std::fprintf(to, "%s\n", Harmless(result).c_str()) < 0 || std::fflush(to) != 0)
+        allDone_ = false;
 }
 
 void Console::ShowProgress(const std::string& text)

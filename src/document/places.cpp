@@ -26,7 +26,7 @@ QString DataFolder()
 QString NativePath(const QString& name)
 {
     static const QString drive = QStringLiteral("c:\\");
-    if (!name.startsWith(drive, Qt::CaseInsensitive)) return QDir::current().filePath(name);
+    if (!name.startsWith(drive, Qt::CaseInsensitive)) return AbsolutePath(name);
     return DataFolder() + '/' + name.mid(drive.size());
 }
 
