@@ -2,6 +2,7 @@
 
 #include "batch/command_line.h"
 #include "batch/console.h"
+#include "batch/harmless.h"
 #include "batch/plan.h"
 #include "batch/pool.h"
 #include "batch/sheet.h"
@@ -97,7 +98,7 @@ int RunSheet(const CommandLine& line, const std::string& ownFolder)
             return sheet.Try(place, progress);
         });
     sheet.WritePage();
-    return line.quiet ? status : std::max(status, Print(plan.page + "\n"));
+    return line.quiet ? status : std::max(status, Print(Harmless(plan.page) + "\n"));
 }
 
 int RunPictures(const CommandLine& line, const std::string& ownFolder)
@@ -136,11 +137,11 @@ int RunBatch(std::span<const std::string_view> arguments, const std::string& own
     try {
         return RunTask(ParseCommandLine(arguments), ownFolder);
     } catch (const WrongCommandLine& wrong) {
-        return Complain(std::string(wrong.what()) + "\nUso: pixano-batch [OPZIONI] -o USCITA "
-                                                    "INGRESSO (tutto il resto con --aiuto)",
+        return Complain(Harmless(wrong.what()) + "\nUso: pixano-batch [OPZIONI] -o USCITA "
+                                                 "INGRESSO (tutto il resto con --aiuto)",
                         CommandWrong);
     } catch (const Fault& fault) {
-        return Complain(fault.what(), SomethingFailed);
+        return Complain(Harmless(fault.what()), SomethingFailed);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "batch/console.h"
 
+#include "batch/harmless.h"
 #include "batch/texts.h"
 
 #include <cerrno>
@@ -61,7 +62,7 @@ void Console::Print(std::size_t place, const Outcome& outcome)
 {
     const PlannedPicture& picture = pictures_[place];
     for (const std::string& text : {outcome.notice, outcome.error})
-        if (!text.empty()) std::fprintf(stderr, "pixano-batch: %s\n", text.c_str());
+        if (!text.empty()) std::fprintf(stderr, "pixano-batch: %s\n", Harmless(text).c_str());
     if (outcome.done) PrintResult(picture, outcome.result);
     if (!outcome.done) allDone_ = false;
 }
@@ -71,7 +72,7 @@ void Console::PrintResult(const PlannedPicture& picture, const std::string& resu
     if (quiet_ || result.empty()) return;
     // The picture itself has standard output then.
     std::FILE* const to = picture.output == StandardStream ? stderr : stdout;
-    if (std::fprintf(to, "%s\n", result.c_str()) >= 0 && std::fflush(to) == 0) return;
+    if (std::fprintf(to, "%s\n", Harmless(result).c_str()) >= 0 && std::fflush(to) == 0) return;
     std::fprintf(stderr, "pixano-batch: %s\n", UnprintedText(errno).c_str());
     allDone_ = false;
 }

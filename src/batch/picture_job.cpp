@@ -51,8 +51,10 @@ Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress&
 
 std::string NoticeOf(const std::string& input, bool truncated)
 {
-    return truncated ? input + ": attenzione, il file è incompleto; quel che manca resta grigio"
-                     : std::string();
+    return truncated
+               ? input +
+                     ": attenzione, il file è incompleto o danneggiato; quel che manca resta grigio"
+               : std::string();
 }
 
 Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)

@@ -6,6 +6,7 @@
 #include "document/places.h"
 #include "document/working_pictures.h"
 #include "pictures/picture_files.h"
+#include "windows/file_names.h"
 
 namespace pixano {
 namespace {
@@ -119,12 +120,12 @@ Surface ReadOriginal(const Session& s)
     const Document& d = s.doc;
     // After the same picture was chosen again `NomeFile` is empty; the picture is still open.
     const QString& name = d.NomeFile.isEmpty() ? d.FileAperto : d.NomeFile;
-    Surface picture = ReadPicture(name.toStdString()).picture;
+    Surface picture = ReadPicture(FileBytes(name)).picture;
     const Surface& canvas = s.work.Picture1;
     if (d.Modificato == 1 &&
         (picture.Width() != canvas.Width() || picture.Height() != canvas.Height()))
-        throw PictureError(FaultKind::FileAccess, "L'immagine nel file «" + name.toStdString() +
-                                                      "» ora ha un'altra misura");
+        throw PictureError(FaultKind::FileAccess,
+                           "L'immagine nel file «" + FileBytes(name) + "» ora ha un'altra misura");
     return picture;
 }
 

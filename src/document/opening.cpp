@@ -5,6 +5,7 @@
 #include "document/remembered_path.h"
 #include "document/saving.h"
 #include "pictures/picture_files.h"
+#include "windows/file_names.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -47,7 +48,7 @@ void OpenAsNew(Session& s, const QString& name, Surface picture)
 /// What follows once the name is known. Throws PictureError.
 void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpened& modified)
 {
-    if (!QFileInfo::exists(name)) {
+    if (!FileExists(name)) {
         s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "File " + name + " non trovato!");
         return;
     }
@@ -58,8 +59,11 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
     }
     std::optional<PictureRead> read;
     if (!same) {
-        read = ReadPicture(name.toStdString());
-        if (read->truncated) s.remarks += "Il file " + name + " è incompleto: mancano alcuni pixel";
+        read = ReadPicture(FileBytes(name));
+        if (read->truncated)
+            s.remarks +=
+                "Il file " + name +
+                " è incompleto o danneggiato: alcuni pixel mancano o non sono quelli giusti";
     }
     if (!s.doc.pasted.contains(name)) RememberPath(s.doc, name);
     if (!read) {
@@ -95,7 +99,7 @@ void Open(Session& s, AskName askName)
     } catch (const Fault& error) {
         s.remarks += QString::fromUtf8(error.what());
     }
-    QDir::setCurrent(d.CartellaAvvio);
+    GoToFolder(d.CartellaAvvio);
 }
 
 }  // namespace

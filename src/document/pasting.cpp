@@ -3,6 +3,7 @@
 #include "document/opening.h"
 #include "document/places.h"
 #include "document/working_pictures.h"
+#include "windows/file_names.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -10,7 +11,6 @@
 #include <QImage>
 #include <QMimeData>
 #include <QPainter>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -56,7 +56,7 @@ void OpenPasted(Session& s)
     if (data == nullptr) return;
     const QList<QUrl> urls = data->urls();
     if (urls.size() == 1 && urls.front().isLocalFile())
-        OpenNamed(s, urls.front().toLocalFile());
+        OpenNamed(s, LocalFile(urls.front()));
     else if (const auto image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
         OpenNamed(s, KeptAsFile(s, image));
 }

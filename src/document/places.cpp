@@ -1,6 +1,7 @@
 #include "document/places.h"
 
 #include "canvas/fault.h"
+#include "windows/file_names.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +14,7 @@ QString DataFolder()
     QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (!QDir().mkpath(folder))
         throw Fault(FaultKind::FileAccess,
-                    "Impossibile creare la cartella «" + folder.toStdString() + "»");
+                    "Impossibile creare la cartella «" + FileBytes(folder) + "»");
     // Somebody may have made it before, open to all.
     constexpr auto Private = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
@@ -25,7 +26,7 @@ QString DataFolder()
 QString NativePath(const QString& name)
 {
     static const QString drive = QStringLiteral("c:\\");
-    if (!name.startsWith(drive, Qt::CaseInsensitive)) return QDir::current().filePath(name);
+    if (!name.startsWith(drive, Qt::CaseInsensitive)) return AbsolutePath(name);
     return DataFolder() + '/' + name.mid(drive.size());
 }
 

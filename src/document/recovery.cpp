@@ -8,11 +8,14 @@
 #include "document/recovery_note.h"
 #include "document/showing.h"
 #include "pictures/picture_files.h"
+#include "windows/file_names.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <unistd.h>
 
 namespace pixano {
 namespace {
@@ -34,9 +37,9 @@ QString PutAside(const QString& copy, const Surface& picture)
 {
     try {
         QString aside = AsideName(DataFolder());
-        SavePrivateBitmap(picture, aside.toStdString());
+        SavePrivateBitmap(picture, FileBytes(aside));
         RemoveRecoveryNote();
-        QFile::remove(copy);
+        unlink(FileBytes(copy).c_str());
         return aside;
     } catch (const PictureError&) {
         // A full disk has no room for a second picture, but it has for a name.
@@ -69,12 +72,12 @@ void TellLost(Session& s, const QString& ofPicture, const QString& reason, const
 /// The noted copy, if it is the picture that was noted. Throws PictureError.
 Surface NotedPicture(const RecoveryNote& note)
 {
-    PictureRead read = ReadWorkingPicture(note.copy.toStdString());
+    PictureRead read = ReadWorkingPicture(FileBytes(note.copy));
     const bool noted = !read.truncated && read.picture.Width() == note.width &&
                        read.picture.Height() == note.height;
     if (!noted)
         throw PictureError(FaultKind::FileAccess,
-                           "Il file «" + note.copy.toStdString() + "» non è più quello di allora");
+                           "Il file «" + FileBytes(note.copy) + "» non è più quello di allora");
     return std::move(read.picture);
 }
 
@@ -95,9 +98,9 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
     Mostra(s);
     SecureCanvas(s);
     // The new copy is complete; the old one, if it lay elsewhere, has done its duty.
-    const QString current = QDir::current().absoluteFilePath(file::PreviewCopy);
+    const QString current = AbsolutePath(file::PreviewCopy);
     if (note.copy.endsWith('/' + file::PreviewCopy) && note.copy != current)
-        QFile::remove(note.copy);
+        unlink(FileBytes(note.copy).c_str());
 }
 
 void Offer(Session& s, const RecoveryNote& note)
@@ -130,7 +133,7 @@ void OfferRecovery(Session& s)
         Offer(s, *note);
     else if (RecoveryNoteThere())
         TellLost(s, QString(), "Il file «" + RecoveryNotePath() + "» non si può leggere",
-                 QDir::current().absoluteFilePath(file::PreviewCopy));
+                 AbsolutePath(file::PreviewCopy));
 }
 
 }  // namespace pixano

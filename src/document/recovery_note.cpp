@@ -3,6 +3,7 @@
 #include "document/places.h"
 #include "files/own_file.h"
 #include "files/refusal.h"
+#include "windows/file_names.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,12 +15,12 @@ namespace {
 /// A file's name may hold anything, line ends too.
 QByteArray Encoded(const QString& path)
 {
-    return QUrl::toPercentEncoding(path, "/ ");
+    return QByteArray::fromStdString(FileBytes(path)).toPercentEncoding("/ ");
 }
 
 QString Decoded(const QByteArray& text)
 {
-    return QUrl::fromPercentEncoding(text);
+    return FileName(QByteArray::fromPercentEncoding(text).toStdString());
 }
 
 }  // namespace
@@ -39,7 +40,7 @@ std::optional<RecoveryNote> ReadRecoveryNote()
 {
     QList<QByteArray> lines;
     try {
-        const std::string text = ReadOwnFile(RecoveryNotePath().toStdString());
+        const std::string text = ReadOwnFile(FileBytes(RecoveryNotePath()));
         lines = QByteArray::fromStdString(text).split('\n');
     } catch (const Refusal&) {
         return std::nullopt;
@@ -61,7 +62,7 @@ void WriteRecoveryNote(const RecoveryNote& note)
     const QByteArray text = Encoded(note.copy) + '\n' + Encoded(note.picture) + '\n' +
                             QByteArray::number(note.width) + '\n' +
                             QByteArray::number(note.height) + '\n';
-    const std::string path = RecoveryNotePath().toStdString();
+    const std::string path = FileBytes(RecoveryNotePath());
     TellRefusal("scrivere", path, [&] { ReplaceOwnFile(path, text.toStdString()); });
 }
 

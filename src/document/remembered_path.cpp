@@ -4,6 +4,7 @@
 #include "files/own_file.h"
 #include "files/refusal.h"
 #include "files/value_text.h"
+#include "windows/file_names.h"
 
 #include <string>
 
@@ -12,7 +13,7 @@ namespace {
 
 std::string FileOf(const Document& doc)
 {
-    return (doc.CartellaAvvio + '/' + file::Remembered).toStdString();
+    return FileBytes(doc.CartellaAvvio + '/' + file::Remembered);
 }
 
 }  // namespace
@@ -29,14 +30,14 @@ std::optional<QString> RememberedPath(const Document& doc)
     std::string_view rest = kept;
     const std::optional<std::string_view> path = TakeItem(rest, true);
     if (!path) return std::nullopt;
-    return QString::fromUtf8(path->data(), static_cast<qsizetype>(path->size()));
+    return FileName(*path);
 }
 
 void RememberPath(const Document& doc, const QString& path)
 {
     if (doc.CartellaAvvio.isEmpty()) return;
     try {
-        ReplaceOwnFile(FileOf(doc), '"' + path.toStdString() + "\"\r\n");
+        ReplaceOwnFile(FileOf(doc), '"' + FileBytes(path) + "\"\r\n");
     } catch (const Refusal&) {
         return;
     }

@@ -3,6 +3,7 @@
 #include "document/canvas_copy.h"
 #include "document/loading.h"
 #include "pictures/picture_files.h"
+#include "windows/file_names.h"
 
 #include <QFileInfo>
 
@@ -45,7 +46,7 @@ std::optional<QString> AskName(Session& s)
                            "Il nome del file «" + *chosen +
                                "» è troppo corto: senza gli ultimi quattro caratteri, che lasciano "
                                "il posto a «.bmp», non ne resta niente.");
-        else if (!QFileInfo::exists(*name) || MayReplace(s, *name))
+        else if (!FileExists(*name) || MayReplace(s, *name))
             return name;
     }
 }
@@ -55,7 +56,7 @@ std::optional<QString> AskName(Session& s)
 bool SaveCanvas(Session& s, const QString& name)
 {
     try {
-        SaveBitmap(s.work.Picture1, name.toStdString());
+        SaveBitmap(s.work.Picture1, FileBytes(name));
         return true;
     } catch (const Fault& error) {
         s.remarks += QString::fromUtf8(error.what());

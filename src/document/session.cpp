@@ -2,6 +2,7 @@
 
 #include "document/places.h"
 #include "files/text_store.h"
+#include "windows/file_names.h"
 #include "windows/palette_strip.h"
 
 #include <QApplication>
@@ -12,7 +13,7 @@ Session::Session(Dialogs& dialogBoxes, const Controls& controls, Timer timer)
     : dialogs(dialogBoxes),
       form1(controls.menu),
       progress(form4),
-      work(TextStore(file::Pixels.toStdString()), progress, timer),
+      work(TextStore(FileBytes(file::Pixels)), progress, timer),
       form2(work.Picture1),
       form10(controls.palette)
 {

@@ -4,17 +4,18 @@
 #include "files/own_file.h"
 #include "files/refusal.h"
 #include "pictures/picture_files.h"
+#include "windows/file_names.h"
 
 namespace pixano {
 
 void SaveWorkingPicture(const Surface& surface, const QString& name)
 {
-    WriteWorkingBitmap(surface, NativePath(name).toStdString());
+    WriteWorkingBitmap(surface, FileBytes(NativePath(name)));
 }
 
 Surface LoadWorkingPicture(const QString& name, const Surface& like)
 {
-    const std::string path = NativePath(name).toStdString();
+    const std::string path = FileBytes(NativePath(name));
     PictureRead read = ReadWorkingPicture(path);
     const bool ours = !read.truncated && read.picture.Width() == like.Width() &&
                       read.picture.Height() == like.Height();
@@ -26,7 +27,7 @@ Surface LoadWorkingPicture(const QString& name, const Surface& like)
 
 void KillWorkingPicture(const QString& name)
 {
-    const std::string path = NativePath(name).toStdString();
+    const std::string path = FileBytes(NativePath(name));
     try {
         TellRefusal("eliminare", path, [&] { DeleteOwnFile(path); });
     } catch (const Fault& fault) {

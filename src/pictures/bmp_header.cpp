@@ -182,17 +182,20 @@ std::vector<std::uint32_t> ReadPalette(ByteSource& source, const Fields& fields)
     return palette;
 }
 
-/// Where the pixels begin; a file that leaves this open has them right behind the palette.
-std::uint64_t PixelsPlace(const ByteSource& source, const Fields& fields)
+/// Goes to where the pixels begin. A file that leaves this open, or says that they begin where the
+/// palette does, has them right behind the palette.
+void GoToPixels(ByteSource& source, const Fields& fields)
 {
-    if (fields.pixels == 0) {
-        const std::uint64_t all = std::uint64_t{1} << (fields.bits > 8 ? 0 : fields.bits);
-        const std::uint64_t colours = fields.colours > 0 || fields.bits > 8 ? fields.colours : all;
-        return fields.palette + colours * (fields.headerSize == CoreHeaderSize ? 3 : 4);
+    const bool indexed = fields.bits <= 8;
+    if (fields.pixels == 0 || (indexed && fields.pixels == fields.palette)) {
+        const std::uint64_t all = std::uint64_t{1} << (indexed ? fields.bits : 0);
+        const std::uint64_t colours = fields.colours > 0 || !indexed ? fields.colours : all;
+        source.Seek(fields.palette + colours * (fields.headerSize == CoreHeaderSize ? 3 : 4));
+        return;
     }
-    if (fields.pixels < FileHeaderSize + fields.headerSize || fields.pixels >= source.Size())
+    source.Seek(fields.pixels);
+    if (fields.pixels < FileHeaderSize + fields.headerSize || source.AtEnd())
         throw Refusal("il file BMP dice che i pixel cominciano dove non possono essere");
-    return fields.pixels;
 }
 
 }  // namespace
@@ -210,7 +213,7 @@ BmpHeader ReadBmpHeader(ByteSource& source)
     header.coding = CodingOf(fields);
     header.masks = MasksOf(fields);
     header.palette = ReadPalette(source, fields);
-    header.pixels = PixelsPlace(source, fields);
+    GoToPixels(source, fields);
     return header;
 }
 

@@ -21,11 +21,10 @@ struct BmpHeader {
     std::array<std::uint32_t, 3> masks{};
     /// 256 colours as they lie in a surface; black for those that the file does not have.
     std::vector<std::uint32_t> palette;
-    /// Where the pixels begin.
-    std::uint64_t pixels = 0;
 };
 
-/// Reads from the source's start. Throws Refusal for what cannot be read as a picture.
+/// Reads from the source's start and leaves it where the pixels begin. Throws Refusal for what
+/// cannot be read as a picture.
 BmpHeader ReadBmpHeader(ByteSource& source);
 
 }  // namespace pixano

@@ -8,7 +8,6 @@ PictureRead DecodeBmp(ByteSource& source)
 {
     const BmpHeader header = ReadBmpHeader(source);
     PictureRead read{Surface(header.width, header.height)};
-    source.Seek(header.pixels);
     const bool runs = header.coding != BmpCoding::Plain && header.coding != BmpCoding::Masks;
     const bool complete = runs ? ReadBmpRuns(source, header, read.picture)
                                : ReadBmpRows(source, header, read.picture);

@@ -53,6 +53,7 @@ int ExifOrientation(std::span<const std::byte> segment)
 {
     constexpr std::uint32_t OrientationTag = 0x0112;
     constexpr std::uint32_t ShortType = 3;
+    constexpr std::uint32_t LongType = 4;
     constexpr std::uint64_t EntrySize = 12;
     if (!BeginsAsExif(segment)) return 1;
     const Tiff tiff(segment.subspan(Signature.size()));
@@ -62,8 +63,9 @@ int ExifOrientation(std::span<const std::byte> segment)
     for (std::uint64_t i = 0; i < count; ++i) {
         const std::uint64_t entry = directory + 2 + i * EntrySize;
         if (tiff.Short(entry) != OrientationTag) continue;
-        const std::uint32_t value = tiff.Short(entry + 8);
-        const bool known = tiff.Short(entry + 2) == ShortType && value >= 1 && value <= 8;
+        const std::uint32_t type = tiff.Short(entry + 2);
+        const std::uint32_t value = type == LongType ? tiff.Long(entry + 8) : tiff.Short(entry + 8);
+        const bool known = (type == ShortType || type == LongType) && value >= 1 && value <= 8;
         return known ? static_cast<int>(value) : 1;
     }
     return 1;

@@ -1,58 +1,19 @@
-// GIF files: the first frame on its screen, read by giflib.
+// GIF files: the first frame that has pixels, on its screen.
 #include "files/refusal.h"
 #include "pictures/decoders.h"
+#include "pictures/gif_pixels.h"
+#include "pictures/little_endian.h"
 #include "pictures/picture_size.h"
 
-#include <algorithm>
 #include <array>
-#include <memory>
+#include <optional>
 #include <span>
 #include <vector>
-
-#include <gif_lib.h>
 
 namespace pixano {
 namespace {
 
-/// Hands giflib the file's bytes. Within a frame's data, a file that ends too early looks as if its
-/// last block were as short as what is left of it, and as if the frame ended there: so giflib gives
-/// every pixel that the file has.
-class GifBytes {
-  public:
-    explicit GifBytes(ByteSource& source) : source_(source) {}
-
-    /// From here on giflib reads a block's length, the block, the next one's length...
-    void EnterFrameData() { lengthIsNext_ = inFrameData_ = true; }
-
-    static int Read(GifFileType* gif, GifByteType* into, int count)
-    {
-        return static_cast<GifBytes*>(gif->UserData)->Read({into, static_cast<std::size_t>(count)});
-    }
-
-  private:
-    int Read(std::span<GifByteType> into)
-    {
-        const std::size_t got = source_.Read(std::as_writable_bytes(into));
-        if (!inFrameData_) return static_cast<int>(got);
-        if (lengthIsNext_) ShortenBlock(into.front(), got);
-        lengthIsNext_ = !lengthIsNext_;
-        return static_cast<int>(into.size());
-    }
-
-    void ShortenBlock(GifByteType& length, std::size_t got)
-    {
-        const std::uint64_t most = got == 0 ? 0 : source_.Remaining();
-        length = static_cast<GifByteType>(std::min<std::uint64_t>(length, most));
-    }
-
-    ByteSource& source_;
-    bool inFrameData_ = false;
-    bool lengthIsNext_ = false;
-};
-
-struct CloseGif {
-    void operator()(GifFileType* gif) const { DGifCloseFile(gif, nullptr); }
-};
+enum Block { Extension = 0x21, Frame = 0x2C, EndOfFile = 0x3B };
 
 [[noreturn]] void RefuseDamaged()
 {
@@ -78,127 +39,164 @@ std::vector<int> RowOrder(int height, bool interlaced)
 
 class GifReader {
   public:
-    /// Reads up to the pixels of the first frame. Throws Refusal.
-    explicit GifReader(ByteSource& source) : bytes_(source)
+    /// Reads up to the pixels of the first frame that has some. Throws Refusal.
+    explicit GifReader(ByteSource& source) : source_(source)
     {
-        source.Seek(0);
-        gif_.reset(DGifOpen(&bytes_, GifBytes::Read, nullptr));
-        if (!gif_) RefuseDamaged();
+        ReadScreen();
         FindFrame();
-        if (DGifGetImageDesc(gif_.get()) == GIF_ERROR) RefuseDamaged();
-        bytes_.EnterFrameData();
-        frame_ = gif_->Image;
-        if (frame_.Width > 0 && frame_.Height > 0) CheckSize(frame_.Width, frame_.Height);
-        if (gif_->SWidth == 0 || gif_->SHeight == 0) TakeFrameAsScreen();
-        CheckSize(gif_->SWidth, gif_->SHeight);
+        CheckSize(frame_.width, frame_.height);
+        if (width_ == 0 || height_ == 0) TakeFrameAsScreen();
+        CheckSize(width_, height_);
     }
 
-    int Width() const { return gif_->SWidth; }
-    int Height() const { return gif_->SHeight; }
-
-    /// Draws what of the frame lies on the screen, asking giflib for rows in pieces of
-    /// `pixelsAtOnce`: a piece that it cannot give whole is lost. False when pixels are missing.
-    bool Draw(Surface& surface, int pixelsAtOnce)
+    PictureRead Read()
     {
-        if (frame_.Width == 0) return true;
-        const Palette colours = Colours();
-        const auto row = std::span(row_).first(static_cast<std::size_t>(frame_.Width));
-        for (const int y : RowOrder(frame_.Height, frame_.Interlace)) {
-            if (!frame_.Interlace && frame_.Top + y >= surface.Height()) return true;
-            const std::size_t got = ReadRow(row, static_cast<std::size_t>(pixelsAtOnce));
-            DrawRow(surface, frame_.Top + y, row.first(got), colours);
+        const int codeSize = NextByte();
+        if (codeSize > GifPixels::LargestCodeSize) RefuseDamaged();
+        PictureRead read{Surface(width_, height_)};
+        GifPixels pixels(source_, codeSize);
+        const bool complete = Draw(pixels, read.picture);
+        read.truncated = strayBytes_ || !complete;
+        return read;
+    }
+
+  private:
+    /// Black for a colour that the file does not have.
+    using Palette = std::array<Colour, 256>;
+
+    struct FrameHead {
+        int left = 0;
+        int top = 0;
+        int width = 0;
+        int height = 0;
+        bool interlaced = false;
+    };
+
+    void Fill(std::span<std::byte> bytes)
+    {
+        if (source_.Read(bytes) < bytes.size()) RefuseDamaged();
+    }
+
+    int NextByte()
+    {
+        const int byte = source_.Next();
+        if (byte < 0) RefuseDamaged();
+        return byte;
+    }
+
+    void ReadScreen()
+    {
+        std::array<std::byte, 13> head{};
+        Fill(head);
+        width_ = Load16(&head[6]);
+        height_ = Load16(&head[8]);
+        colours_ = ReadPalette(head[10]).value_or(Palette{});
+    }
+
+    /// The colours that follow a head with these flags; nothing when there are none.
+    std::optional<Palette> ReadPalette(std::byte flags)
+    {
+        constexpr std::byte There{0x80};
+        constexpr std::byte Count{7};
+        if ((flags & There) != There) return std::nullopt;
+        std::array<std::byte, std::size_t{3} * 256> bytes{};
+        const std::size_t count = std::size_t{2} << std::to_integer<int>(flags & Count);
+        Fill(std::span(bytes).first(3 * count));
+        Palette palette{};
+        for (std::size_t i = 0; i < count; ++i)
+            palette[i] = std::to_integer<Colour>(bytes[3 * i]) |
+                         std::to_integer<Colour>(bytes[3 * i + 1]) << 8 |
+                         std::to_integer<Colour>(bytes[3 * i + 2]) << 16;
+        return palette;
+    }
+
+    void FindFrame()
+    {
+        for (;;) {
+            const int block = NextByte();
+            if (block == EndOfFile) throw Refusal("il file GIF non contiene nessuna immagine");
+            if (block == Extension)
+                ReadExtension();
+            else if (block == Frame && ReadFrameHead())
+                return;
+            else if (block != Frame)
+                strayBytes_ = true;
+        }
+    }
+
+    void ReadExtension()
+    {
+        constexpr int GraphicControl = 0xF9;
+        constexpr int ControlLength = 4;
+        const int kind = NextByte();
+        for (int length = NextByte(); length > 0; length = NextByte()) {
+            std::array<std::byte, 255> block{};
+            Fill(std::span(block).first(static_cast<std::size_t>(length)));
+            if (kind != GraphicControl || length != ControlLength) continue;
+            const bool transparent = (block[0] & std::byte{1}) != std::byte{0};
+            transparent_ = transparent ? std::to_integer<int>(block[3]) : -1;
+        }
+    }
+
+    /// False when the frame has no pixels; it is skipped then, with all that belongs to it.
+    bool ReadFrameHead()
+    {
+        std::array<std::byte, 9> head{};
+        Fill(head);
+        frame_ = {Load16(head.data()), Load16(&head[2]), Load16(&head[4]), Load16(&head[6]),
+                  (head[8] & std::byte{0x40}) != std::byte{0}};
+        const std::optional<Palette> own = ReadPalette(head[8]);
+        if (frame_.width > 0 && frame_.height > 0) {
+            if (own) colours_ = *own;
+            if (transparent_ >= 0) colours_[static_cast<std::size_t>(transparent_)] = Background;
+            return true;
+        }
+        NextByte();  // the code size
+        for (int length = NextByte(); length > 0; length = NextByte())
+            source_.Seek(source_.Position() + static_cast<std::uint64_t>(length));
+        transparent_ = -1;
+        return false;
+    }
+
+    void TakeFrameAsScreen()
+    {
+        width_ = frame_.width;
+        height_ = frame_.height;
+        frame_.left = 0;
+        frame_.top = 0;
+    }
+
+    /// Draws what of the frame lies on the screen. False when pixels are missing.
+    bool Draw(GifPixels& pixels, Surface& surface)
+    {
+        std::vector<std::uint16_t> row(static_cast<std::size_t>(frame_.width));
+        for (const int y : RowOrder(frame_.height, frame_.interlaced)) {
+            if (!frame_.interlaced && frame_.top + y >= surface.Height()) return true;
+            const std::size_t got = pixels.Read(row);
+            int x = frame_.left;
+            for (const std::uint16_t pixel : std::span(row).first(got))
+                surface.PSet(x++, frame_.top + y, pixel < colours_.size() ? colours_[pixel] : 0);
             if (got < row.size()) return false;
         }
         return true;
     }
 
-  private:
-    using Palette = std::array<Colour, 256>;
-
-    void FindFrame()
-    {
-        GifRecordType record = UNDEFINED_RECORD_TYPE;
-        while (DGifGetRecordType(gif_.get(), &record) == GIF_OK) {
-            if (record == IMAGE_DESC_RECORD_TYPE) return;
-            if (record == TERMINATE_RECORD_TYPE)
-                throw Refusal("il file GIF non contiene nessuna immagine");
-            if (record == EXTENSION_RECORD_TYPE) ReadExtension();
-        }
-        RefuseDamaged();
-    }
-
-    void ReadExtension()
-    {
-        int code = 0;
-        GifByteType* block = nullptr;
-        int result = DGifGetExtension(gif_.get(), &code, &block);
-        if (result == GIF_OK && block != nullptr && code == GRAPHICS_EXT_FUNC_CODE)
-            DGifExtensionToGCB(block[0], block + 1, &control_);
-        while (result == GIF_OK && block != nullptr)
-            result = DGifGetExtensionNext(gif_.get(), &block);
-        if (result == GIF_ERROR) RefuseDamaged();
-    }
-
-    void TakeFrameAsScreen()
-    {
-        gif_->SWidth = frame_.Width;
-        gif_->SHeight = frame_.Height;
-        frame_.Left = 0;
-        frame_.Top = 0;
-    }
-
-    /// Black for a colour that the file does not have.
-    Palette Colours() const
-    {
-        Palette colours{};
-        const ColorMapObject* const map =
-            frame_.ColorMap != nullptr ? frame_.ColorMap : gif_->SColorMap;
-        const int count = map != nullptr ? std::min(map->ColorCount, 256) : 0;
-        for (int i = 0; i < count; ++i) {
-            const GifColorType& c = map->Colors[i];
-            colours[static_cast<std::size_t>(i)] = c.Red | c.Green << 8 | c.Blue << 16;
-        }
-        if (control_.TransparentColor != NO_TRANSPARENT_COLOR)
-            colours[static_cast<std::size_t>(control_.TransparentColor)] = Background;
-        return colours;
-    }
-
-    std::size_t ReadRow(std::span<GifPixelType> row, std::size_t pixelsAtOnce)
-    {
-        std::size_t got = 0;
-        while (got < row.size()) {
-            const std::size_t count = std::min(pixelsAtOnce, row.size() - got);
-            if (DGifGetLine(gif_.get(), &row[got], static_cast<int>(count)) == GIF_ERROR) break;
-            got += count;
-        }
-        return got;
-    }
-
-    void DrawRow(Surface& surface, int y, std::span<const GifPixelType> row, const Palette& colours)
-    {
-        int x = frame_.Left;
-        for (const GifPixelType pixel : row)
-            surface.PSet(x++, y, colours[pixel]);
-    }
-
-    GifBytes bytes_;
-    std::unique_ptr<GifFileType, CloseGif> gif_;
-    GraphicsControlBlock control_{0, false, 0, NO_TRANSPARENT_COLOR};
-    GifImageDesc frame_{};
-    std::array<GifPixelType, LongestSide> row_{};
+    ByteSource& source_;
+    int width_ = 0;
+    int height_ = 0;
+    Palette colours_{};
+    /// The index that is no colour but a hole; -1 when there is none.
+    int transparent_ = -1;
+    FrameHead frame_;
+    /// Bytes between the blocks that belong to none.
+    bool strayBytes_ = false;
 };
 
 }  // namespace
 
 PictureRead DecodeGif(ByteSource& source)
 {
-    GifReader reader(source);
-    PictureRead read{Surface(reader.Width(), reader.Height())};
-    if (reader.Draw(read.picture, LongestSide)) return read;
-    // Whole rows go fast; where one fails, its first pixels may still be there.
-    read.truncated = true;
-    GifReader(source).Draw(read.picture, 1);
-    return read;
+    return GifReader(source).Read();
 }
 
 }  // namespace pixano

@@ -1,5 +1,7 @@
 #include "pictures/jpeg_errors.h"
 
+#include "pictures/picture_size.h"
+
 #include <jerror.h>
 
 namespace pixano {
@@ -25,7 +27,8 @@ std::string JpegErrors::Reason() const
     case JERR_OUT_OF_MEMORY:
         return "la memoria non basta";
     case JERR_IMAGE_TOO_BIG:
-        return "l'immagine è troppo grande";
+        return "l'immagine è troppo grande (più di " + std::to_string(JPEG_MAX_DIMENSION) +
+               " pixel per lato): " + LongestSideText();
     case JERR_EMPTY_IMAGE:
         return "le dimensioni dell'immagine non sono valide";
     case JERR_BAD_PRECISION:

@@ -29,15 +29,13 @@ bool HasInks(const jpeg_decompress_struct& jpeg)
     return jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
 }
 
-/// Turns a row of inks (cyan, magenta, yellow, black; 255 is none of it where `inverted`) into a
-/// row of a surface, in place.
-void InksToPixels(std::span<std::uint32_t> row, bool inverted)
+/// Turns a row of inks (cyan, magenta, yellow, black; 255 is none of it) into a row of a surface,
+/// in place. Whoever writes inks writes them inverted, with Adobe's mark or without it.
+void InksToPixels(std::span<std::uint32_t> row)
 {
-    const unsigned flip = inverted ? 0 : 255;
     for (std::uint32_t& pixel : row) {
         const auto inks = std::bit_cast<std::array<std::uint8_t, 4>>(pixel);
-        const unsigned light = inks[3] ^ flip;
-        const auto shade = [&](unsigned ink) { return ((ink ^ flip) * light + 127) / 255; };
+        const auto shade = [&](unsigned ink) { return (ink * inks[3] + 127) / 255; };
         pixel = Surface::Opaque | shade(inks[0]) | shade(inks[1]) << 8 | shade(inks[2]) << 16;
     }
 }
@@ -49,6 +47,7 @@ class JpegReader {
         jpeg_.err = &errors_;
         jpeg_.client_data = this;
         errors_.onWarning = NoteWarning;
+        source_.onEnd = NoteEnd;
         progress_.progress_monitor = CheckWork;
         Run([this] { jpeg_create_decompress(&jpeg_); });
         jpeg_.progress = &progress_;
@@ -69,8 +68,11 @@ class JpegReader {
         present_ = height;
         Run([this] { jpeg_start_decompress(&jpeg_); });
         Run([this, &canvas] { ReadRows(canvas); });
-        const bool scansMissing = source_.Ended() && jpeg_has_multiple_scans(&jpeg_) != FALSE;
-        return {canvas.Finish(present_), truncated_ || scansMissing};
+        // Where only the mark of the end is missing all pixels are there; further scans are
+        // unknown.
+        if (source_.Ended() && jpeg_has_multiple_scans(&jpeg_) != FALSE) damaged_ = true;
+        if (present_ == height) CheckRest();
+        return {canvas.Finish(present_), damaged_};
     }
 
   private:
@@ -93,32 +95,56 @@ class JpegReader {
             std::uint32_t* const row = canvas.Row(static_cast<int>(jpeg_.output_scanline));
             auto* samples = reinterpret_cast<JSAMPROW>(row);
             jpeg_read_scanlines(&jpeg_, &samples, 1);
-            // Only Adobe's programs write inks, and they write them inverted.
-            if (inks) InksToPixels({row, width}, jpeg_.saw_Adobe_marker != FALSE);
+            if (inks) InksToPixels({row, width});
         }
+    }
+
+    /// Reads on to the mark of the end: pixels that took too few bytes or too many are not what was
+    /// written. All rows are there, so nothing here is a reason to refuse the picture.
+    void CheckRest()
+    {
+        if (!errors_.Run([this] { jpeg_finish_decompress(&jpeg_); })) damaged_ = true;
+    }
+
+    static void NoteWarning(j_common_ptr common, int code)
+    {
+        if (code == JWRN_JFIF_MAJOR) return;  // a number of a version, which changes no pixel
+        JpegReader& reader = Of(common);
+        reader.damaged_ = true;
+        if (code == JWRN_HIT_MARKER && reader.jpeg_.unread_marker == JPEG_EOI) reader.NoteCut();
+    }
+
+    /// The file has no more bytes. The arithmetic decoder goes on without a warning, as if zeros
+    /// followed: a sound file may end so, but then with the mark of the end.
+    static void NoteEnd(j_decompress_ptr jpeg)
+    {
+        JpegReader& reader = Of(reinterpret_cast<j_common_ptr>(jpeg));
+        if (jpeg->arith_code == FALSE) return;
+        reader.damaged_ = true;
+        reader.NoteCut();
     }
 
     /// The picture ends within a scan. If that is the first one, nothing is known below the row of
     /// blocks that is being read.
-    static void NoteWarning(j_common_ptr common, int code)
+    void NoteCut()
     {
-        JpegReader& reader = Of(common);
-        const jpeg_decompress_struct& jpeg = reader.jpeg_;
-        if (code != JWRN_HIT_MARKER || jpeg.unread_marker != JPEG_EOI) return;
-        reader.truncated_ = true;
-        if (jpeg.input_scan_number > 1) return;
-        const int blockRow = jpeg.max_v_samp_factor * DCTSIZE;
-        const int begun = (static_cast<int>(jpeg.input_iMCU_row) + 1) * blockRow;
-        reader.present_ = std::min(reader.present_, begun);
+        if (jpeg_.input_scan_number > 1) return;
+        const int blockRow = jpeg_.max_v_samp_factor * DCTSIZE;
+        const int begun = (static_cast<int>(jpeg_.input_iMCU_row) + 1) * blockRow;
+        present_ = std::min(present_, begun);
     }
 
     static void CheckWork(j_common_ptr common)
     {
         const jpeg_decompress_struct& jpeg = Of(common).jpeg_;
         const std::int64_t pixels = std::int64_t{jpeg.image_width} * jpeg.image_height;
-        if (jpeg.input_scan_number > MostScans ||
-            jpeg.input_scan_number * pixels > MostScannedPixels)
-            JpegErrors::Of(common).Fail("il file JPEG è fatto di troppi strati");
+        static_assert(MostScans == 500 && MostScannedPixels / 1'000'000 == 8589);
+        if (jpeg.input_scan_number > MostScans)
+            JpegErrors::Of(common).Fail("il file JPEG è fatto di troppi strati (più di 500)");
+        if (jpeg.input_scan_number * pixels > MostScannedPixels)
+            JpegErrors::Of(common).Fail(
+                "il file JPEG è fatto di troppi strati (più di 8589 milioni "
+                "di pixel in tutto)");
     }
 
     JpegErrors errors_;
@@ -127,7 +153,8 @@ class JpegReader {
     jpeg_decompress_struct jpeg_{};
     /// How many rows the file has data for.
     int present_ = 0;
-    bool truncated_ = false;
+    /// What is shown may not be what was written.
+    bool damaged_ = false;
 };
 
 }  // namespace

@@ -8,6 +8,8 @@ namespace pixano {
 namespace {
 
 constexpr std::size_t LongestSegment = 65535;
+/// With 512 bytes at hand libjpeg takes a faster way, on which it passes over bad codes in silence.
+constexpr std::size_t AtOnce = 511;
 constexpr JOCTET EndOfImage[] = {0xFF, JPEG_EOI};
 
 }  // namespace
@@ -31,7 +33,10 @@ void JpegSource::AttachTo(jpeg_decompress_struct& jpeg)
 boolean JpegSource::Fill(j_decompress_ptr jpeg)
 {
     JpegSource& source = Of(jpeg);
-    const std::span<const std::byte> taken = source.bytes_.Take();
+    if (source.waiting_.empty()) source.waiting_ = source.bytes_.Take();
+    const auto taken = source.waiting_.first(std::min(AtOnce, source.waiting_.size()));
+    source.waiting_ = source.waiting_.subspan(taken.size());
+    if (taken.empty() && !source.ended_ && source.onEnd != nullptr) source.onEnd(jpeg);
     source.ended_ = taken.empty();
     source.next_input_byte =
         source.ended_ ? EndOfImage : reinterpret_cast<const JOCTET*>(taken.data());

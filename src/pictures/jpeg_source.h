@@ -21,6 +21,8 @@ class JpegSource : public jpeg_source_mgr {
 
     /// libjpeg asked for more than the file has and was told that the picture ends.
     bool Ended() const { return ended_; }
+    /// Called when it first does.
+    void (*onEnd)(j_decompress_ptr jpeg) = nullptr;
     /// The first APP1 segment that begins as Exif does; empty when there is none.
     std::span<const std::byte> Exif() const { return exif_; }
 
@@ -32,6 +34,7 @@ class JpegSource : public jpeg_source_mgr {
     std::byte NextByte(j_decompress_ptr jpeg);
 
     ByteSource& bytes_;
+    std::span<const std::byte> waiting_;
     std::vector<std::byte> exif_;
     bool ended_ = false;
 };

@@ -6,10 +6,15 @@
 #include "pictures/decoders.h"
 #include "pictures/encoders.h"
 #include "pictures/icc_profile.h"
+#include "pictures/picture_size.h"
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <string_view>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace pixano {
 namespace {
@@ -22,15 +27,20 @@ auto Telling(const char* verb, const std::string& name, Step step)
 
 PictureRead DecodeByContent(ByteSource& source)
 {
-    std::array<char, 4> start{};
+    std::array<char, 6> start{};
     const std::size_t got = source.Read(std::as_writable_bytes(std::span(start)));
     source.Seek(0);
     const std::string_view magic(start.data(), got);
     if (magic.starts_with("BM")) return DecodeBmp(source);
-    if (magic.starts_with("\xFF\xD8\xFF")) return DecodeJpeg(source);
-    if (magic.starts_with("GIF8")) return DecodeGif(source);
+    if (magic.starts_with("\xFF\xD8")) return DecodeJpeg(source);
+    if (magic == "GIF87a" || magic == "GIF89a") return DecodeGif(source);
+    if (source.Error() == 0 && magic.empty()) throw Refusal("il file è vuoto");
     throw Refusal("non è un'immagine BMP, JPEG o GIF");
 }
+
+/// A stream that goes on for longer is no picture, whatever it began as: every pixel in four bytes,
+/// every row padded or ended by a mark, and a generous head.
+constexpr std::uint64_t LongestStream = 4 * (MostPixels + LongestSide) + (std::uint64_t{1} << 20);
 
 PictureRead Decode(ByteSource& source)
 {
@@ -44,7 +54,20 @@ PictureRead Decode(ByteSource& source)
         // A file that could not be read to its end looks damaged: the cause is what counts.
         if (source.Error() == 0) throw;
     }
-    throw Refusal(source.Error());
+    if (source.Error() != EFBIG) throw Refusal(source.Error());
+    throw Refusal("arrivano più di " + std::to_string(LongestStream / 1'000'000) +
+                  " milioni di byte, che nessuna immagine richiede");
+}
+
+/// What the descriptor gives from where it stands on.
+ByteSource SourceFrom(int descriptor)
+{
+    struct stat status {};
+    if (fstat(descriptor, &status) != 0) throw Refusal(errno);
+    const off_t start = S_ISREG(status.st_mode) ? lseek(descriptor, 0, SEEK_CUR) : -1;
+    if (start < 0 || start >= status.st_size) return ByteSource::Stream(descriptor, LongestStream);
+    return {descriptor, static_cast<std::uint64_t>(status.st_size - start),
+            static_cast<std::uint64_t>(start)};
 }
 
 PictureRead ReadFile(const std::string& path, Links links)
@@ -95,8 +118,15 @@ PictureRead ReadWorkingPicture(const std::string& path)
 PictureRead ReadPictureFrom(std::span<const std::byte> content, const std::string& name)
 {
     return Telling("leggere", name, [&] {
-        if (content.empty()) throw Refusal("il file è vuoto");
         ByteSource source(content);
+        return Decode(source);
+    });
+}
+
+PictureRead ReadPictureFrom(int descriptor, const std::string& name)
+{
+    return Telling("leggere", name, [&] {
+        ByteSource source = SourceFrom(descriptor);
         return Decode(source);
     });
 }

@@ -20,9 +20,10 @@ class PictureError : public Fault {
 };
 
 /// The picture in the file `path` (UTF-8). The format is told by the content, not by the name:
-/// BMP, JPEG (turned upright by its Exif orientation) or GIF (its first frame; `Background` shows
-/// through where it is transparent). Only regular files are read, of 1 to 32767 pixels a side and
-/// at most 256 Mpixel. Every pixel of the result is defined by the file alone. Throws PictureError.
+/// BMP, JPEG (turned upright by its Exif orientation) or GIF (its first frame that has pixels;
+/// `Background` shows through where it is transparent). Only regular files are read, of 1 to 32767
+/// pixels a side and at most 256 Mpixel. Every pixel of the result is defined by the file alone.
+/// Throws PictureError.
 PictureRead ReadPicture(const std::string& path);
 
 /// The same for a file that this program wrote for itself: a link with that name is refused, not
@@ -32,6 +33,10 @@ PictureRead ReadWorkingPicture(const std::string& path);
 /// The same for a file's content that is already in memory; `name` stands for the file in messages.
 /// Throws PictureError.
 PictureRead ReadPictureFrom(std::span<const std::byte> content, const std::string& name);
+
+/// The same for what an open file, pipe or device gives from where it stands on. Nothing is kept of
+/// it but the picture, and no more is asked for than that takes. Throws PictureError.
+PictureRead ReadPictureFrom(int descriptor, const std::string& name);
 
 /// Writes the surface as an uncompressed 24-bit BMP, bottom-up with a 40-byte header, to the file
 /// `path` (UTF-8). The file appears, or replaces an old one, only when it is complete and on disk;

@@ -10,8 +10,10 @@ namespace pixano {
 
 struct PictureRead {
     Surface picture;
-    /// The file ended before all pixels were there; the missing ones show `Background`. (In a JPEG,
-    /// those right of the last block that is there are grey; a progressive one may just be coarse.)
+    /// The file is incomplete or damaged: it ended before all pixels were there, or what it holds
+    /// contradicts itself. Missing pixels show `Background`. (In a JPEG, those right of the last
+    /// block that is there are grey; a progressive one may just be coarse; where the data makes no
+    /// sense, pixels are as libjpeg repairs them.)
     bool truncated = false;
     /// The colour profile (ICC) that the file carries for red, green and blue; empty without one.
     std::vector<std::byte> profile{};

@@ -2,9 +2,12 @@
 
 #include "files/refusal.h"
 
-#include <string>
-
 namespace pixano {
+
+std::string LongestSideText()
+{
+    return "i lati possono avere al massimo " + std::to_string(LongestSide) + " pixel";
+}
 
 void CheckSize(std::int64_t width, std::int64_t height)
 {
@@ -12,9 +15,7 @@ void CheckSize(std::int64_t width, std::int64_t height)
     if (width <= 0 || height <= 0)
         throw Refusal("le dimensioni dell'immagine non sono valide (" + size + ")");
     if (width > LongestSide || height > LongestSide)
-        throw Refusal("l'immagine è troppo grande (" + size +
-                      "): i lati possono avere al massimo " + std::to_string(LongestSide) +
-                      " pixel");
+        throw Refusal("l'immagine è troppo grande (" + size + "): " + LongestSideText());
     if (width * height > MostPixels)
         throw Refusal("l'immagine è troppo grande (" + size +
                       "): può avere al massimo 256 milioni di pixel");

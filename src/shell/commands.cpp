@@ -5,6 +5,7 @@
 #include "panels/form11.h"
 #include "shell/effect_frame.h"
 #include "shell/run.h"
+#include "windows/file_names.h"
 
 #include <QTimer>
 
@@ -17,7 +18,7 @@ void ReadStrength(Session& s, Form11& window)
 {
     const QString path = s.programFolder + '/' + file::Strengths;
     s.work.Valori = {};
-    LeggiValori(path.toStdString(), s.work.Valori);
+    LeggiValori(FileBytes(path), s.work.Valori);
     window.ShowStrength(s.work.Strength());
 }
 
@@ -25,7 +26,7 @@ void Confirm(Session& s, Form11& window)
 {
     s.doc.Confermato = 1;
     try {
-        SalvaValori(NativePath(file::Strengths).toStdString(), s.work.Valori);
+        SalvaValori(FileBytes(NativePath(file::Strengths)), s.work.Valori);
     } catch (const Fault& fault) {
         s.remarks += QString::fromUtf8(fault.what()) +
                      ". La forza vale per questa volta, ma non sarà ricordata";

@@ -2,6 +2,7 @@
 
 #include "files/refusal.h"
 #include "files/regular_file.h"
+#include "windows/file_names.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -25,8 +26,8 @@ Descriptor OpenLock(const std::string& path)
 
 OnlyInstance::OnlyInstance(const QString& path)
 {
-    TellRefusal("usare", path.toStdString(), [&] {
-        file_ = OpenLock(path.toStdString());
+    TellRefusal("usare", FileBytes(path), [&] {
+        file_ = OpenLock(FileBytes(path));
         held_ = flock(file_.Number(), LOCK_EX | LOCK_NB) == 0;
         if (!held_ && errno != EWOULDBLOCK) throw Refusal(errno);
     });

@@ -1,6 +1,5 @@
 #include "shell/options.h"
-
-#include <QUrl>
+#include "windows/file_names.h"
 
 #include <algorithm>
 #include <array>
@@ -15,8 +14,14 @@ constexpr const char* VersionText = "Pixano " PIXANO_VERSION "\n";
 QString PathOf(const QString& argument)
 {
     if (!argument.startsWith("file:", Qt::CaseInsensitive)) return argument;
-    const QUrl url(argument);
-    return url.isLocalFile() ? url.toLocalFile() : argument;
+    // A byte above ASCII has no place in a URL as it is.
+    QByteArray encoded;
+    for (const char byte : FileBytes(argument)) {
+        const QByteArray one(1, byte);
+        encoded += static_cast<unsigned char>(byte) < 0x80 ? one : one.toPercentEncoding();
+    }
+    const QUrl url = QUrl::fromEncoded(encoded);
+    return url.isLocalFile() ? LocalFile(url) : argument;
 }
 
 }  // namespace
@@ -48,6 +53,14 @@ bool ScreenIsMissing(const QStringList& arguments)
     return std::ranges::none_of(
         std::array{"-platform", "--platform", "-display", "--display"},
         [&arguments](const char* name) { return arguments.contains(name); });
+}
+
+QStringList ArgumentsOf(int argc, const char* const argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += FileName(argv[i]);
+    return arguments;
 }
 
 std::optional<Options> OptionsFrom(const QStringList& arguments)

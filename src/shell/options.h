@@ -19,6 +19,9 @@ extern const char* const UsageText;
 /// The answer to "--aiuto" or "--versione", if one of them stands before a "--"; nullptr otherwise.
 const char* AnswerWithoutScreen(int argc, const char* const argv[]);
 
+/// The arguments as text, none of their bytes lost.
+QStringList ArgumentsOf(int argc, const char* const argv[]);
+
 /// Whether neither the environment nor an argument names a screen or a platform to show windows on.
 bool ScreenIsMissing(const QStringList& arguments);
 

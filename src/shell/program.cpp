@@ -12,6 +12,7 @@
 #include "shell/run.h"
 #include "shell/start_up.h"
 #include "windows/assistive.h"
+#include "windows/file_names.h"
 #include "windows/own_style.h"
 #include "windows/screen_dialogs.h"
 
@@ -55,7 +56,7 @@ void WorkInDataFolder(Session& s)
     if (!QFile::exists(strengths) &&
         QFile::copy(s.programFolder + '/' + file::Strengths, strengths))
         QFile::setPermissions(strengths, QFile::ReadOwner | QFile::WriteOwner);
-    QDir::setCurrent(folder);
+    GoToFolder(folder);
     s.programFolder = folder;
     s.doc.firstFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
 }
@@ -72,8 +73,7 @@ int RunSession(Session& session, const Options& options)
 {
     ConnectEvents(session);
     // Relative to the folder that the user is in, whichever one the program works in.
-    const QString picture =
-        options.picture.isEmpty() ? QString() : QDir().absoluteFilePath(options.picture);
+    const QString picture = options.picture.isEmpty() ? QString() : AbsolutePath(options.picture);
     RunCommand(session, "Avvio", Fatal::All, [&] {
         if (options.fromMenu) WorkInDataFolder(session);
         Form_Load(session);
@@ -137,7 +137,7 @@ int StartProgram(int argc, char* argv[])
     // These answers need no screen, so they come before the application does.
     if (const char* const answer = AnswerWithoutScreen(argc, argv)) return Answer(answer);
     // So does this one: the toolkit would end the program by a signal.
-    if (const QStringList arguments(argv, argv + argc); ScreenIsMissing(arguments)) {
+    if (const QStringList arguments = ArgumentsOf(argc, argv); ScreenIsMissing(arguments)) {
         if (!OptionsFrom(arguments)) return TellUsage();
         std::fputs("Pixano: non c'è uno schermo (DISPLAY e WAYLAND_DISPLAY sono vuote). "
                    "Senza finestre lavora pixano-batch.\n",
@@ -146,7 +146,7 @@ int StartProgram(int argc, char* argv[])
     }
     QApplication application(argc, argv);
     PrepareApplication(application);
-    const std::optional<Options> options = OptionsFrom(QApplication::arguments());
+    const std::optional<Options> options = OptionsFrom(ArgumentsOf(argc, argv));
     if (!options) return TellUsage();
     ScreenDialogs dialogs;
     try {

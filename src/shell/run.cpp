@@ -6,6 +6,7 @@
 #include "document/recovery_note.h"
 #include "document/working_pictures.h"
 #include "pictures/picture_files.h"
+#include "windows/file_names.h"
 
 #include <QDateTime>
 
@@ -24,9 +25,9 @@ QString KeepUnsavedWork(const Session& s)
         const QString path = DataFolder() + "/lavoro-" + stamp + ".bmp";
         const Surface& canvas = s.work.Picture1;
         if (s.drawing)
-            SavePrivateBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), path.toStdString());
+            SavePrivateBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), FileBytes(path));
         else
-            SavePrivateBitmap(canvas, path.toStdString());
+            SavePrivateBitmap(canvas, FileBytes(path));
         return "\n\nIl lavoro non salvato è stato conservato nel file «" + path + "».";
     } catch (const std::exception& error) {
         return "\n\nIl lavoro non salvato non è stato conservato. " +

@@ -2,10 +2,10 @@
 
 #include "document/enabling.h"
 #include "panels/form6.h"
+#include "windows/file_names.h"
 #include "windows/free_screen.h"
 #include "windows/twips.h"
 
-#include <QDir>
 #include <QScreen>
 
 namespace pixano {
@@ -29,7 +29,7 @@ void PlaceMainWindow(Form1& window)
 void Form_Load(Session& s)
 {
     PlaceMainWindow(s.form1);
-    s.doc.CartellaAvvio = QDir::currentPath();
+    s.doc.CartellaAvvio = CurrentFolder();
     if (s.doc.firstFolder.isEmpty()) s.doc.firstFolder = s.doc.CartellaAvvio;
     s.form1.show();
     Form6 opening;

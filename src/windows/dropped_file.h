@@ -1,11 +1,12 @@
 // A file dropped onto a window.
 #pragma once
 
+#include "windows/file_names.h"
+
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QString>
-#include <QUrl>
 
 namespace pixano {
 
@@ -13,7 +14,7 @@ namespace pixano {
 inline QString DroppedFile(const QDropEvent& event)
 {
     const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return urls.size() == 1 ? LocalFile(urls.front()) : QString();
 }
 
 /// Welcomes the drag when a file could be dropped.

@@ -180,7 +180,7 @@ TEST_F(Tool, UsesAnIncompletePictureAndSaysSo)
     const Ran ran = Run({"-e", "Specchio", "-o", "b.bmp", "cut.bmp"});
     EXPECT_EQ(ran.status, 0);
     EXPECT_EQ(ran.out, "b.bmp: Specchio   3x2\n");
-    EXPECT_THAT(ran.err, HasSubstr("cut.bmp: attenzione"));
+    EXPECT_THAT(ran.err, HasSubstr("cut.bmp: attenzione, il file è incompleto o danneggiato"));
     EXPECT_EQ(Result("b.bmp"), (Letters{"...", "fed"}));
 }
 
@@ -195,6 +195,44 @@ TEST_F(Tool, ReadsStandardInputAndWritesStandardOutput)
     EXPECT_EQ(Run({"-o", "c.bmp", "-"}, File("a.bmp")).out, "c.bmp: -   3x2\n");
     EXPECT_EQ(Run({"-o", "d.bmp", "-"}).status, 1);
     EXPECT_FALSE(Exists("d.bmp"));
+}
+
+TEST_F(Tool, TakesOfStandardInputWhatThePictureNeeds)
+{
+    Draw("a.bmp", {"abc", "def"});
+    const auto piped = [this](const std::string& from) {
+        return RunProgram({"sh", "-c", from + " | timeout 60 \"$0\" -o b.bmp -", program},
+                          Folder());
+    };
+    EXPECT_EQ(piped("cat a.bmp /dev/zero").out, "b.bmp: -   3x2\n");
+    EXPECT_EQ(Result("b.bmp"), (Letters{"abc", "def"}));
+    const Ran refused = piped("cat /dev/zero");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, "pixano-batch: Impossibile leggere «standard input»: non è un'immagine "
+                           "BMP, JPEG o GIF\n");
+    // A file is read from where it stands, not from its start.
+    WriteBytes(File("c"), "xyz" + Bytes("a.bmp"));
+    const std::string command = "{ dd bs=3 count=1 of=/dev/null 2>&1; \"$0\" -o d.bmp -; } <c";
+    EXPECT_EQ(RunProgram({"sh", "-c", command, program}, Folder()).status, 0);
+    EXPECT_EQ(Result("d.bmp"), (Letters{"abc", "def"}));
+}
+
+TEST_F(Tool, TellsNamesWithControlCharactersHarmlessly)
+{
+    const std::string name = "a\x1B[2J\n\t\x7F\xC2\x9B\x9B\xE8è€\xF0\x9F\x99\x82.bmp";
+    const std::string shown = "a\\x1B[2J\\x0A\\x09\\x7F\\xC2\\x9B\\x9B\xE8è€\xF0\x9F\x99\x82.bmp";
+    Draw(name, {"ab", "cd"});
+    EXPECT_EQ(Run({"-o", "r" + name, name}).out, "r" + shown + ": " + shown + "   2x2\n");
+    WriteBytes(File(name), Bytes(name).substr(0, 60));
+    EXPECT_THAT(Run({"-o", "b.bmp", name}).err, StartsWith("pixano-batch: " + shown + ": attenz"));
+    EXPECT_EQ(Run({"-o", "b.bmp", "no" + name}).err,
+              "pixano-batch: Impossibile leggere «no" + shown + "»: il file non esiste\n");
+    EXPECT_THAT(Run({"-" + name}).err,
+                StartsWith("pixano-batch: Opzione sconosciuta: \"-" + shown.substr(0, 1)));
+    EXPECT_EQ(Run({"-d", name + "/", name}).err,
+              "pixano-batch: La cartella \"" + shown + "/\" non esiste\n");
+    for (const char* const option : {"-e", "-o", "-j"})
+        EXPECT_THAT(Run({option, name, "-" + name}).err, testing::Not(HasSubstr("\x1B")));
 }
 
 TEST_F(Tool, FailsWhenStandardOutputTakesNoMore)

@@ -86,7 +86,8 @@ TEST_F(Program, OpensATruncatedPictureWithANotice)
     EXPECT_EQ(CanvasLetters(), (Letters{"....", "efgh"}));
     EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
                                                     "Il file " + Path("a.bmp") +
-                                                        " è incompleto: mancano alcuni pixel."}}));
+                                                        " è incompleto o danneggiato: alcuni pixel "
+                                                        "mancano o non sono quelli giusti."}}));
     EXPECT_EQ(CanvasCaption(), "a.bmp   4x2");
 }
 

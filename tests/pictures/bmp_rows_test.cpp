@@ -93,6 +93,32 @@ TEST(BmpRows, AnOffsetOfZeroMeansBehindThePalette)
     const BmpHead head{.width = 4, .bits = 8, .colours = 4, .offset = 0};
     EXPECT_EQ(ReadColours(Bmp(head, RedGreenBlueWhite, {3, 2, 1, 0})),
               (Colours{White, Blue, Green, Red}));
+    // Without a palette that is right behind the head, unless the head speaks of colours for poorer
+    // screens.
+    const BmpHead plain{.width = 2, .offset = 0};
+    EXPECT_EQ(ReadColours(Bmp(plain, {}, {3, 2, 1, 6, 5, 4, 0, 0})),
+              (Colours{Rgb(1, 2, 3), Rgb(4, 5, 6)}));
+    const BmpHead advised{.width = 2, .colours = 4, .offset = 0};
+    EXPECT_EQ(ReadColours(Bmp(advised, RedGreenBlueWhite, {3, 2, 1, 6, 5, 4, 0, 0})),
+              (Colours{Rgb(1, 2, 3), Rgb(4, 5, 6)}));
+}
+
+TEST(BmpRows, PixelsDoNotBeginWhereThePaletteDoes)
+{
+    const Bytes pixels{3, 2, 1, 0};
+    const Colours expected{White, Blue, Green, Red};
+    const BmpHead four{.width = 4, .bits = 8, .colours = 4, .offset = 14 + 40};
+    EXPECT_EQ(ReadColours(Bmp(four, RedGreenBlueWhite, pixels)), expected);
+    BmpHead all = four;
+    all.colours = 0;
+    EXPECT_EQ(ReadColours(Bmp(all, Bytes(RedGreenBlueWhite).Zeros(252 * 4), pixels)), expected);
+    const Bytes short3{0, 0, 255, 0, 255, 0, 255, 0, 0, 255, 255, 255};
+    const BmpHead core{.size = 12, .width = 4, .bits = 2, .offset = 14 + 12};
+    EXPECT_EQ(ReadColours(Bmp(core, short3, {0xE4, 0, 0, 0})), expected);
+    const BmpHead runs{.width = 4, .bits = 8, .compression = 1, .colours = 4, .offset = 14 + 40};
+    EXPECT_EQ(ReadColours(Bmp(runs, RedGreenBlueWhite, {1, 3, 1, 2, 1, 1, 1, 0, 0, 1})), expected);
+    // Where there is no palette, pixels begin there as a rule.
+    EXPECT_EQ(ReadColours(Bmp({.offset = 14 + 40}, {}, {3, 2, 1, 0})), (Colours{Rgb(1, 2, 3)}));
 }
 
 TEST(BmpRows, FirstOs2HeaderHasThreeByteColours)

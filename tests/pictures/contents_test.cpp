@@ -15,7 +15,7 @@ TEST(Contents, OtherThanBmpJpegAndGifAreRefused)
     EXPECT_THAT(Bytes().Add("<svg xmlns=\"http://www.w3.org/2000/svg\"/>").Refusal(),
                 HasSubstr(Message));
     EXPECT_THAT(Bytes().Add("B").Refusal(), HasSubstr(Message));
-    EXPECT_THAT((Bytes{0xFF, 0xD8}).Refusal(), HasSubstr(Message));
+    EXPECT_THAT((Bytes{0xFF, 0xD9}).Refusal(), HasSubstr(Message));
     EXPECT_THAT(Bytes().Zeros(1000).Refusal(), HasSubstr(Message));
 }
 

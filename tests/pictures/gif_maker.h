@@ -7,7 +7,7 @@
 
 namespace pixano::test {
 
-/// The four colours of these tests, as a colour table.
+/// The four colours of these tests, as a colour table; `gif` gives them letters.
 inline constexpr Colour GifColours[] = {Rgb(1, 2, 3), Rgb(40, 50, 60), Rgb(255, 0, 0), White};
 inline const Bytes GifTable{1, 2, 3, 40, 50, 60, 255, 0, 0, 255, 255, 255};
 
@@ -30,22 +30,14 @@ inline Bytes GifFrame(std::uint32_t left, std::uint32_t top, std::uint32_t width
     return Bytes{0x2C}.U16(left).U16(top).U16(width).U16(height).Add({flags});
 }
 
-/// Indices of two bits, coded in three bits each: after every second one the code table is cleared,
-/// so that codes never grow longer. `blockLength` bytes make a block.
-inline Bytes GifPixels(const std::vector<int>& indices, std::size_t blockLength = 255)
+/// Codes of one more bit than a pixel has, in blocks of `blockLength` bytes.
+inline Bytes GifCoded(const std::vector<int>& codes, int pixelBits, std::size_t blockLength = 255)
 {
-    constexpr int Clear = 4;
-    constexpr int End = 5;
-    std::vector<int> codes;
-    for (std::size_t i = 0; i < indices.size(); ++i) {
-        if (i % 2 == 0) codes.push_back(Clear);
-        codes.push_back(indices[i]);
-    }
-    codes.push_back(End);
-    std::vector<int> packed(codes.size() * 3 / 8 + 1);
-    for (std::size_t i = 0; i < codes.size() * 3; ++i)
-        if ((codes[i / 3] >> i % 3 & 1) != 0) packed[i / 8] |= 1 << i % 8;
-    Bytes data{2};
+    const auto bits = static_cast<std::size_t>(pixelBits) + 1;
+    std::vector<int> packed(codes.size() * bits / 8 + 1);
+    for (std::size_t i = 0; i < codes.size() * bits; ++i)
+        if ((codes[i / bits] >> i % bits & 1) != 0) packed[i / 8] |= 1 << i % 8;
+    Bytes data{pixelBits};
     for (std::size_t i = 0; i < packed.size(); i += blockLength) {
         const std::size_t count = std::min(blockLength, packed.size() - i);
         data.Add({static_cast<int>(count)});
@@ -55,6 +47,39 @@ inline Bytes GifPixels(const std::vector<int>& indices, std::size_t blockLength 
     return data.Add({0});
 }
 
+/// Indices of so many bits each: after every second one the code table is cleared, so that codes
+/// never grow longer.
+inline Bytes GifPixels(const std::vector<int>& indices, std::size_t blockLength = 255,
+                       int pixelBits = 2)
+{
+    const int clear = 1 << pixelBits;
+    std::vector<int> codes;
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+        if (i % 2 == 0) codes.push_back(clear);
+        codes.push_back(indices[i]);
+    }
+    codes.push_back(clear + 1);
+    return GifCoded(codes, pixelBits, blockLength);
+}
+
 inline const Bytes GifEnd{0x3B};
+
+namespace gif {
+
+inline constexpr Colour A = GifColours[0];
+inline constexpr Colour B = GifColours[1];
+inline constexpr Colour C = GifColours[2];
+inline constexpr Colour D = GifColours[3];
+inline constexpr Colour Hole = Background;
+
+inline Bytes File(std::initializer_list<Bytes> pieces)
+{
+    Bytes file;
+    for (const Bytes& piece : pieces)
+        file.Add(piece);
+    return file;
+}
+
+}  // namespace gif
 
 }  // namespace pixano::test

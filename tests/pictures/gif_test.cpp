@@ -8,20 +8,6 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr Colour A = GifColours[0];
-constexpr Colour B = GifColours[1];
-constexpr Colour C = GifColours[2];
-constexpr Colour D = GifColours[3];
-constexpr Colour Hole = Background;
-
-Bytes File(std::initializer_list<Bytes> pieces)
-{
-    Bytes file;
-    for (const Bytes& piece : pieces)
-        file.Add(piece);
-    return file;
-}
-
 TEST(Gif, AFrameThatFillsTheScreen)
 {
     EXPECT_EQ(ReadColours(File(
@@ -110,16 +96,6 @@ TEST(Gif, AScreenWithoutSizeTakesItsFrames)
 {
     EXPECT_EQ(ReadColours(File({GifScreen(0, 0), GifFrame(5, 5, 2, 1), GifPixels({1, 2}), GifEnd})),
               (Colours{B, C}));
-    EXPECT_THAT(File({GifScreen(0, 0), GifFrame(0, 0, 0, 0), GifPixels({}), GifEnd}).Refusal(),
-                HasSubstr("le dimensioni dell'immagine non sono valide (0 x 0)"));
-}
-
-TEST(Gif, AFrameWithoutSizeLeavesTheBackground)
-{
-    EXPECT_EQ(ReadColours(File({GifScreen(1, 2), GifFrame(0, 0, 0, 2), GifPixels({}), GifEnd})),
-              (Colours{Hole, Hole}));
-    EXPECT_EQ(ReadColours(File({GifScreen(1, 2), GifFrame(0, 0, 2, 0), GifPixels({}), GifEnd})),
-              (Colours{Hole, Hole}));
 }
 
 TEST(Gif, ACutFileShowsEveryPixelThatItHas)
@@ -161,26 +137,6 @@ TEST(Gif, TheMarkOfTheEndBeforeTheLastPixel)
         File({GifScreen(2, 1), GifFrame(0, 0, 2, 1), GifPixels({1}), GifEnd}).Read();
     EXPECT_TRUE(read.truncated);
     EXPECT_EQ(ColoursOf(read.picture), (Colours{B, Hole}));
-}
-
-TEST(Gif, BeforeThePixelsADamagedFileIsRefused)
-{
-    const Bytes whole =
-        File({GifScreen(2, 2), GifTransparency(1), GifFrame(0, 0, 2, 2), GifPixels({0, 1, 2, 3})});
-    const std::size_t head = 13 + 12 + 8 + 10;
-    for (std::size_t size = 4; size <= head; ++size)
-        EXPECT_THAT(whole.Without(whole.Size() - size).Refusal(),
-                    HasSubstr("il file GIF è danneggiato"))
-            << size;
-    EXPECT_THAT(File({GifScreen(2, 2), {0x55}}).Refusal(), HasSubstr("danneggiato"));
-    EXPECT_THAT(File({GifScreen(2, 2), GifFrame(0, 0, 2, 2), {9, 1, 0, 0}}).Refusal(),
-                HasSubstr("danneggiato"));
-}
-
-TEST(Gif, NoFrameAtAll)
-{
-    EXPECT_THAT(File({GifScreen(2, 2), GifEnd}).Refusal(),
-                HasSubstr("non contiene nessuna immagine"));
 }
 
 TEST(Gif, SizesBeyondTheBounds)

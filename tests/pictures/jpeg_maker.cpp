@@ -48,11 +48,15 @@ Bytes MakeJpeg(const Surface& surface, const std::function<void(jpeg_compress_st
     return MakeJpeg(plan);
 }
 
-Colours DecodedByLibjpeg(const Bytes& file)
+namespace {
+
+/// All pixels, in the order red, green, blue; `warnings`: how often libjpeg warned.
+Colours Decoded(const Bytes& file, long& warnings)
 {
     jpeg_decompress_struct jpeg{};
     jpeg_error_mgr errors{};
     jpeg.err = jpeg_std_error(&errors);
+    errors.output_message = [](j_common_ptr) {};
     jpeg_create_decompress(&jpeg);
     jpeg_mem_src(&jpeg, reinterpret_cast<const unsigned char*>(file.Vector().data()), file.Size());
     jpeg_read_header(&jpeg, TRUE);
@@ -66,9 +70,24 @@ Colours DecodedByLibjpeg(const Bytes& file)
         for (std::size_t i = 0; i < row.size(); i += 3)
             colours.push_back(Rgb(row[i], row[i + 1], row[i + 2]));
     }
-    jpeg_finish_decompress(&jpeg);
     jpeg_destroy_decompress(&jpeg);
+    warnings = errors.num_warnings;
     return colours;
+}
+
+}  // namespace
+
+Colours DecodedByLibjpeg(const Bytes& file)
+{
+    long warnings = 0;
+    return Decoded(file, warnings);
+}
+
+long WarningsOfLibjpeg(const Bytes& file)
+{
+    long warnings = 0;
+    Decoded(file, warnings);
+    return warnings;
 }
 
 Surface Shaded(int width, int height)
@@ -115,6 +134,22 @@ Bytes WithScans(int width, int height, int scans)
     for (int i = 1; i < scans; ++i)
         bytes.insert(bytes.end(), scan.begin(), scan.end());
     return file.Add({0xFF, 0xD9});
+}
+
+Bytes InScans(int width, int height, int scans)
+{
+    constexpr int Finest = 10;
+    std::vector<jpeg_scan_info> script{{1, {0}, 0, 0, 0, 0}};
+    for (int pattern = 1; pattern < DCTSIZE2; ++pattern)
+        for (int bit = Finest; bit >= 0; --bit)
+            script.push_back({1, {0}, pattern, pattern, bit == Finest ? 0 : bit + 1, bit});
+    JpegPlan plan{.width = width, .height = height, .space = JCS_GRAYSCALE};
+    plan.samples.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 77);
+    plan.set = [&](jpeg_compress_struct& jpeg) {
+        jpeg.scan_info = script.data();
+        jpeg.num_scans = scans;
+    };
+    return MakeJpeg(plan);
 }
 
 }  // namespace pixano::test

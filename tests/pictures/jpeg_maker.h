@@ -40,8 +40,15 @@ Bytes WithSides(Bytes file, int width, int height);
 /// pixels again and changes none, comes `scans` times: a script may name each bit only once.
 Bytes WithScans(int width, int height, int scans);
 
+/// A sound progressive grey file (77 everywhere) of so many scans, 700 at most: one for all light,
+/// and one for each bit of each of its 63 patterns.
+Bytes InScans(int width, int height, int scans);
+
 /// The pixels that libjpeg gives in the order red, green, blue.
 Colours DecodedByLibjpeg(const Bytes& file);
+
+/// How often libjpeg warns of damage while it reads the pixels.
+long WarningsOfLibjpeg(const Bytes& file);
 
 /// A picture with gentle colours all over, so that nothing in it is like anything else.
 Surface Shaded(int width, int height);

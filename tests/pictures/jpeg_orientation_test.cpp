@@ -10,20 +10,24 @@ namespace {
 
 enum class Order { Intel, Motorola };
 
+constexpr std::uint32_t Short = 3;
+constexpr std::uint32_t Long = 4;
+
 /// An Exif block with one directory of one entry.
 Bytes Exif(std::uint32_t tag, std::uint32_t type, std::uint32_t value, Order order = Order::Intel)
 {
     Bytes block = Bytes().Add("Exif").Zeros(2);
     if (order == Order::Intel)
-        return block.Add("II").U16(42).U32(8).U16(1).U16(tag).U16(type).U32(1).U16(value).Zeros(6);
+        return block.Add("II").U16(42).U32(8).U16(1).U16(tag).U16(type).U32(1).U32(value).Zeros(4);
     const auto swapped = [](std::uint32_t n) { return (n & 255) << 8 | n >> 8; };
     block.Add("MM").Add({0, 42, 0, 0, 0, 8, 0, 1}).U16(swapped(tag)).U16(swapped(type));
-    return block.Add({0, 0, 0, 1}).U16(swapped(value)).Zeros(6);
+    block.Add({0, 0, 0, 1}).Zeros(type == Long ? 2 : 0);
+    return block.U16(swapped(value)).Zeros(type == Long ? 4 : 6);
 }
 
 Bytes Orientation(std::uint32_t value)
 {
-    return Exif(0x0112, 3, value);
+    return Exif(0x0112, Short, value);
 }
 
 /// Four blocks of 8 by 8 pixels in each of two rows, each of one grey, which libjpeg keeps exactly:
@@ -82,8 +86,10 @@ TEST(JpegOrientation, AllEight)
         Rows{"48", "37", "26", "15"},  // left, bottom
     };
     for (std::uint32_t value = 1; value <= 8; ++value) {
-        EXPECT_EQ(Upright({Orientation(value)}), expected[value - 1]) << value;
-        EXPECT_EQ(Upright({Exif(0x0112, 3, value, Order::Motorola)}), expected[value - 1]) << value;
+        for (const std::uint32_t type : {Short, Long})
+            for (const Order order : {Order::Intel, Order::Motorola})
+                EXPECT_EQ(Upright({Exif(0x0112, type, value, order)}), expected[value - 1])
+                    << value << " of type " << type;
     }
 }
 
@@ -122,13 +128,15 @@ TEST(JpegOrientation, OtherSegmentsAndEntriesAreNoOrientation)
     EXPECT_EQ(Upright({other, Orientation(2)}), (Rows{"4321", "8765"}));
     EXPECT_EQ(Upright({Orientation(2), Orientation(3)}), (Rows{"4321", "8765"}));
     EXPECT_EQ(Upright({Exif(0x0100, 3, 6)}), AsStored);
-    EXPECT_EQ(Upright({Exif(0x0112, 4, 6)}), AsStored);
+    EXPECT_EQ(Upright({Exif(0x0112, 2, 6)}), AsStored);
 }
 
 TEST(JpegOrientation, ValuesThatAreNone)
 {
     for (const std::uint32_t value : {0U, 9U, 255U, 256U, 0xFFFFU})
         EXPECT_EQ(Upright({Orientation(value)}), AsStored) << value;
+    for (const std::uint32_t value : {0U, 9U, 0x10006U, 0xFFFFFFFFU})
+        EXPECT_EQ(Upright({Exif(0x0112, Long, value)}), AsStored) << value;
 }
 
 TEST(JpegOrientation, BlocksThatMakeNoSense)

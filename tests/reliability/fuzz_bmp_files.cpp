@@ -42,6 +42,9 @@ void AddPlain(std::vector<Bytes>& files)
     for (const unsigned bits : {16U, 24U, 32U})
         for (const int height : {8, -8})
             files.push_back(Plain({.width = 11, .height = height, .bits = bits}, {}));
+    files.push_back(
+        Plain({.width = 6, .height = 3, .bits = 8, .colours = 5, .offset = 54}, Noise(20)));
+    files.push_back(Plain({.width = 6, .height = 3, .offset = 0}, {}));
     files.push_back(Plain({.size = 12, .width = 5, .height = 4, .bits = 24}, {}));
     files.push_back(Plain({.size = 64, .width = 5, .height = 4, .bits = 24}, Bytes().Zeros(24)));
 }

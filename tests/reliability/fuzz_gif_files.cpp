@@ -55,6 +55,28 @@ Bytes Coded(int width, int height)
     return file;
 }
 
+/// Frames without pixels before one whose pixels take many bits.
+Bytes Wide(int pixelBits)
+{
+    return GifScreen(7, 3)
+        .Add(GifTransparency(1))
+        .Add(GifFrame(0, 0, 0, 3, 0x81))
+        .Add(GifTable)
+        .Add(GifPixels({1, 2}))
+        .Add(GifFrame(0, 0, 7, 0))
+        .Add(GifPixels({}))
+        .Add(GifFrame(0, 0, 7, 3))
+        .Add(GifPixels(Indices(21), 9, pixelBits))
+        .Add(GifEnd);
+}
+
+void AddDamaged(std::vector<Bytes>& files)
+{
+    const Bytes frame = Frame(0, 0, 9, 7, 0);
+    files.push_back(GifScreen(9, 7).Add({0, 99, 0}).Add(frame).Add(GifEnd));
+    files.push_back(GifScreen(9, 7).Add(GifFrame(0, 0, 9, 7)).Add(GifCoded({4, 1, 6, 7}, 2)));
+}
+
 }  // namespace
 
 std::vector<Bytes> GifFiles()
@@ -77,6 +99,9 @@ std::vector<Bytes> GifFiles()
     files.push_back(GifScreen(0, 0).Add(Frame(5, 5, 6, 5, 0)).Add(GifEnd));
     files.push_back(Coded(60, 50));
     files.push_back(Coded(8, 8));
+    files.push_back(Wide(9));
+    files.push_back(Wide(11));
+    AddDamaged(files);
     return files;
 }
 

@@ -3,6 +3,9 @@
 #include "pictures/jpeg_maker.h"
 #include "reliability/fuzz_kinds.h"
 
+#include <algorithm>
+#include <array>
+
 namespace pixano::test {
 namespace {
 
@@ -39,8 +42,26 @@ void Restarting(jpeg_compress_struct& jpeg)
 
 void Arithmetic(jpeg_compress_struct& jpeg)
 {
+    Coarse(jpeg);
+    jpeg.arith_code = TRUE;
+}
+
+void ArithmeticRestarting(jpeg_compress_struct& jpeg)
+{
+    Arithmetic(jpeg);
+    jpeg.restart_interval = 2;
+}
+
+void ArithmeticProgressive(jpeg_compress_struct& jpeg)
+{
     CoarseProgressive(jpeg);
     jpeg.arith_code = TRUE;
+}
+
+void WithoutAdobesMark(jpeg_compress_struct& jpeg)
+{
+    Coarse(jpeg);
+    jpeg.write_Adobe_marker = FALSE;
 }
 
 void OneScanForEachColour(jpeg_compress_struct& jpeg)
@@ -51,14 +72,14 @@ void OneScanForEachColour(jpeg_compress_struct& jpeg)
     jpeg.num_scans = 3;
 }
 
-/// An Exif block that turns the picture a quarter, and a block of another kind.
+/// An Exif block that turns the picture a quarter, by a long number, and a block of another kind.
 void WriteExif(jpeg_compress_struct& jpeg)
 {
     const Bytes exif = Bytes()
                            .Add(std::string_view("Exif\0\0II*\0\x08\0\0\0", 14))
                            .U16(1)
                            .U16(0x0112)
-                           .U16(3)
+                           .U16(4)
                            .U32(1)
                            .U32(6)
                            .U32(0);
@@ -76,14 +97,29 @@ Bytes OtherColours(J_COLOR_SPACE space, std::size_t components, const Set& set)
     return MakeJpeg(plan);
 }
 
+/// A file that is cut, one that has lost a restart marker, and one that begins with too much.
+void AddDamaged(const Surface& picture, std::vector<Bytes>& files)
+{
+    files.push_back(MakeJpeg(picture, Arithmetic).Without(90));
+    Bytes lost = MakeJpeg(picture, Restarting);
+    std::vector<std::byte>& bytes = lost.Vector();
+    constexpr std::array Marker{std::byte{0xFF}, std::byte{0xD0}};
+    const auto found = std::search(bytes.begin(), bytes.end(), Marker.begin(), Marker.end());
+    bytes.erase(found, found + 2);
+    files.push_back(lost);
+    files.push_back(MakeJpeg(picture, Coarse));
+    files.back().Vector().insert(files.back().Vector().begin() + 2, std::byte{0x20});
+}
+
 }  // namespace
 
 std::vector<Bytes> JpegFiles()
 {
     const Surface picture = Shaded(37, 26);
     std::vector<Bytes> files;
-    for (const auto set : {Coarse, CoarseProgressive, Halved, HalvedProgressive, Restarting,
-                           Arithmetic, OneScanForEachColour})
+    for (const auto set :
+         {Coarse, CoarseProgressive, Halved, HalvedProgressive, Restarting, Arithmetic,
+          ArithmeticRestarting, ArithmeticProgressive, OneScanForEachColour})
         files.push_back(MakeJpeg(picture, set));
     for (const auto set : {Coarse, CoarseProgressive}) {
         files.push_back(MakeJpeg(picture, set, WriteExif));
@@ -94,6 +130,9 @@ std::vector<Bytes> JpegFiles()
             jpeg_set_colorspace(&jpeg, JCS_YCCK);
         }));
     }
+    files.push_back(OtherColours(JCS_CMYK, 4, WithoutAdobesMark));
+    files.push_back(InScans(16, 16, 40));
+    AddDamaged(picture, files);
     return files;
 }
 

@@ -51,6 +51,17 @@ TEST_F(Program, OpensAPictureDroppedBesideThePictureInTheCanvasWindow)
     EXPECT_EQ(CanvasCaption(), "b.bmp   2x1");
 }
 
+TEST_F(Program, OpensADroppedPictureWhoseNameIsNoUtf8)
+{
+    const std::string picture = Path("m").toStdString() + "\xE0re.bmp";
+    SaveBitmap(Drawn({"abc"}), picture);
+    const QUrl url = QUrl::fromEncoded("file://" + Path("m").toUtf8() + "%E0re.bmp");
+    EXPECT_TRUE(Drop(session.form1, {url}));
+    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+    EXPECT_TRUE(dialogs.told.empty());
+    std::filesystem::remove(picture);
+}
+
 TEST_F(Program, AsksAboutUnsavedChangesBeforeADroppedPictureIsOpened)
 {
     Open("a.bmp", Drawn({"abc"}));

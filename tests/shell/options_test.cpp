@@ -1,6 +1,7 @@
 // The command line of the windowed program: what is understood, and what the real program answers
 // to what is not.
 #include "shell/options.h"
+#include "windows/file_names.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -8,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 namespace pixano::test {
@@ -54,6 +56,19 @@ TEST(ProgramOptions, TakeAFileUrlForAPath)
     EXPECT_EQ(PictureIn({"file:///tmp/due%20parole%20perch%C3%A9.bmp"}),
               "/tmp/due parole perch\xC3\xA9.bmp");
     EXPECT_EQ(PictureIn({"FILE:///tmp/a.bmp"}), "/tmp/a.bmp");
+}
+
+TEST(ProgramOptions, LoseNoByteOfAName)
+{
+    for (const auto& [argument, picture] :
+         {std::pair("/tmp/perch\xE8 \xC3\xA9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"),
+          {"file:///tmp/perch%E8%20%C3%A9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"},
+          {"file:///tmp/perch\xE8 \xC3\xA9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"}}) {
+        const std::array arguments{"pixano", "--", argument};
+        const std::optional<Options> options = OptionsFrom(ArgumentsOf(3, arguments.data()));
+        ASSERT_TRUE(options);
+        EXPECT_EQ(FileBytes(options->picture), picture);
+    }
 }
 
 TEST(ProgramOptions, TakeEveryOtherAddressForAName)

@@ -2,6 +2,7 @@
 // folder it works, which strengths it takes there.
 #include "shell/program.h"
 #include "support/program.h"
+#include "windows/file_names.h"
 
 #include <QStandardPaths>
 
@@ -73,6 +74,19 @@ TEST_F(Starting, OpensThePictureThatAFileUrlNames)
         RunWith({QUrl::fromLocalFile(path).toEncoded()}, [&] { opened = session.doc.FileAperto; }),
         0);
     EXPECT_EQ(opened, path);
+}
+
+TEST_F(Starting, OpensAPictureWhoseNameAndFolderAreNoUtf8)
+{
+    const std::string folder = FileBytes(CurrentFolder()) + "/caff\xE8";
+    std::filesystem::create_directory(folder);
+    GoToFolder(FileName(folder));
+    SaveBitmap(Drawn({"abc"}), folder + "/m\xE0re.bmp");
+    Letters seen;
+    EXPECT_EQ(RunWith({FileName("m\xE0re.bmp")}, [&] { seen = CanvasLetters(); }), 0);
+    EXPECT_EQ(seen, (Letters{"abc"}));
+    EXPECT_EQ(BytesOf(folder + "/percors.dat"), '"' + folder + "/m\xE0re.bmp\"\r\n");
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(Starting, TellsThatThePictureDoesNotExistAndStays)

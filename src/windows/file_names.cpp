@@ -1,0 +1,88 @@
+#include "windows/file_names.h"
+
+#include <array>
+#include <climits>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace pixano {
+namespace {
+
+constexpr char16_t FirstEscape = 0xDC00;
+
+/// The character that the bytes begin with, and how many they are; empty where they are no UTF-8.
+std::pair<QString, std::size_t> FirstCharacter(std::string_view bytes)
+{
+    constexpr std::size_t Longest = 4;
+    for (std::size_t length = 1; length <= std::min(Longest, bytes.size()); ++length) {
+        const std::string_view piece = bytes.substr(0, length);
+        QString text = QString::fromUtf8(piece.data(), static_cast<qsizetype>(length));
+        if (text.toUtf8() == QByteArrayView(piece)) return {std::move(text), length};
+    }
+    return {};
+}
+
+}  // namespace
+
+QString FileName(std::string_view bytes)
+{
+    QString whole = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    if (!whole.contains(QChar::ReplacementCharacter)) return whole;
+    QString name;
+    while (!bytes.empty()) {
+        const auto [text, length] = FirstCharacter(bytes);
+        if (length > 0)
+            name += text;
+        else
+            name += QChar(FirstEscape | static_cast<unsigned char>(bytes.front()));
+        bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return name;
+}
+
+std::string FileBytes(const QString& name)
+{
+    std::string bytes;
+    qsizetype done = 0;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const bool paired = i > 0 && name.at(i - 1).isHighSurrogate();
+        if (!name.at(i).isLowSurrogate() || paired) continue;
+        bytes += QStringView(name).sliced(done, i - done).toUtf8().toStdString();
+        bytes += static_cast<char>(name.at(i).unicode() & 0xFF);
+        done = i + 1;
+    }
+    return bytes + QStringView(name).sliced(done).toUtf8().toStdString();
+}
+
+QString LocalFile(const QUrl& url)
+{
+    if (!url.isLocalFile() || !url.host().isEmpty()) return url.toLocalFile();
+    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
+    return FileName(QByteArray::fromPercentEncoding(encoded).toStdString());
+}
+
+bool FileExists(const QString& name)
+{
+    struct stat status {};
+    return stat(FileBytes(name).c_str(), &status) == 0;
+}
+
+QString CurrentFolder()
+{
+    std::array<char, PATH_MAX> path{};
+    return getcwd(path.data(), path.size()) != nullptr ? FileName(path.data()) : QString();
+}
+
+QString AbsolutePath(const QString& name)
+{
+    return name.startsWith('/') ? name : CurrentFolder() + '/' + name;
+}
+
+void GoToFolder(const QString& name)
+{
+    // Where the folder is gone there is no other to go to.
+    [[maybe_unused]] const int result = chdir(FileBytes(name).c_str());
+}
+
+}  // namespace pixano
