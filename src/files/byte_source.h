@@ -21,6 +21,7 @@ class ByteSource {
     /// `most` bytes are an error, EFBIG.
     static ByteSource Stream(int descriptor, std::uint64_t most);
 
+    bool IsStream() const { return isStream_; }
     std::uint64_t Position() const { return windowEnd_ - window_.size(); }
     /// Whether there is no further byte.
     bool AtEnd() noexcept { return window_.empty() && !Refill(); }

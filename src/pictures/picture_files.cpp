@@ -47,7 +47,8 @@ PictureRead Decode(ByteSource& source)
     try {
         PictureRead read = DecodeByContent(source);
         if (source.Error() == 0) {
-            read.profile = ProfileIn(source);
+            // A stream does not come back to what lies before the pixels.
+            if (!source.IsStream()) read.profile = ProfileIn(source);
             return read;
         }
     } catch (const Refusal&) {

@@ -15,7 +15,8 @@ struct PictureRead {
     /// block that is there are grey; a progressive one may just be coarse; where the data makes no
     /// sense, pixels are as libjpeg repairs them.)
     bool truncated = false;
-    /// The colour profile (ICC) that the file carries for red, green and blue; empty without one.
+    /// The colour profile (ICC) that the file carries for red, green and blue; empty without one
+    /// and where the picture came as a stream.
     std::vector<std::byte> profile{};
 };
 
