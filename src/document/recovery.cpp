@@ -58,7 +58,7 @@ QString KeepRemains(const QString& copy)
         const QString aside = AsideName(DataFolder());
         if (QFile::rename(path, aside)) kept += aside;
     }
-    return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n" + kept.join('\n');
+    return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n«" + kept.join("»\n«") + "».";
 }
 
 void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QString& copy)
