@@ -196,7 +196,7 @@ TEST_F(AnyScreen, HoldsAMessageAboutAFileWithALongName)
     WhileShown<QMessageBox>([&](QMessageBox& box) {
         ExpectOnScreen(box);
         EXPECT_EQ(box.text(), text);
-        const auto* const shown = box.findChild<WrappedText*>("WrappedText");
+        auto* const shown = box.findChild<WrappedText*>("WrappedText");
         ASSERT_NE(shown, nullptr);
         EXPECT_TRUE(shown->isVisible());
         EXPECT_EQ(shown->accessibleName(), text);
