@@ -97,12 +97,16 @@ class EveryFailure : public testing::TestWithParam<GivenCommand> {
 
 TEST_P(EveryFailure, LeavesTheDocumentTrueAndNothingLost)
 {
+    long all = 0;
+    long tried = 0;
     static long number = qEnvironmentVariableIntValue("PIXANO_SEED");
     const GivenCommand& command = GetParam();
     for (const Scene scene : command.scenes) {
         const long calls = Trial(command, scene).Give({0, 0, EIO});
         for (const Failure& failure : EachInTurn(calls)) {
+            ++all;
             if (++number % Stride() != 0) continue;
+            ++tried;
             SCOPED_TRACE("scene " + std::to_string(static_cast<int>(scene)) + ", call " +
                          std::to_string(failure.first) + " of " + std::to_string(calls) +
                          (failure.last == failure.first ? " alone" : " and all that follow") +
@@ -110,6 +114,8 @@ TEST_P(EveryFailure, LeavesTheDocumentTrueAndNothingLost)
             Trial(command, scene).Give(failure);
         }
     }
+    RecordProperty("all", std::to_string(all));
+    RecordProperty("tried", std::to_string(tried));
 }
 
 std::string NameOfCommand(const testing::TestParamInfo<GivenCommand>& info)
