@@ -75,7 +75,7 @@ void OpenFirst(Session& s, const QString& picture)
 {
     if (s.doc.Modificato == 1)
         s.dialogs.Tell(BoxIcon::None, title::Notice,
-                       "La figura recuperata non è ancora salvata. Prima di aprire «" + picture +
+                       "L'immagine recuperata non è ancora salvata. Prima di aprire «" + picture +
                            "» Pixano chiede che cosa farne.");
     OpenNamed(s, picture);
 }

@@ -65,7 +65,14 @@ bool IsFinished(const GivenCommand& command, const Before& before, const Desk& d
 void ExpectNothingLost(const GivenCommand& command, const Before& before, Desk& desk)
 {
     const Surface& canvas = desk.Canvas();
-    if (desk.session.ending || !IsUnsaved(desk)) return;
+    if (desk.session.ending) {
+        // By an error, with work unsaved: the user knows where it is, or that it is nowhere.
+        EXPECT_TRUE(desk.session.doc.Modificato == 0 || IsKept(canvas, desk) ||
+                    IsKept(before.whole, desk) || AllTold(desk).contains("non è stato conservato"))
+            << AllTold(desk).toStdString();
+        return;
+    }
+    if (!IsUnsaved(desk)) return;
     const bool whole =
         command.effect != nullptr ? IsFinished(command, before, desk) : !command.halfDrawn;
     EXPECT_EQ(desk.session.doc.Modificato, whole || before.modified == 1 ? 1 : 0);

@@ -143,7 +143,7 @@ TEST_F(Starting, TellsWhyItAsksBeforeThePictureThatIsNamedReplacesTheOneBroughtB
     RunWith({"b.bmp"}, [&] { told = dialogs.told; });
     EXPECT_EQ(told, (std::vector<ShownBox>{
                         {BoxIcon::None, "Avviso!",
-                         "La figura recuperata non è ancora salvata. Prima di aprire «" +
+                         "L'immagine recuperata non è ancora salvata. Prima di aprire «" +
                              Path("b.bmp") + "» Pixano chiede che cosa farne."}}));
     EXPECT_EQ(dialogs.asked.size(), 2U);
 }
