@@ -249,7 +249,7 @@ TEST_F(Tool, FailsWhenStandardOutputIsAFileOverTheSizeLimit)
     const Ran ran =
         RunProgram({"sh", "-c", "ulimit -f 8; exec \"$0\" -o - a.bmp > b.bmp", program}, Folder());
     EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err, HasSubstr("il file supera la grandezza concessa"));
+    EXPECT_THAT(ran.err, HasSubstr("il file supera la dimensione consentita"));
 }
 
 TEST_F(Tool, ReadsNothingBehindTheEndOfStandardInput)

@@ -84,7 +84,7 @@ std::vector<Failure> EachInTurn(long calls)
 /// Each command has its own part in the short form, so that together they try every place.
 long Stride()
 {
-    constexpr long Short = 173;
+    constexpr long Short = 127;
     return qEnvironmentVariableIntValue("PIXANO_LONG") == 1 ? 1 : Short;
 }
 
