@@ -106,5 +106,31 @@ TEST_F(Noted, DeletesNoPictureOfTheUsers)
     EXPECT_EQ(Bytes("mia.bmp"), before);
 }
 
+TEST_F(Noted, IsWithAllThatIsKeptTheUsersOwnThoughTheFolderWasOpenToAll)
+{
+    const std::string folder = Data("").chopped(1).toStdString();
+    ASSERT_EQ(chmod(folder.c_str(), 0755), 0);
+    QDir().mkdir("elabor.tmp");
+    Apply("Specchio");
+    Apply("Capovolgi");
+    ClickEntry(entry::Undo);
+    SpyAction() = [](Work&) { throw Fault(FaultKind::SubscriptOutOfRange); };
+    Effect ends = Spy();
+    ends.fatal = Fatal::Index;
+    RunInFrame(ends);
+    EXPECT_EQ(session.ending, 1);
+    NextStart(false);
+    const auto modeOf = [](const std::string& path) {
+        struct stat status {};
+        EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+        return status.st_mode & 0777;
+    };
+    EXPECT_EQ(modeOf(folder), 0700U);
+    const QStringList kept = QDir(Data("")).entryList(QDir::Files | QDir::Hidden);
+    EXPECT_THAT(kept.join(' ').toStdString(), testing::ContainsRegex("lavoro-.*recupero-"));
+    for (const QString& name : kept)
+        EXPECT_EQ(modeOf(Data(name).toStdString()), 0600U) << name.toStdString();
+}
+
 }  // namespace
 }  // namespace pixano::test

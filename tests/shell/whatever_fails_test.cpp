@@ -1,5 +1,5 @@
-// What stays true when a step of a command fails: the picture counts, the next start finds it, the
-// user sees what is, and nobody else reads what was kept.
+// What stays true when a step of a command fails: the picture counts, the next start finds it, and
+// the user sees what is.
 #include "document/recovery.h"
 #include "document/recovery_note.h"
 #include "shell/spy_effect.h"
@@ -204,34 +204,6 @@ TEST_F(WhateverFails, TheCanvasIsPaintedBeforeTheBoxOpens)
     ClickEntry(entry::Undo);
     EXPECT_EQ(dialogs.told.size(), 2U);
     EXPECT_TRUE(painted) << "a step back, of which the disk is told";
-}
-
-TEST_F(WhateverFails, WhatIsKeptIsTheUsersOwnThoughTheFolderWasOpenToAll)
-{
-    const std::string folder = Data("").chopped(1).toStdString();
-    ASSERT_EQ(chmod(folder.c_str(), 0755), 0);
-    QDir().mkdir("elabor.tmp");
-    Apply("Specchio");
-    Apply("Capovolgi");
-    ClickEntry(entry::Undo);
-    SpyAction() = [](Work&) { throw Fault(FaultKind::SubscriptOutOfRange); };
-    Effect ends = Spy();
-    ends.fatal = Fatal::Index;
-    RunInFrame(ends);
-    EXPECT_EQ(session.ending, 1);
-    Desk next;
-    next.dialogs.answers.push_back(false);
-    OfferRecovery(next.session);
-    const auto modeOf = [](const std::string& path) {
-        struct stat status {};
-        EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-        return status.st_mode & 0777;
-    };
-    EXPECT_EQ(modeOf(folder), 0700U);
-    const QStringList kept = QDir(Data("")).entryList(QDir::Files | QDir::Hidden);
-    EXPECT_THAT(kept.join(' ').toStdString(), testing::ContainsRegex("lavoro-.*recupero-"));
-    for (const QString& name : kept)
-        EXPECT_EQ(modeOf(Data(name).toStdString()), 0600U) << name.toStdString();
 }
 
 }  // namespace
