@@ -30,6 +30,14 @@ QString AsideName(const QString& folder)
     return name;
 }
 
+/// Whether the program itself has written the file, so that it may delete or rename it. A note may
+/// have been changed to name any other.
+bool IsOurs(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.fileName() == file::PreviewCopy || QDir(file.path()) == QDir(DataFolder());
+}
+
 /// Puts the picture into a file of its own in the data folder; the path. The copy goes only when
 /// the file is complete and the note is gone, so that whenever the program ends one of them is
 /// left, and is either noted or named to the user.
@@ -39,9 +47,10 @@ QString PutAside(const QString& copy, const Surface& picture)
         QString aside = AsideName(DataFolder());
         SavePrivateBitmap(picture, FileBytes(aside));
         RemoveRecoveryNote();
-        unlink(FileBytes(copy).c_str());
+        if (IsOurs(copy)) unlink(FileBytes(copy).c_str());
         return aside;
     } catch (const PictureError&) {
+        if (!IsOurs(copy)) return copy;
         // A full disk has no room for a second picture, but it has for a name.
         const QString beside = AsideName(QFileInfo(copy).path());
         return QFile::rename(copy, beside) ? beside : copy;
@@ -54,11 +63,12 @@ QString KeepRemains(const QString& copy)
     QStringList kept;
     for (const QString& path : {copy, NativePath(file::Undo), NativePath(file::Redo)}) {
         const QFileInfo remains(path);
-        if (!remains.isFile() || remains.isSymLink() || remains.size() == 0) continue;
+        if (!IsOurs(path) || !remains.isFile() || remains.isSymLink() || remains.size() == 0)
+            continue;
         const QString aside = AsideName(DataFolder());
         if (QFile::rename(path, aside)) kept += aside;
     }
-    return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n" + kept.join('\n');
+    return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n«" + kept.join("»\n«") + "».";
 }
 
 void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QString& copy)

@@ -46,6 +46,8 @@ struct Session {
     bool drawing = false;
     /// What the command that runs has to tell when it is done: Italian sentences.
     QStringList remarks;
+    /// A run-time error is among them.
+    bool failed = false;
     /// The picture that "Ripristina" goes forward to, where its file could not be written.
     std::optional<Surface> redoPicture;
     /// The status that the program ends with, once it is to end.

@@ -127,6 +127,8 @@ void AtomicFile::MakeNamed(unsigned permissions)
     temporary_.clear();
     if (errno == EACCES || errno == EPERM)
         throw Refusal("manca il permesso di scrivere nella cartella");
+    // An open folder may have been deleted.
+    if (errno == ENOENT) throw Refusal("la cartella non esiste");
     throw Refusal(errno);
 }
 

@@ -64,6 +64,11 @@ void RunEffect(Session& s, const Effect& effect)
     FirstFault fault;
     fault.Try([&] { RunOnCanvas(s.work, effect, {before, after}); });
     if (done) Close(s, effect, fault);
+    // What was told before the window was to be shown is nothing that the next one begins with.
+    if (fault && !s.form4.isVisible()) {
+        s.form4.Unload();
+        s.progress.Unloaded();
+    }
     fault.Throw();
 }
 

@@ -69,6 +69,17 @@ void RemoveUnfinishedFiles(const QString& folder)
         QFile::remove(files.filePath(name));
 }
 
+/// Opens the picture that the program was started with. What was brought back is unsaved: the
+/// question what is to become of it would come as a surprise to somebody who has done nothing yet.
+void OpenFirst(Session& s, const QString& picture)
+{
+    if (s.doc.Modificato == 1)
+        s.dialogs.Tell(BoxIcon::None, title::Notice,
+                       "L'immagine recuperata non è ancora salvata. Prima di aprire «" + picture +
+                           "» Pixano chiede che cosa farne.");
+    OpenNamed(s, picture);
+}
+
 int RunSession(Session& session, const Options& options)
 {
     ConnectEvents(session);
@@ -81,7 +92,7 @@ int RunSession(Session& session, const Options& options)
         RunWithinCommand(session, "Recupero", Fatal::None, [&] { OfferRecovery(session); });
     });
     if (!session.ending && !picture.isEmpty())
-        RunCommand(session, "Apri", Fatal::None, [&] { OpenNamed(session, picture); });
+        RunCommand(session, "Apri", Fatal::None, [&] { OpenFirst(session, picture); });
     return session.ending ? *session.ending : QApplication::exec();
 }
 

@@ -77,18 +77,19 @@ void SettlePalette(Session& s)
     s.form10.ShowHourglass(false);
 }
 
+/// An error that does not end the program is told with what else there is to be told, once it is
+/// known what has become of the canvas.
 void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault)
 {
     SettlePalette(s);
-    QString text =
-        "Errore durante il comando \"" + name + "\":\n" + QString::fromUtf8(fault.what()) + '.';
-    const bool ending = EndsProgram(fatal, fault.Kind());
-    if (ending)
-        text += KeepUnsavedWork(s) + "\n\nIl programma termina.";
-    else
-        SecureCanvas(s);
-    Tell(s, BoxIcon::Critical, text);
-    if (!ending) return;
+    const QString sentence =
+        "Errore durante il comando \"" + name + "\":\n" + QString::fromUtf8(fault.what());
+    if (!EndsProgram(fatal, fault.Kind())) {
+        s.remarks.prepend(sentence);
+        s.failed = true;
+        return;
+    }
+    Tell(s, BoxIcon::Critical, sentence + '.' + KeepUnsavedWork(s) + "\n\nIl programma termina.");
     if (s.doc.Modificato == 0) ForgetCanvasCopy(s);
     RemoveNeedlessFiles(s);
     EndProgram(s, 1);
@@ -112,11 +113,11 @@ void RunCommand(Session& s, const QString& name, Fatal fatal, const std::functio
 {
     if (s.busy) return;
     s.busy = true;
-    s.drawing = false;
+    s.drawing = s.failed = false;
     RunWithinCommand(s, name, fatal, command);
     if (!s.ending) SecureCanvas(s);
     s.form2.Picture1().update();
-    if (!s.remarks.isEmpty()) Tell(s, BoxIcon::Exclamation, {});
+    if (!s.remarks.isEmpty()) Tell(s, s.failed ? BoxIcon::Critical : BoxIcon::Exclamation, {});
     s.busy = false;
 }
 

@@ -2,6 +2,7 @@
 
 #include "windows/centred.h"
 #include "windows/free_screen.h"
+#include "windows/wrapped_text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -11,9 +12,11 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace pixano {
 namespace {
@@ -74,11 +77,19 @@ class YesNoBox : public QMessageBox {
     }
 };
 
-/// The text with places, which nobody sees, where a name too long for a line can go on in the next.
-QString Breakable(QString text)
+/// A word that is wider than a line makes the box wider than the screen: then other lines take the
+/// place of the box's own.
+void WrapLongNames(QMessageBox& box)
 {
-    static const QRegularExpression partOfLongName(R"(([^\s/]{24})(?=[^\s/]))");
-    return text.replace(partOfLongName, QStringLiteral(u"\\1\u200b"));
+    constexpr int Comfortable = 500;
+    auto* const own = box.findChild<QLabel*>("qt_msgbox_label");
+    const int width = std::min(Comfortable, LargestInside(box).width() / 2);
+    own->setWordWrap(true);
+    if (own->minimumSizeHint().width() <= width) return;
+    auto* const text = new WrappedText(box.text(), width);
+    delete box.layout()->replaceWidget(own, text);
+    box.layout()->setAlignment(text, Qt::AlignLeft | Qt::AlignVCenter);
+    own->hide();
 }
 
 /// Brings the text close to its icon, and to the edge where there is none: the toolkit leaves the
@@ -109,8 +120,9 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
     box.setWindowTitle(title);
     // A file's name must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
-    box.setText(Breakable(text));
+    box.setText(text);
     PlaceText(box);
+    WrapLongNames(box);
 }
 
 /// The toolkit's own sizes cut the columns off, and are larger than a small screen.

@@ -96,7 +96,7 @@ TEST_F(Tool, FailsWithoutATraceWhenTheDiskIsFull)
     EXPECT_EQ(FileCount(), 2);
 }
 
-TEST_F(Tool, FailsWhenItCannotTellTheCaption)
+TEST_F(Tool, SaysThatItCannotTellTheCaption)
 {
     Draw("a.bmp", {"ab"});
     const Ran ran = RunProgram({"sh", "-c", "\"$0\" -o b.bmp a.bmp >/dev/full", program}, Folder());
@@ -241,6 +241,25 @@ TEST_F(Tool, FailsWhenStandardOutputTakesNoMore)
     const Ran ran = RunProgram({"sh", "-c", "\"$0\" -o - a.bmp >/dev/full", program}, Folder());
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err, StartsWith("pixano-batch: "));
+}
+
+TEST_F(Tool, FailsWhenStandardOutputIsAFileOverTheSizeLimit)
+{
+    Draw("a.bmp", Letters(100, std::string(100, 'a')));
+    const Ran ran =
+        RunProgram({"sh", "-c", "ulimit -f 8; exec \"$0\" -o - a.bmp > b.bmp", program}, Folder());
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("il file supera la dimensione consentita"));
+}
+
+TEST_F(Tool, ReadsNothingBehindTheEndOfStandardInput)
+{
+    Draw("a.bmp", {"abc", "def"});
+    WriteBytes(File("cut.bmp"), Bytes("a.bmp").substr(0, 54 + 12));
+    const Ran ran = Run({"-o", "b.bmp", "-"}, File("cut.bmp"));
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_THAT(ran.err, HasSubstr("attenzione"));
+    EXPECT_EQ(Result("b.bmp"), (Letters{"...", "def"}));
 }
 
 TEST_F(Tool, SaysOnlyWhatMattersWhenSilent)

@@ -158,6 +158,29 @@ TEST_F(Saving, LeavesAProtectedFileAsItWas)
     EXPECT_TRUE(Seen(session) == before);
 }
 
+TEST_F(Saving, AsksAgainWhereNoLetterOfTheNameWouldBeLeft)
+{
+    QDir().mkdir("dest");
+    for (const QString name : {"dest/a.b", "abcd", "dest/.bmp", "dest/x"}) {
+        dialogs.told.clear();
+        dialogs.saveNames = {Path(name), std::nullopt};
+        ClickEntry(entry::Salva);
+        EXPECT_TRUE(dialogs.saveNames.empty());
+        EXPECT_EQ(dialogs.told,
+                  (std::vector<ShownBox>{
+                      {BoxIcon::Exclamation, "Attenzione!",
+                       "Il nome del file «" + Path(name) +
+                           "» è troppo corto: senza gli ultimi quattro caratteri, che lasciano il "
+                           "posto a «.bmp», non ne resta niente."}}));
+    }
+    EXPECT_FALSE(Exists("dest.bmp"));
+    EXPECT_TRUE(QDir("dest").isEmpty());
+    EXPECT_EQ(session.doc.Modificato, 1);
+    // One letter is enough.
+    SaveAs(Path("dest/ab.cd"));
+    EXPECT_TRUE(Exists("dest/a.bmp"));
+}
+
 TEST_F(Saving, CanBeTriedAgainAfterAFailure)
 {
     SaveAs(Path("manca/s.bmp"));

@@ -1,6 +1,7 @@
 #include "files/strengths_file.h"
 
 #include "canvas/fault.h"
+#include "support/hindrances.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -95,6 +96,38 @@ TEST_F(StrengthFile, ReplacesAnOldOneAndLeavesNothingBeside)
     SalvaValori(path, {0, 1, 2, 3, 4, 5});
     EXPECT_EQ(BytesOf(path), "1\r\n2\r\n3\r\n4\r\n5\r\n");
     EXPECT_EQ(std::distance(Entries(folder / ""), Entries()), 1);
+}
+
+TEST_F(StrengthFile, LeavesWhatIsBesideItAlone)
+{
+    WriteBytes(path + "~", "the user's own");
+    SalvaValori(path, {0, 1, 2, 3, 4, 5});
+    EXPECT_EQ(BytesOf(path + "~"), "the user's own");
+}
+
+TEST_F(StrengthFile, StaysAsItWasWhereTheDiskIsFull)
+{
+    WriteBytes(path, "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    {
+        const FileSizeLimit disk(4);
+        EXPECT_THROW(SalvaValori(path, {0, 6, 7, 8, 9, 10}), Fault);
+    }
+    EXPECT_EQ(BytesOf(path), "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    EXPECT_EQ(std::distance(Entries(folder / ""), Entries()), 1);
+}
+
+TEST_F(StrengthFile, IsReadThroughALinkAndNeverWrittenThroughOne)
+{
+    const std::string target = folder / "packaged.tip";
+    WriteBytes(target, "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    std::filesystem::create_symlink(target, path);
+    Strengths valori{};
+    LeggiValori(path, valori);
+    EXPECT_EQ(valori, (Strengths{0, 1, 2, 3, 4, 5}));
+    SalvaValori(path, {0, 6, 7, 8, 9, 10});
+    EXPECT_EQ(BytesOf(target), "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::symlink_status(path)));
+    EXPECT_EQ(BytesOf(path), "6\r\n7\r\n8\r\n9\r\n10\r\n");
 }
 
 TEST_F(StrengthFile, ThatCannotBeWrittenIsAFault)

@@ -62,6 +62,18 @@ TEST_F(TextFile, ReplacesAnOldFile)
     EXPECT_EQ(BytesOf(path), "1\r\n");
 }
 
+TEST_F(TextFile, TakesOneValueFromALineWhereverTheBufferEnds)
+{
+    constexpr int Lines = 56000;
+    std::string text;
+    for (int line = 0; line < Lines; ++line)
+        text += "\"7.4000000000000\"      \r\n";
+    WriteBytes(path, text);
+    for (int line = 0; line < Lines; ++line)
+        ASSERT_EQ(file.Input(), 7) << line;
+    EXPECT_EQ(FaultIn([&] { file.Input(); }), FaultKind::InputPastEnd);
+}
+
 TEST_F(TextFile, IsReadFromItsStartAgainAfterItWasClosed)
 {
     Write({5, 6});

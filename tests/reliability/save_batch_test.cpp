@@ -82,5 +82,21 @@ TEST_F(FailingTool, AllCallsFailFromOneOnward)
     EachCallInTurn(true);
 }
 
+/// A stack that the system has no room for: there are no threads but the first one.
+TEST_F(Tool, WorksOnWhereTheSystemGivesNoMoreThreads)
+{
+    for (const char* const name : {"a.bmp", "b.bmp", "c.bmp"})
+        Draw(name, {"abc"});
+    std::filesystem::create_directory(File("fatte"));
+    const Ran ran = RunProgram({"sh", "-c",
+                                "ulimit -s 4000000 && ulimit -v 3000000 && "
+                                "exec \"$0\" -j 3 -d fatte -e Specchio a.bmp b.bmp c.bmp",
+                                program},
+                               Folder());
+    EXPECT_EQ(ran.status, 0) << ran.err;
+    for (const char* const name : {"fatte/a.bmp", "fatte/b.bmp", "fatte/c.bmp"})
+        EXPECT_EQ(Result(name), (Letters{"cba"}));
+}
+
 }  // namespace
 }  // namespace pixano::batch::test

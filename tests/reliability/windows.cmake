@@ -49,6 +49,10 @@ if(NOT PIXANO_SANITIZED)
   target_compile_definitions(recovery_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>")
   add_dependencies(recovery_test pixano-victim)
   set_tests_properties(recovery_test PROPERTIES LABELS "reliability;windows")
+  # Each call fails while a command is given.
+  pixano_reliability_tests(every_failure_test every_failure_test.cpp every_command.cpp true_state.cpp)
+  target_link_libraries(every_failure_test PRIVATE failing_calls)
+  pixano_long_form(every_failure_test)
 endif()
 
 pixano_reliability_tests(working_files_test working_files_test.cpp)

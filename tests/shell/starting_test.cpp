@@ -111,6 +111,43 @@ TEST_F(Starting, WorksInTheFolderThatTheUserIsIn)
     EXPECT_FALSE(Exists(Data("valori.tip")));
 }
 
+TEST_F(Starting, RemembersNoPathWhereThereIsNoStartUpFolder)
+{
+    const QString picture = Made("a.bmp", Drawn({"abc"}));
+    ASSERT_FALSE(Exists("/percors.dat"));
+    QDir().mkdir("sparita");
+    QDir::setCurrent("sparita");
+    QDir().rmdir(QDir::currentPath());
+    bool opened = false;
+    EXPECT_EQ(RunWith({picture},
+                      [&] {
+                          opened = session.doc.open;
+                          EXPECT_EQ(session.doc.CartellaAvvio, "");
+                      }),
+              0);
+    EXPECT_TRUE(opened);
+    EXPECT_FALSE(Exists("/percors.dat"));
+    QFile::remove("/percors.dat");
+}
+
+TEST_F(Starting, TellsWhyItAsksBeforeThePictureThatIsNamedReplacesTheOneBroughtBack)
+{
+    Made("b.bmp", Drawn({"xyz"}));
+    {
+        StartedDesk killed;
+        killed.Open(Made("a.bmp", Drawn({"abc"})));
+        killed.Apply("Specchio");
+    }
+    dialogs.answers = {true, false};
+    std::vector<ShownBox> told;
+    RunWith({"b.bmp"}, [&] { told = dialogs.told; });
+    EXPECT_EQ(told, (std::vector<ShownBox>{
+                        {BoxIcon::None, "Avviso!",
+                         "L'immagine recuperata non è ancora salvata. Prima di aprire «" +
+                             Path("b.bmp") + "» Pixano chiede che cosa farne."}}));
+    EXPECT_EQ(dialogs.asked.size(), 2U);
+}
+
 TEST_F(Starting, WorksInTheDataFolderWhenStartedFromTheMenu)
 {
     const QString here = QDir::currentPath();

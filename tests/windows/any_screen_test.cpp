@@ -7,6 +7,7 @@
 #include "panels/form8.h"
 #include "support/program.h"
 #include "windows/screen_dialogs.h"
+#include "windows/wrapped_text.h"
 
 #include <QFileDialog>
 #include <QHeaderView>
@@ -187,17 +188,43 @@ TEST_F(AnyScreen, ShowsTheColumnsOfTheFileDialogWhole)
     screen.AskOpenName(QDir::currentPath());
 }
 
-TEST_F(AnyScreen, HoldsAQuestionAboutAFileWithALongName)
+/// The same name, letter for letter, as long as it is.
+TEST_F(AnyScreen, HoldsAMessageAboutAFileWithALongName)
+{
+    const QString text = "File /home/utente/" + QString(200, 'm') + ".bmp non trovato!";
+    ScreenDialogs screen;
+    WhileShown<QMessageBox>([&](QMessageBox& box) {
+        ExpectOnScreen(box);
+        EXPECT_EQ(box.text(), text);
+        auto* const shown = box.findChild<WrappedText*>("WrappedText");
+        ASSERT_NE(shown, nullptr);
+        EXPECT_TRUE(shown->isVisible());
+        EXPECT_EQ(shown->accessibleName(), text);
+        EXPECT_TRUE(box.rect().contains(shown->geometry()));
+        // 200 letters of this width need more than one line.
+        EXPECT_GE(shown->height(), 2 * box.fontMetrics().height());
+        const QImage image = shown->grab().toImage();
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != image.pixel(image.width() - 1, image.height() - 1))
+                    ink |= QRect(x, y, 1, 1);
+        EXPECT_GT(ink.height(), shown->height() / 2);
+    });
+    screen.Tell(BoxIcon::Exclamation, "Attenzione!", text);
+}
+
+TEST_F(AnyScreen, WrapsAMessageOfShortWordsAsTheToolkitDoes)
 {
     ScreenDialogs screen;
     WhileShown<QMessageBox>([](QMessageBox& box) {
         ExpectOnScreen(box);
+        EXPECT_EQ(box.findChild<WrappedText*>("WrappedText"), nullptr);
         const auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
         EXPECT_GE(label->width(), label->minimumSizeHint().width());
         EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     });
-    screen.Tell(BoxIcon::Exclamation, "Attenzione!",
-                "File /home/utente/" + QString(200, 'm') + ".bmp non trovato!");
+    screen.Tell(BoxIcon::Exclamation, "Attenzione!", QString("parole ").repeated(60) + '.');
 }
 
 }  // namespace

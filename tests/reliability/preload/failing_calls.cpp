@@ -87,6 +87,13 @@ ssize_t Writing(int descriptor, std::size_t count, Make call)
     return done;
 }
 
+template <class Make>
+ssize_t Taking(int descriptor, Make call)
+{
+    const bool fails = active && IsFileOrFolder(descriptor) && Fails(Takes);
+    return fails && orders.as == FailingCalls::As::Error ? Failed(orders.error) : call();
+}
+
 int OpenAt(int folder, const char* path, int flags, mode_t mode)
 {
     if (active && orders.oldFileSystem && (flags & O_TMPFILE) == O_TMPFILE)
@@ -136,6 +143,11 @@ long EndFailing()
     return failed;
 }
 
+long CountedCalls()
+{
+    return calls;
+}
+
 }  // namespace pixano::test
 
 // The system's own names, which come before those of its library. Those of open have labels: its
@@ -165,6 +177,23 @@ int FailingOpenAt(int folder, const char* path, int flags, mode_t mode)
 int FailingOpenAt64(int folder, const char* path, int flags, mode_t mode)
 {
     return pixano::test::OpenAt(folder, path, flags, mode);
+}
+
+ssize_t read(int descriptor, void* bytes, std::size_t count)
+{
+    return pixano::test::Taking(descriptor,
+                                [=] { return syscall(SYS_read, descriptor, bytes, count); });
+}
+
+ssize_t pread(int descriptor, void* bytes, std::size_t count, off_t place)
+{
+    return pixano::test::Taking(
+        descriptor, [=] { return syscall(SYS_pread64, descriptor, bytes, count, place); });
+}
+
+ssize_t pread64(int descriptor, void* bytes, std::size_t count, off64_t place)
+{
+    return pread(descriptor, bytes, count, place);
 }
 
 ssize_t write(int descriptor, const void* bytes, std::size_t count)

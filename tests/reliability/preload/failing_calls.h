@@ -16,9 +16,10 @@ enum Call : unsigned {
     Changes = 32,  ///< its owner, its permissions, its size
     Deletes = 64,
     Reads = 128,  ///< opens it for reading
+    Takes = 256,  ///< bytes from it
     /// What a save needs.
     AnyCall = 63,
-    Everything = 255,
+    Everything = 511,
     /// The calls that a signal may interrupt.
     Interruptible = AnyCall & ~Names
 };
@@ -55,5 +56,8 @@ void BeginToFail(const FailingCalls& orders);
 
 /// No call fails any more. Gives how many have.
 long EndFailing();
+
+/// How many calls were counted since the last beginning.
+long CountedCalls();
 
 }  // namespace pixano::test

@@ -1,0 +1,214 @@
+#include "reliability/every_command.h"
+
+#include "shell/program.h"
+
+#include <QClipboard>
+#include <QSlider>
+
+namespace pixano::test {
+namespace {
+
+/// One at which every effect changes the picture.
+constexpr int Strength = 9000;
+
+void AnswerSlider()
+{
+    QTimer::singleShot(0, [] {
+        auto* const window = QApplication::activeModalWidget();
+        // One that could not read its strength is gone by now.
+        if (window == nullptr) return;
+        window->findChild<QSlider*>("Slider1")->setValue(Strength);
+        window->findChild<QPushButton*>("Command1")->click();
+    });
+}
+
+/// Draws one pixel and then fails, as when the pixel file ends too soon.
+void Break(Work& w)
+{
+    w.ShowProgress();
+    w.Avanzamento(1);
+    w.Picture1.PSet(0, 0, 0x123456);
+    throw Fault(FaultKind::InputPastEnd);
+}
+
+void LeaveHalfDrawn(Desk& desk)
+{
+    desk.RunInFrame({.name = "Rotto", .run = Break, .family = Family::Geometry});
+    desk.dialogs.told.clear();
+}
+
+QString AtHome(const QString& name)
+{
+    return Folders::Path(name);
+}
+
+/// Runs the program until it waits for the user.
+void StartAnew(Desk& desk, const QStringList& arguments)
+{
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        if (QWidget* const modal = QApplication::activeModalWidget())
+            ClickAway(*modal);
+        else if (!desk.session.busy)
+            QApplication::exit(0);
+    });
+    user.start(0);
+    try {
+        RunAsOnlyInstance(desk.session,
+                          OptionsFrom(QStringList{"pixano"} + arguments).value_or(Options()));
+    } catch (const Fault& fault) {
+        desk.dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
+        desk.session.ending = 1;
+    }
+}
+
+std::vector<GivenCommand> EffectCommands()
+{
+    const std::vector both{Scene::Opened, Scene::Changed};
+    std::vector<GivenCommand> commands;
+    for (const auto& [index, name] : EffectEntries)
+        commands.push_back({.name = std::string("menu: ") + name,
+                            .give = [index = index](Desk& d) { d.Entry(index).trigger(); },
+                            .scenes = both,
+                            .effect = FindEffect(name)});
+    for (const PaletteButton& button : PaletteButtons()) {
+        const Effect* const effect = EffectIn(button.starts);
+        if (effect == nullptr) continue;
+        const char* const name = button.name;
+        commands.push_back({.name = "palette: " + std::string(effect->name),
+                            .give =
+                                [name, slider = effect->selector != 0](Desk& d) {
+                                    if (slider) AnswerSlider();
+                                    d.Button(name).click();
+                                },
+                            .scenes = both,
+                            .effect = effect});
+    }
+    return commands;
+}
+
+std::vector<GivenCommand> HistoryCommands()
+{
+    const auto undone = [](Desk& d) { d.ClickEntry(entry::Undo); };
+    const auto original = [](Desk& d) { d.ClickEntry(entry::Orig); };
+    const auto saved = [](Desk& d) { d.SaveAs(AtHome("salvata.bmp")); };
+    const QString effect = "Capovolgi   64x48";
+    const QString picture = "a.bmp   64x48";
+    return {
+        {.name = "undo", .give = undone, .caption = effect},
+        {.name = "undo after original", .give = undone, .before = original, .caption = effect},
+        {.name = "undo when saved", .give = undone, .before = saved, .caption = effect},
+        {.name = "undo by the palette",
+         .give = [](Desk& d) { d.Button("SSCommand15").click(); },
+         .caption = effect},
+        {.name = "original", .give = original, .caption = picture},
+        {.name = "original after undo", .give = original, .before = undone, .caption = picture},
+        {.name = "original when saved", .give = original, .before = saved, .caption = picture},
+        {.name = "redo", .give = [](Desk& d) { d.Entry(entry::Redo).trigger(); }, .before = undone},
+        {.name = "redo after original",
+         .give = [](Desk& d) { d.Entry(entry::Redo).trigger(); },
+         .before = original},
+    };
+}
+
+std::vector<GivenCommand> FileCommands()
+{
+    const auto answering = [](bool save, const std::function<void(Desk&)>& then) {
+        return [save, then](Desk& d) {
+            d.dialogs.answers.push_back(save);
+            if (save) d.dialogs.saveNames.push_back(AtHome("salvata.bmp"));
+            then(d);
+        };
+    };
+    const auto opens = [](Desk& d) { d.Open(AtHome("b.bmp")); };
+    const auto drops = [](Desk& d) { emit d.session.form2.Dropped(AtHome("b.bmp")); };
+    const auto pastes = [](Desk& d) { emit d.session.form1.Pasted(); };
+    const auto copies = [](Desk&) {
+        QImage image(5, 3, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QApplication::clipboard()->setImage(image);
+    };
+    const auto ends = [](Desk& d) { d.Entry(entry::Esci).trigger(); };
+    return {
+        {.name = "open", .give = opens, .scenes = {Scene::Opened}},
+        {.name = "open, yes", .give = answering(true, opens)},
+        {.name = "open, no", .give = answering(false, opens)},
+        {.name = "drop, no", .give = answering(false, drops)},
+        {.name = "paste", .give = pastes, .scenes = {Scene::Opened}, .before = copies},
+        {.name = "paste, no", .give = answering(false, pastes), .before = copies},
+        {.name = "save", .give = [](Desk& d) { d.SaveAs(AtHome("salvata.bmp")); }},
+        {.name = "close the canvas, yes",
+         .give = answering(true, [](Desk& d) { d.session.form2.close(); })},
+        {.name = "close the preview, no",
+         .give = answering(false, [](Desk& d) { d.session.form9.close(); })},
+        {.name = "close the palette", .give = [](Desk& d) { d.session.form10.close(); }},
+        {.name = "close the progress window",
+         .give = [](Desk& d) { d.session.form4.close(); },
+         .scenes = {Scene::Opened, Scene::Changed},
+         .before = LeaveHalfDrawn,
+         .halfDrawn = true},
+        {.name = "zoom", .give = [](Desk& d) { d.Button("Command1").click(); }},
+        {.name = "end", .give = ends, .scenes = {Scene::Opened}},
+        {.name = "end, yes", .give = answering(true, ends)},
+        {.name = "end, no", .give = answering(false, ends)},
+    };
+}
+
+std::vector<GivenCommand> StartCommands()
+{
+    const auto answering = [](bool wanted, const QStringList& arguments) {
+        return [wanted, arguments](Desk& d) {
+            d.dialogs.answers.push_back(wanted);
+            StartAnew(d, arguments);
+            d.dialogs.answers.clear();
+        };
+    };
+    return {
+        {.name = "start, yes", .give = answering(true, {}), .scenes = {Scene::Killed}},
+        {.name = "start, no", .give = answering(false, {}), .scenes = {Scene::Killed}},
+        {.name = "start with a picture, no",
+         .give = answering(false, {"b.bmp"}),
+         .scenes = {Scene::Killed},
+         .messages = 2},
+    };
+}
+
+}  // namespace
+
+std::vector<GivenCommand> EveryCommand()
+{
+    std::vector<GivenCommand> all;
+    for (const auto& some : {EffectCommands(), HistoryCommands(), FileCommands(), StartCommands()})
+        all.insert(all.end(), some.begin(), some.end());
+    return all;
+}
+
+void MakeFiles(Desk& desk)
+{
+    WriteWorkingBitmap(Varied(EnoughForAll.width, EnoughForAll.height),
+                       AtHome("a.bmp").toStdString());
+    WriteWorkingBitmap(Varied(7, 5), AtHome("b.bmp").toStdString());
+    WriteBytes(AtHome("valori.tip").toStdString(), "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    desk.session.programFolder = QDir::currentPath();
+}
+
+Surface Made(const Effect& effect, const Surface& picture)
+{
+    EffectRun run(picture);
+    run.work.Valori.fill(Strength);
+    run.Apply(effect);
+    return run.work.Picture1;
+}
+
+void Reach(Scene scene, Desk& desk)
+{
+    MakeFiles(desk);
+    ConnectEvents(desk.session);
+    desk.Start();
+    desk.Open(AtHome("a.bmp"));
+    if (scene == Scene::Opened) return;
+    desk.Apply("Specchio");
+    desk.Apply("Capovolgi");
+}
+
+}  // namespace pixano::test
