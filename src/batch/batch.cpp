@@ -8,6 +8,7 @@
 #include "batch/sheet.h"
 #include "batch/texts.h"
 #include "files/strengths_file.h"
+#include "version.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -119,7 +120,7 @@ int RunTask(const CommandLine& line, const std::string& ownFolder)
     case Task::Help:
         return Print(HelpText());
     case Task::Version:
-        return Print(VersionText);
+        return Print(VersionLine);
     case Task::List:
         return Print(EffectList());
     case Task::Sheet:

@@ -105,7 +105,7 @@ struct Recognised {
 /// "--versione" does, means the same). The end of the table when there is none.
 const Option* FindLong(std::string_view name)
 {
-    const auto exact = std::ranges::find(Options, name, &Option::longName);
+    const auto* const exact = std::ranges::find(Options, name, &Option::longName);
     if (exact != Options.end()) return exact;
     const Option* found = Options.end();
     for (const Option& option : Options) {

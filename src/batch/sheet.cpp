@@ -59,7 +59,7 @@ std::string Sheet::TriedCaption(SheetEntry& entry, const PlannedPicture& planned
 {
     Work w(MemoryStore(), progress, Timer(seed_));
     PutOnCanvas(w, picture_);
-    const std::string caption =
+    std::string caption =
         RunChain(w, {&entry.step, 1}, {}, Caption(entry.step.effect->name, w), progress);
     SaveSmall(std::move(w.Picture1), planned.output, entry.shown);
     return caption;

@@ -19,6 +19,4 @@ std::string UnprintedText(int error);
 /// One effect a line: name, family, range of its strength (empty if it has none), parted by tabs.
 std::string EffectList();
 
-inline constexpr const char* VersionText = "Pixano " PIXANO_VERSION "\n";
-
 }  // namespace pixano::batch

@@ -19,17 +19,17 @@ void SwitchAll(const Session& s, std::initializer_list<Needs> needs, bool on)
 
 }  // namespace
 
-void Disabil(Session& s)
+void Disabil(const Session& s)
 {
     SwitchAll(s, {Needs::Picture, Needs::History}, false);
 }
 
-void Abilita(Session& s)
+void Abilita(const Session& s)
 {
     SwitchAll(s, {Needs::Picture}, true);
 }
 
-void DisableHistory(Session& s)
+void DisableHistory(const Session& s)
 {
     SwitchAll(s, {Needs::History}, false);
     s.form10.EnableHistory({.annulla = false, .originale = false, .ripristina = false});

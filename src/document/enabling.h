@@ -6,12 +6,12 @@
 namespace pixano {
 
 /// Nothing is open: switches off what needs a picture.
-void Disabil(Session& s);
+void Disabil(const Session& s);
 
 /// A picture has been loaded: switches the effects on.
-void Abilita(Session& s);
+void Abilita(const Session& s);
 
 /// Switches "&Annulla", "&Originale" and "&Ripristina" off, on the palette too.
-void DisableHistory(Session& s);
+void DisableHistory(const Session& s);
 
 }  // namespace pixano

@@ -19,7 +19,7 @@ QString DataFolder()
     constexpr auto Private = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                             QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-    if (QFile::permissions(folder) & Others) QFile::setPermissions(folder, Private);
+    if (QFile::permissions(folder).testAnyFlags(Others)) QFile::setPermissions(folder, Private);
     return folder;
 }
 

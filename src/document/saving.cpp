@@ -40,7 +40,7 @@ std::optional<QString> AskName(Session& s)
     for (;;) {
         const std::optional<QString> chosen = s.dialogs.AskSaveName(FolderToSaveIn(s.doc));
         if (!chosen) return std::nullopt;
-        const std::optional<QString> name = WithBitmapExtension(*chosen);
+        std::optional<QString> name = WithBitmapExtension(*chosen);
         if (!name)
             s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
                            "Il nome del file «" + *chosen +

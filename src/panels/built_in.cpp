@@ -1,5 +1,6 @@
 #include "panels/built_in.h"
 
+#include <QEvent>
 #include <QPixmap>
 
 namespace pixano {

@@ -63,7 +63,7 @@ int InProportion(int other, int longer, int side)
 Surface ShrunkWithin(Surface picture, int side)
 {
     const int longer = std::max(picture.Width(), picture.Height());
-    if (longer <= side) return picture;
+    if (longer <= std::max(side, 1)) return picture;
     Surface small(InProportion(picture.Width(), longer, side),
                   InProportion(picture.Height(), longer, side));
     const std::uint64_t area =

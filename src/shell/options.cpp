@@ -1,4 +1,6 @@
 #include "shell/options.h"
+
+#include "version.h"
 #include "windows/file_names.h"
 
 #include <algorithm>
@@ -7,8 +9,6 @@
 
 namespace pixano {
 namespace {
-
-constexpr const char* VersionText = "Pixano " PIXANO_VERSION "\n";
 
 /// A file URL as a path; everything else as it is.
 QString PathOf(const QString& argument)
@@ -41,7 +41,7 @@ const char* AnswerWithoutScreen(int argc, const char* const argv[])
         const std::string_view argument = argv[i];
         if (argument == "--") break;
         if (argument == "--aiuto" || argument == "--help" || argument == "-h") return UsageText;
-        if (argument == "--versione" || argument == "--version") return VersionText;
+        if (argument == "--versione" || argument == "--version") return VersionLine;
     }
     return nullptr;
 }

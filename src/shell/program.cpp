@@ -11,6 +11,7 @@
 #include "shell/options.h"
 #include "shell/run.h"
 #include "shell/start_up.h"
+#include "version.h"
 #include "windows/assistive.h"
 #include "windows/file_names.h"
 #include "windows/own_style.h"
@@ -117,7 +118,7 @@ int TellUsage()
 void PrepareApplication(QApplication& application)
 {
     QApplication::setApplicationName("pixano");
-    QApplication::setApplicationVersion(PIXANO_VERSION);
+    QApplication::setApplicationVersion(Version);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setStyle(new OwnStyle);

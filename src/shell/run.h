@@ -13,10 +13,10 @@ namespace pixano {
 /// ends it with one message box; one that is `fatal` then ends the program too, and unsaved work is
 /// written to the data folder first. In every other case unsaved work has a copy on disk, noted for
 /// the next start, before the box opens; what the command has remarked is told in that one box.
-void RunCommand(Session& s, const QString& name, Fatal ends, const std::function<void()>& command);
+void RunCommand(Session& s, const QString& name, Fatal fatal, const std::function<void()>& command);
 
 /// The same for an event inside a command that is running already, as in a window that it shows.
-void RunWithinCommand(Session& s, const QString& name, Fatal ends,
+void RunWithinCommand(Session& s, const QString& name, Fatal fatal,
                       const std::function<void()>& command);
 
 }  // namespace pixano

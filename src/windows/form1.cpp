@@ -1,5 +1,6 @@
 #include "windows/form1.h"
 
+#include "version.h"
 #include "windows/dropped_file.h"
 #include "windows/palette_strip.h"
 
@@ -28,7 +29,7 @@ bool HasChildren(MenuTable entries, std::string_view name)
 Form1::Form1(MenuTable entries) : entries_(entries)
 {
     setObjectName("Form1");
-    setWindowTitle("Pixano " PIXANO_VERSION);
+    setWindowTitle(NameAndVersion);
     setAccessibleName("Pixano, finestra principale");
     setAcceptDrops(true);
     BuildMenus();
