@@ -76,7 +76,10 @@ QString CurrentFolder()
 
 QString AbsolutePath(const QString& name)
 {
-    return name.startsWith('/') ? name : CurrentFolder() + '/' + name;
+    if (name.startsWith('/')) return name;
+    // A folder that was deleted has no path any more; the root is not in its place.
+    const QString folder = CurrentFolder();
+    return (folder.isEmpty() ? QString('.') : folder) + '/' + name;
 }
 
 void GoToFolder(const QString& name)
