@@ -1,4 +1,5 @@
-// The windows' tests run on a platform without a screen, in folders of their own.
+// The windows' tests run on a platform without a screen, unless they are told that there is one for
+// them.
 #include "shell/program.h"
 
 #include <QApplication>
@@ -11,7 +12,8 @@
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);
-    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
+    if (!qEnvironmentVariableIsSet("PIXANO_ON_SCREEN") &&
+        !qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(false);
     // The file dialog keeps how its columns were.

@@ -3,7 +3,7 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <string_view>
 
 namespace pixano {
@@ -17,6 +17,12 @@ QString PathOf(const QString& argument)
     if (!argument.startsWith("file:", Qt::CaseInsensitive)) return argument;
     const QUrl url(argument);
     return url.isLocalFile() ? url.toLocalFile() : argument;
+}
+
+bool ContainsAny(const QStringList& arguments, std::initializer_list<const char*> names)
+{
+    return std::ranges::any_of(names,
+                               [&arguments](const char* name) { return arguments.contains(name); });
 }
 
 }  // namespace
@@ -45,9 +51,14 @@ bool ScreenIsMissing(const QStringList& arguments)
 {
     for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         if (!qEnvironmentVariableIsEmpty(name)) return false;
-    return std::ranges::none_of(
-        std::array{"-platform", "--platform", "-display", "--display"},
-        [&arguments](const char* name) { return arguments.contains(name); });
+    return !ContainsAny(arguments, {"-platform", "--platform", "-display", "--display"});
+}
+
+bool PrefersX(const QStringList& arguments)
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") &&
+           qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
+           !ContainsAny(arguments, {"-platform", "--platform"});
 }
 
 std::optional<Options> OptionsFrom(const QStringList& arguments)

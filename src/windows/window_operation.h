@@ -5,12 +5,31 @@
 
 namespace pixano {
 
+/// Shows the window, also where it is minimised, and leaves the focus where it is.
+inline void ShowAgain(QWidget& window)
+{
+    if (window.isMinimized()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+}
+
+/// Shows the window above the others, and leaves the focus where it is.
+inline void ShowInFront(QWidget& window)
+{
+    ShowAgain(window);
+    window.raise();
+}
+
 /// Shows the window, brings it to the front and gives it the focus.
 inline void BringForward(QWidget& window)
 {
-    window.show();
-    window.raise();
+    ShowInFront(window);
     window.activateWindow();
+}
+
+/// A window that is about to be shown opens on the screen that holds `main`.
+inline void OpenOnScreenOf(const QWidget& main, QWidget& window)
+{
+    if (!window.isVisible()) window.setScreen(main.screen());
 }
 
 }  // namespace pixano
