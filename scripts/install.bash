@@ -15,7 +15,7 @@ test_packages=(
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     clang-format clang-tidy cppcheck
     bash-completion parallel
-    mutter qt6-wayland weston xfwm4
+    mutter qt6-wayland weston
 )
 # What measuring it beside other tools needs on top of both.
 bench_packages=(graphicsmagick imagemagick time)

@@ -20,11 +20,12 @@ namespace {
 /// it.
 QPoint BesidePalette(const QWidget& preview)
 {
-    constexpr QPoint Frame(8, 34);
+    // The same before its frame is known and after.
+    const QSize whole = preview.size().grownBy(FrameOf(preview) | UsualFrame);
     const QRect screen = preview.screen()->geometry();
     const QRect free = preview.screen()->availableGeometry();
     const QPoint corner(screen.left() + screen.width() - PaletteStrip(), free.bottom());
-    const QPoint place = corner - QPoint(preview.width(), preview.height()) - Frame;
+    const QPoint place = corner - QPoint(whole.width(), whole.height());
     return {std::max(place.x(), free.left()), std::max(place.y(), free.top())};
 }
 

@@ -1,5 +1,6 @@
 #include "windows/free_screen.h"
 
+#include <QApplication>
 #include <QScreen>
 #include <QWindow>
 
@@ -7,6 +8,12 @@
 
 namespace pixano {
 namespace {
+
+/// Nothing as long as it is not there.
+QMargins KnownFrame(const QWidget& window)
+{
+    return window.windowHandle() != nullptr ? window.windowHandle()->frameMargins() : QMargins();
+}
 
 /// Where a length that begins at `place` has to begin to end by `end`, but not before `begin`.
 int Within(int place, int length, int begin, int end)
@@ -18,10 +25,12 @@ int Within(int place, int length, int begin, int end)
 
 QMargins FrameOf(const QWidget& window)
 {
-    constexpr QMargins UsualFrame(4, 30, 4, 4);
-    const QMargins known =
-        window.windowHandle() != nullptr ? window.windowHandle()->frameMargins() : QMargins();
-    return known.isNull() ? UsualFrame : known;
+    if (const QMargins known = KnownFrame(window); !known.isNull()) return known;
+    // The desktop frames all windows much alike, those of a fixed size more thinly.
+    QMargins frame = UsualFrame;
+    for (const QWidget* const other : QApplication::topLevelWidgets())
+        if (other->isVisible()) frame = frame | KnownFrame(*other);
+    return frame;
 }
 
 QSize LargestInside(const QWidget& window)

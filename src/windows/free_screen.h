@@ -1,13 +1,18 @@
 // What the screen leaves to a window, frame and panels of the desktop taken off.
 #pragma once
 
+#include <QMargins>
 #include <QRect>
 #include <QSize>
 #include <QWidget>
 
 namespace pixano {
 
-/// The window's frame; one that is not there yet is taken to be as wide as common ones are.
+/// As wide as common frames are.
+inline constexpr QMargins UsualFrame(5, 30, 5, 5);
+
+/// The window's frame; one that is not there yet is taken to be as wide as the program's others
+/// are, or as common ones.
 QMargins FrameOf(const QWidget& window);
 
 /// The largest inside that the window can have on its screen.

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -32,6 +33,7 @@ void HeldWindow::SetInside(QSize size)
     // Grown where it stands, it would grow off the screen.
     if (isVisible() && this->size() != before) KeepWithin(Room(IsHeld()), *this);
     if (!moved) placed_ = pos();
+    sincePlaced_.invalidate();
 }
 
 QRect HeldWindow::Room(bool held) const
@@ -54,8 +56,19 @@ QSize HeldWindow::Held() const
 
 void HeldWindow::PlaceAt(QPoint place)
 {
-    move(place);
     placed_ = place;
+    sincePlaced_.start();
+    move(place);
+}
+
+/// Some window managers choose the place of a window that appears without the focus, whatever was
+/// asked; they are asked again then. Later it is the user who moves it.
+void HeldWindow::moveEvent(QMoveEvent* event)
+{
+    constexpr int Settling = 300;
+    QScrollArea::moveEvent(event);
+    if (placed_ && pos() != *placed_ && sincePlaced_.isValid() && sincePlaced_.elapsed() < Settling)
+        QTimer::singleShot(0, this, [this] { move(*placed_); });
 }
 
 /// Held in one direction, the bar there takes its room from the other one, which then needs its

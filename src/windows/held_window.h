@@ -2,6 +2,7 @@
 // and scrolls.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QScrollArea>
 
 #include <functional>
@@ -38,6 +39,7 @@ class HeldWindow : public QScrollArea {
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
   private:
     /// What it has of the free screen, with its frame.
@@ -49,6 +51,7 @@ class HeldWindow : public QScrollArea {
 
     QSize stated_;
     std::optional<QPoint> placed_;
+    QElapsedTimer sincePlaced_;
 };
 
 }  // namespace pixano

@@ -5,11 +5,14 @@
 
 namespace pixano {
 
-/// Shows the window, also where it is minimised, and leaves the focus where it is.
+/// Shows the window, also where it is minimised, and leaves the focus where it is unless it was.
 inline void ShowAgain(QWidget& window)
 {
-    if (window.isMinimized()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    const bool minimised = window.isMinimized();
+    if (minimised) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
+    // Some window managers leave it minimised otherwise.
+    if (minimised) window.activateWindow();
 }
 
 /// Shows the window above the others, and leaves the focus where it is.

@@ -59,6 +59,8 @@ TEST_F(Places, ThePreviewInItsCornerOnEveryOpening)
 TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
 {
     OpenSized(200, 100);
+    // A person takes longer than a window manager.
+    QTest::qWait(350);
     Do("windowmove --sync " + Id(session.form9) + " 500 430");
     ASSERT_TRUE(ComesToHold([this] { return session.form9.x() > 400 && session.form9.x() < 600; }));
     const QPoint moved = session.form9.pos();

@@ -16,7 +16,7 @@ class SeenPreview : public Desktop {
     }
     void EnlargeUntilHeld()
     {
-        Do("windowmove --sync " + Id(Preview()) + " 20 100");
+        Do("windowmove " + Id(Preview()) + " 20 100");
         for (int i = 0; i < 12; ++i)
             Button("Command1").click();
         EXPECT_TRUE(Stays([this] {
