@@ -11,10 +11,11 @@ run_packages=(
 # What checking it needs on top of that.
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb openbox xdotool imagemagick x11-utils
+    xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     clang-format clang-tidy cppcheck
     bash-completion parallel
+    mutter qt6-wayland weston
 )
 # What handing pictures to several machines needs to be tried; Debian starts a server of its own with it.
 machines_test_packages=(openssh-client openssh-server)

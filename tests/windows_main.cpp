@@ -1,4 +1,5 @@
-// The windows' tests run on a platform without a screen, in folders of their own.
+// The windows' tests run on a platform without a screen, unless they are told that there is one for
+// them.
 #include "shell/program.h"
 
 #include <QApplication>
@@ -15,7 +16,8 @@ int main(int argc, char* argv[])
     // Tests become another user now and then, who must get into the folders that they make.
     umask(022);
     testing::InitGoogleTest(&argc, argv);
-    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
+    if (!qEnvironmentVariableIsSet("PIXANO_ON_SCREEN") &&
+        !qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(false);
     // The file dialog keeps how its columns were.

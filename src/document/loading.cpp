@@ -3,6 +3,8 @@
 #include "document/captions.h"
 #include "document/enabling.h"
 #include "effects/frame.h"
+#include "windows/belonging.h"
+#include "windows/free_screen.h"
 #include "windows/palette_strip.h"
 #include "windows/twips.h"
 #include "windows/window_operation.h"
@@ -14,14 +16,43 @@
 namespace pixano {
 namespace {
 
-/// The preview starts in the lower right corner, where neither canvas nor palette covers it.
-void PlaceBesidePalette(QWidget& preview)
+/// Where the preview belongs: in the lower right corner, where neither canvas nor palette covers
+/// it.
+QPoint BesidePalette(const QWidget& preview)
 {
-    constexpr QPoint Frame(8, 34);
+    // The same before its frame is known and after.
+    const QSize whole = preview.size().grownBy(FrameOf(preview) | UsualFrame);
+    const QRect screen = preview.screen()->geometry();
     const QRect free = preview.screen()->availableGeometry();
-    const QPoint corner(preview.screen()->size().width() - PaletteStrip(), free.bottom());
-    const QPoint place = corner - QPoint(preview.width(), preview.height()) - Frame;
-    preview.move(std::max(place.x(), free.left()), std::max(place.y(), free.top()));
+    const QPoint corner(screen.left() + screen.width() - PaletteStrip(), free.bottom());
+    const QPoint place = corner - QPoint(whole.width(), whole.height());
+    return {std::max(place.x(), free.left()), std::max(place.y(), free.top())};
+}
+
+/// Sizes and places the preview; where it would lie on the canvas's title it is set off below that.
+void PlacePreview(HeldWindow& preview, QSize inside, const HeldWindow& canvas)
+{
+    preview.setScreen(canvas.screen());
+    preview.alwaysBelow = false;
+    preview.SetInside(inside);
+    const QPoint titleEnd = canvas.pos() + QPoint(canvas.width(), FrameOf(canvas).top());
+    QPoint place = BesidePalette(preview);
+    if (place.x() < titleEnd.x() && place.y() < titleEnd.y()) {
+        preview.alwaysBelow = true;
+        preview.SetInside(inside);
+        place.setY(titleEnd.y());
+    }
+    preview.PlaceAt(place);
+}
+
+/// Shows the canvas, with the menus and the palette above it.
+void ShowCanvas(Session& s)
+{
+    const bool appears = !s.form2.isVisible();
+    ShowAgain(s.form2);
+    if (!appears) return;
+    BelongTo(s.form2, s.form1);
+    BelongTo(s.form2, s.form10);
 }
 
 }  // namespace
@@ -51,15 +82,22 @@ void Carica(Session& s, Surface picture)
     Work& w = s.work;
     PutOnCanvas(w, std::move(picture));
     s.form2.Picture1().FitPicture();
-    s.form2.move(0, 0);
-    s.form2.SetInside({Pixels(w.Larg * CanvasWidth), Pixels(w.Alt * CanvasHeight)});
-    s.form2.show();
+    s.form2.setScreen(s.form1.screen());
+    s.form2.move(s.form1.screen()->geometry().topLeft());
+    // Of the smallest pictures, though, the border would hide columns.
+    s.form2.SetInside(QSize(Pixels(w.Larg * CanvasWidth), Pixels(w.Alt * CanvasHeight))
+                          .expandedTo(s.form2.Picture1().size()));
+    ShowCanvas(s);
     s.form9.Image1().SetStretch(false);
     s.form9.Image1().SetPicture(w.Picture1);
-    s.form9.SetInside({Pixels(w.Larg * PreviewWidth), Pixels(w.Alt * PreviewHeight)});
-    if (!s.form9.isVisible()) PlaceBesidePalette(s.form9);
-    s.form9.show();
-    BringForward(s.form10);
+    const QSize inside(Pixels(w.Larg * PreviewWidth), Pixels(w.Alt * PreviewHeight));
+    if (s.form9.isVisible() && s.form9.MovedByUser())
+        s.form9.SetInside(inside);
+    else
+        PlacePreview(s.form9, inside, s.form2);
+    ShowAgain(s.form9);
+    OpenOnScreenOf(s.form1, s.form10);
+    ShowInFront(s.form10);
     BringForward(s.form1);
     s.form2.setWindowTitle(PictureCaption(s));
     s.form9.setWindowTitle(PreviewCaption(s, 1));

@@ -19,6 +19,7 @@ Session::Session(Dialogs& dialogBoxes, const Controls& controls, Timer timer)
 {
     form2.leftFree = PaletteStrip();
     form9.leftFree = PaletteStrip();
+    form9.titleFree = &form2;
     form4.effectName = [this] { return doc.Effetto; };
 }
 

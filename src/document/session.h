@@ -6,13 +6,16 @@
 #include "document/document.h"
 #include "panels/form10.h"
 #include "windows/dialogs.h"
+#include "windows/dropped_file.h"
 #include "windows/form1.h"
 #include "windows/form2.h"
 #include "windows/form4.h"
 #include "windows/form9.h"
+#include "windows/never_covered.h"
 
 #include <QCoreApplication>
 
+#include <functional>
 #include <optional>
 
 namespace pixano {
@@ -39,6 +42,9 @@ struct Session {
     Form2 form2;
     Form9 form9;
     Form10 form10;
+    /// Beside a picture its window is larger, and takes what is dropped there too.
+    FileDrops drops{&form1, form2.viewport(), form9.viewport(), &form10};
+    NeverCovered atHand{{&form1, &form10}, {&form2, &form9}};
 
     /// A command is running: whatever else the user starts meanwhile is ignored.
     bool busy = false;
@@ -50,6 +56,8 @@ struct Session {
     bool failed = false;
     /// The picture that "Ripristina" goes forward to, where its file could not be written.
     std::optional<Surface> redoPicture;
+    /// Done when a command has ended.
+    std::function<void()> afterCommand = [] {};
     /// The status that the program ends with, once it is to end.
     std::optional<int> ending;
 };

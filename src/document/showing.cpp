@@ -34,11 +34,11 @@ void Mostra(Session& s)
     s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);
     const double width = TwipsPerColumn * s.work.Larg;
     const double height = TwipsPerRow * s.work.Alt;
-    image.SetStretch(true);
-    image.resize(Pixels(static_cast<float>(s.doc.Zoom * width)),
-                 Pixels(static_cast<float>(s.doc.Zoom * height)));
-    s.form9.SetInside(image.size());
-    s.form9.show();
+    s.form9.Stretch({Pixels(static_cast<float>(s.doc.Zoom * width)),
+                     Pixels(static_cast<float>(s.doc.Zoom * height))});
+    OpenOnScreenOf(s.form1, s.form9);
+    ShowAgain(s.form9);
+    OpenOnScreenOf(s.form1, s.form10);
     BringForward(s.form10);
     s.form9.setWindowTitle(PreviewCaption(s, s.doc.Zoom));
     fault.Throw();

@@ -1,8 +1,8 @@
 #include "panels/form10.h"
 
 #include "panels/built_in.h"
+#include "windows/belonging.h"
 #include "windows/palette_strip.h"
-#include "windows/twips.h"
 #include "windows/window_operation.h"
 
 #include <QFontInfo>
@@ -27,14 +27,21 @@ constexpr int BesideCaption = 6;
 /// How many buttons of each box stand side by side.
 constexpr std::array PerRow{3, 4, 2, 2};
 
-constexpr int InsideWidth()
+int InsideWidth()
 {
-    return static_cast<int>(PaletteStripTwips / TwipsPerPixel) - Borders;
+    // The toolkit's own frame has three large buttons, whatever a window asks for; and where
+    // windows are not placed by themselves no strip of the screen has to do.
+    constexpr int ForLargeButtons = 60;
+    const int inside = PaletteStrip() - Borders;
+    return DesktopAloneArranges() ? inside + ForLargeButtons : inside;
 }
 
-void Apply(const QWidget& palette, const char* name, Switch on)
+void Apply(QWidget& palette, const char* name, Switch on)
 {
-    if (on) palette.findChild<QPushButton*>(name)->setEnabled(*on);
+    auto* const button = palette.findChild<QPushButton*>(name);
+    // The toolkit would give the focus to the next button, and a second blank would press that one.
+    if (on == false && palette.focusWidget() == button) palette.setFocus();
+    if (on) button->setEnabled(*on);
 }
 
 QWidget* Frame(const QString& caption)
@@ -90,6 +97,7 @@ Form10::Form10(PaletteTable buttons)
     setObjectName("Form10");
     setWindowTitle("Strumenti");
     setAccessibleName("Strumenti");
+    setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint);
     auto* const layout = new QVBoxLayout(this);
@@ -193,7 +201,11 @@ void Form10::setVisible(bool visible)
     // Closed and shown again it is loaded anew, in its own place.
     if (visible && !isVisible()) {
         ArrangeFor(screen()->availableGeometry().height());
-        move(screen()->size().width() - PaletteStrip(), 0);
+        const QRect screen = this->screen()->geometry();
+        move(screen.left() + screen.width() - PaletteStrip(), screen.top());
+        // The keyboard starts at the effects, and not at the history that the first one switches
+        // on.
+        if (focusWidget() == nullptr) boxes_.at(1)->findChild<QPushButton*>()->setFocus();
     }
     QWidget::setVisible(visible);
 }

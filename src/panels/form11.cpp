@@ -16,6 +16,15 @@ constexpr int LargestPosition = 10000;
 constexpr int PositionStep = 100;
 constexpr int Page = 1000;
 
+/// What a title bar with an icon and three buttons needs so that nothing of the title is left out.
+int TitleWidth(const QString& title)
+{
+    constexpr int IconAndButtons = 100;
+    QFont bold;
+    bold.setBold(true);
+    return QFontMetrics(bold).horizontalAdvance(title) + IconAndButtons;
+}
+
 QPushButton* Button(const QString& name, const QString& caption)
 {
     auto* const button = new QPushButton(caption);
@@ -38,6 +47,14 @@ Form11::Form11(const QString& effect, const QWidget& palette)
     BuildSlider();
     label1_->setObjectName("Label1");
     label1_->setAlignment(Qt::AlignCenter);
+    // Its place stays: another size would make the window read the strengths again.
+    auto* const typed = new QLabel;
+    typed->setObjectName("Typed");
+    typed->setAccessibleName("Numero scritto");
+    typed->setTextFormat(Qt::PlainText);
+    typed->setAlignment(Qt::AlignCenter);
+    typed->setFixedHeight(typed->fontMetrics().height());
+    connect(slider1_, &TypedSlider::Typed, typed, &QLabel::setText);
     auto* const ok = Button("Command1", "OK");
     auto* const cancel = Button("Command2", "Annulla");
     ok->setDefault(true);
@@ -47,10 +64,15 @@ Form11::Form11(const QString& effect, const QWidget& palette)
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(label1_);
     layout->addWidget(slider1_);
+    layout->addWidget(typed);
     layout->addLayout(buttons);
-    // No further to the right than the palette, which stands at the edge of the screen.
-    resize(std::max(palette.width() - Pixels(RightOfLeft), layout->minimumSize().width()),
-           layout->sizeHint().height());
+    // The controls reach no further to the right than the palette, which stands at the edge of the
+    // screen; for the title the window may.
+    const int beside = palette.width() - Pixels(RightOfLeft);
+    const int controls = std::max(beside, layout->minimumSize().width());
+    const int width = std::max(controls, TitleWidth(effect));
+    layout->setContentsMargins(layout->contentsMargins() + QMargins(0, 0, width - controls, 0));
+    resize(width, layout->sizeHint().height());
     slider1_->setFocus();
     connect(slider1_, &QSlider::valueChanged, this, &Form11::TakePosition);
     connect(ok, &QPushButton::clicked, this, &Form11::Confirmed);

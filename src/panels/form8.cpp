@@ -34,6 +34,8 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     combo1_->setAccessibleName("Sottrazione Colore");
     combo1_->setEditable(true);
     combo1_->setInsertPolicy(QComboBox::NoInsert);
+    // It would make "100" of a "1", and swallow the return key.
+    combo1_->setCompleter(nullptr);
     constexpr int Step = 20;
     constexpr int Last = 200;
     for (int value = Step; value <= Last; value += Step)
@@ -53,6 +55,8 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     grid->addWidget(combo1_, 0, 1);
     grid->addLayout(buttons, 1, 0, 1, 2);
     connect(combo1_, &QComboBox::editTextChanged, this,
+            [this](const QString& text) { result_.TestoSottrazione = text; });
+    connect(combo1_, &QComboBox::textActivated, this,
             [this](const QString& text) { result_.TestoSottrazione = text; });
     connect(ok, &QPushButton::clicked, this, [this] {
         result_.TestoSottrazione = combo1_->currentText();

@@ -1,45 +1,101 @@
 #include "panels/typed_slider.h"
 
 #include <QKeyEvent>
+#include <QRegularExpression>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 
 #include <algorithm>
-#include <optional>
 
 namespace pixano {
 namespace {
 
-constexpr int Base = 10;
+constexpr qsizetype Longest = 16;
 
-std::optional<int> DigitOf(const QKeyEvent& event)
+bool IsDigit(QChar letter)
 {
-    const QString text = event.text();
-    const bool digit = text.size() == 1 && text[0] >= '0' && text[0] <= '9';
-    return digit ? std::optional(text[0].digitValue()) : std::nullopt;
+    return letter >= '0' && letter <= '9';
+}
+
+/// What may stand between the digits of a number.
+bool IsSeparator(QChar letter)
+{
+    return (letter.isSpace() && letter.isPrint()) || QStringLiteral(u".,'’").contains(letter);
+}
+
+/// The whole part of what was typed; a point before exactly three digits parts the thousands.
+qlonglong WholePart(QString text)
+{
+    static const QRegularExpression passedOver(QStringLiteral(u"[\\s'’]"));
+    static const QRegularExpression thousands(R"(^\d{1,3}(\.\d{3})+(?!\d))");
+    static const QRegularExpression digits(R"(^\d*)");
+    text.remove(passedOver);
+    if (const auto grouped = thousands.match(text); grouped.hasMatch())
+        return grouped.captured().remove('.').toLongLong();
+    return digits.match(text).captured().toLongLong();
+}
+
+bool IsModifier(int key)
+{
+    return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
 }
 
 }  // namespace
 
 void TypedSlider::keyPressEvent(QKeyEvent* event)
 {
-    if (const std::optional<int> digit = DigitOf(*event)) {
-        Append(*digit);
-        return;
+    const QString text = event->text();
+    const QChar letter = text.size() == 1 ? text[0] : QChar();
+    if (IsDigit(letter) || (IsSeparator(letter) && !text_.isEmpty())) {
+        if (text_.size() < Longest) Take(text_ + letter);
+    } else if (event->key() == Qt::Key_Backspace) {
+        Take((text_.isEmpty() ? QString::number(value()) : text_).chopped(1));
+    } else {
+        if (!letter.isPrint() && !IsModifier(event->key())) Forget();
+        QSlider::keyPressEvent(event);
     }
-    if (event->key() == Qt::Key_Backspace) {
-        setValue(value() / Base);
-        sinceDigit_.start();
-        return;
-    }
-    sinceDigit_.invalidate();
-    QSlider::keyPressEvent(event);
 }
 
-void TypedSlider::Append(int digit)
+void TypedSlider::Take(const QString& text)
 {
-    constexpr int Pause = 1000;
-    const bool follows = sinceDigit_.isValid() && !sinceDigit_.hasExpired(Pause);
-    setValue(std::min((follows ? value() * Base : 0) + digit, maximum()));
-    sinceDigit_.start();
+    const qlonglong number = WholePart(text);
+    // The number that is taken instead is seen.
+    text_ = number > maximum() ? QString::number(maximum()) : text;
+    taking_ = true;
+    setValue(static_cast<int>(std::min<qlonglong>(number, maximum())));
+    taking_ = false;
+    emit Typed(text_);
+}
+
+void TypedSlider::Forget()
+{
+    if (text_.isEmpty()) return;
+    text_.clear();
+    emit Typed(text_);
+}
+
+void TypedSlider::sliderChange(SliderChange change)
+{
+    if (change == SliderValueChange && !taking_) Forget();
+    QSlider::sliderChange(change);
+}
+
+void TypedSlider::focusOutEvent(QFocusEvent* event)
+{
+    Forget();
+    QSlider::focusOutEvent(event);
+}
+
+/// The toolkit's own style does not show where the keyboard is.
+void TypedSlider::paintEvent(QPaintEvent* event)
+{
+    QSlider::paintEvent(event);
+    if (!hasFocus()) return;
+    QStylePainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.state |= QStyle::State_KeyboardFocusChange;
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
 }  // namespace pixano

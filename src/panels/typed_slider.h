@@ -1,26 +1,36 @@
 // A slider whose value can also be typed, digit by digit. Knows nothing of what the value means.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QSlider>
 
 namespace pixano {
 
-/// Besides arrows, page keys, wheel and mouse: digits that follow one another within a second make
-/// up the value, held to the slider's range; the backspace key takes the value's last digit away.
+/// Besides arrows, page keys, wheel and mouse: what is typed makes up the value, until the slider
+/// moves otherwise. Separators of thousands are passed over, what follows a decimal comma or point
+/// does not count, a number beyond the range becomes its nearer end, and the backspace key takes
+/// the last character away.
 class TypedSlider : public QSlider {
     Q_OBJECT
 
   public:
     explicit TypedSlider(Qt::Orientation orientation) : QSlider(orientation) {}
 
+  signals:
+    /// The number being typed is that now; empty when none is.
+    void Typed(const QString& text);
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void sliderChange(SliderChange change) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
-    void Append(int digit);
+    void Take(const QString& text);
+    void Forget();
 
-    QElapsedTimer sinceDigit_;
+    QString text_;
+    bool taking_ = false;
 };
 
 }  // namespace pixano

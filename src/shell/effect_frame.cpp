@@ -7,6 +7,7 @@
 #include "document/working_pictures.h"
 #include "effects/catalogue.h"
 #include "effects/frame.h"
+#include "windows/window_operation.h"
 
 #include <algorithm>
 #include <array>
@@ -37,6 +38,8 @@ constexpr std::array ModifiedFirst{EffectOf(Sinvert),  EffectOf(Desvert),   Effe
 void Close(Session& s, const Effect& effect, FirstFault& fault)
 {
     if (std::ranges::find(ModifiedFirst, &effect) != ModifiedFirst.end()) s.doc.Modificato = 1;
+    // Seen as long as the preview is being written.
+    s.form4.ShowFull();
     fault.Try([&] { Form4_Unload(s); });
     if (effect.captioned) s.form2.setWindowTitle(EffectCaption(s));
     s.doc.Modificato = 1;
@@ -60,6 +63,7 @@ void RunEffect(Session& s, const Effect& effect)
         s.doc.canvasCopy.clear();
         done = true;
     };
+    OpenOnScreenOf(s.form1, s.form4);
     Abil(s);
     FirstFault fault;
     fault.Try([&] { RunOnCanvas(s.work, effect, {before, after}); });

@@ -24,17 +24,26 @@ std::function<bool()> AskingFirst(Session& s, const char* name, Fatal ends,
     };
 }
 
+/// The menus and the palette stay at hand whatever window is in front.
+void KeepCommandsAtHand(Session& s)
+{
+    for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9, &s.form10})
+        s.form1.ServeKeysOf(*window);
+    QObject::connect(&s.form2.Picture1(), &PictureBox::Clicked, &s.atHand,
+                     &NeverCovered::RaiseCovered);
+}
+
 }  // namespace
 
 void ConnectEvents(Session& s)
 {
+    KeepCommandsAtHand(s);
     const auto opensDropped = [&s](const QString& path) {
         RunCommand(s, "Apri", Fatal::None, [&] { OpenNamed(s, path); });
     };
     QObject::connect(&s.form1, &Form1::Clicked,
                      [&s](const MenuEntry& entry) { Start(s, entry.starts); });
-    QObject::connect(&s.form1, &Form1::Dropped, opensDropped);
-    QObject::connect(&s.form2, &Form2::Dropped, opensDropped);
+    QObject::connect(&s.drops, &FileDrops::Dropped, opensDropped);
     QObject::connect(&s.form1, &Form1::Pasted,
                      [&s] { RunCommand(s, "Incolla", Fatal::None, [&] { OpenPasted(s); }); });
     QObject::connect(&s.form4, &Form4::Closed,
@@ -42,6 +51,10 @@ void ConnectEvents(Session& s)
     s.form1.mayClose = AskingFirst(s, "Esci", Fatal::All, Form_Unload);
     s.form2.mayClose = AskingFirst(s, "Chiudi", Fatal::None, Form2_Unload);
     s.form9.mayClose = AskingFirst(s, "Chiudi", Fatal::None, Form9_Unload);
+    // The wheel does what the palette's two magnifiers do.
+    QObject::connect(&s.form9, &Form9::Zoomed, [&s](bool larger) {
+        s.form10.findChild<QPushButton*>(larger ? "Command1" : "Command2")->click();
+    });
     QObject::connect(&s.form10, &Form10::Pressed,
                      [&s](const PaletteButton& button) { Start(s, button.starts); });
 }

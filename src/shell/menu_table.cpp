@@ -7,6 +7,8 @@
 #include "shell/click_handlers.h"
 #include "shell/controls.h"
 #include "shell/shut_down.h"
+#include "windows/centred.h"
+#include "windows/window_operation.h"
 
 #include <array>
 
@@ -27,14 +29,22 @@ void Esci_Click(Session& s)
     Form_Unload(s);
 }
 
-void Inf_Click(Session& /*s*/)
+/// On the screen that holds the main window.
+void ShowInTheMiddle(const Session& s, QDialog&& window)
 {
-    Form5().exec();
+    OpenOnScreenOf(s.form1, window);
+    Centre(window);
+    window.exec();
 }
 
-void Inter_Click(Session& /*s*/)
+void Inf_Click(Session& s)
 {
-    Form7().exec();
+    ShowInTheMiddle(s, Form5());
+}
+
+void Inter_Click(Session& s)
+{
+    ShowInTheMiddle(s, Form7());
 }
 
 // clang-format off

@@ -4,7 +4,7 @@
 #include "windows/file_names.h"
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <string_view>
 
 namespace pixano {
@@ -22,6 +22,12 @@ QString PathOf(const QString& argument)
     }
     const QUrl url = QUrl::fromEncoded(encoded);
     return url.isLocalFile() ? LocalFile(url) : argument;
+}
+
+bool ContainsAny(const QStringList& arguments, std::initializer_list<const char*> names)
+{
+    return std::ranges::any_of(names,
+                               [&arguments](const char* name) { return arguments.contains(name); });
 }
 
 }  // namespace
@@ -50,9 +56,14 @@ bool ScreenIsMissing(const QStringList& arguments)
 {
     for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         if (!qEnvironmentVariableIsEmpty(name)) return false;
-    return std::ranges::none_of(
-        std::array{"-platform", "--platform", "-display", "--display"},
-        [&arguments](const char* name) { return arguments.contains(name); });
+    return !ContainsAny(arguments, {"-platform", "--platform", "-display", "--display"});
+}
+
+bool PrefersX(const QStringList& arguments)
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") &&
+           qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
+           !ContainsAny(arguments, {"-platform", "--platform"});
 }
 
 QStringList ArgumentsOf(int argc, const char* const argv[])

@@ -25,6 +25,10 @@ QStringList ArgumentsOf(int argc, const char* const argv[]);
 /// Whether neither the environment nor an argument names a screen or a platform to show windows on.
 bool ScreenIsMissing(const QStringList& arguments);
 
+/// Whether the windows are to go by way of X: there, unlike under Wayland, they can place, raise
+/// and activate themselves. Only where X is to be had, and nobody has asked for another platform.
+bool PrefersX(const QStringList& arguments);
+
 /// The options in the arguments, the program's name first; nothing when they cannot be understood.
 /// The picture may be given as a file URL.
 std::optional<Options> OptionsFrom(const QStringList& arguments);

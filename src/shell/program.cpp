@@ -10,12 +10,14 @@
 #include "shell/only_instance.h"
 #include "shell/options.h"
 #include "shell/run.h"
+#include "shell/second_start.h"
 #include "shell/start_up.h"
 #include "version.h"
 #include "windows/assistive.h"
 #include "windows/file_names.h"
 #include "windows/own_style.h"
 #include "windows/screen_dialogs.h"
+#include "windows/window_operation.h"
 
 #include <QApplication>
 #include <QDir>
@@ -24,11 +26,13 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QTranslator>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <string>
 
 namespace pixano {
@@ -81,11 +85,34 @@ void OpenFirst(Session& s, const QString& picture)
     OpenNamed(s, picture);
 }
 
+/// The path of the picture to be opened, from the folder that the user is in; empty for none.
+QString PictureIn(const Options& options)
+{
+    return options.picture.isEmpty() ? QString() : AbsolutePath(options.picture);
+}
+
+/// A second start is answered at once; what it wants opened waits for the command that runs.
+void HearSecondStarts(Session& s, const SecondStarts& starts)
+{
+    const auto waiting = std::make_shared<QStringList>();
+    const auto openNext = [&s, waiting] {
+        if (waiting->isEmpty() || s.busy || s.ending) return;
+        RunCommand(s, "Apri", Fatal::None, [&] { OpenNamed(s, waiting->takeFirst()); });
+    };
+    s.afterCommand = [&s, openNext] { QTimer::singleShot(0, &s.form1, openNext); };
+    QObject::connect(&starts, &SecondStarts::Called, &s.form1, [=, &s](const QString& picture) {
+        QWidget* const asking = QApplication::activeModalWidget();
+        BringForward(asking != nullptr ? *asking : s.form1);
+        if (!picture.isEmpty()) waiting->append(picture);
+        openNext();
+    });
+}
+
 int RunSession(Session& session, const Options& options)
 {
     ConnectEvents(session);
     // Relative to the folder that the user is in, whichever one the program works in.
-    const QString picture = options.picture.isEmpty() ? QString() : AbsolutePath(options.picture);
+    const QString picture = PictureIn(options);
     RunCommand(session, "Avvio", Fatal::All, [&] {
         if (options.fromMenu) WorkInDataFolder(session);
         Form_Load(session);
@@ -136,10 +163,13 @@ int RunAsOnlyInstance(Session& session, const Options& options)
     const QString folder = DataFolder();
     const OnlyInstance only(folder + "/pixano.lock");
     if (!only) {
+        if (HandOver(folder, PictureIn(options))) return 0;
         session.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
         return 1;
     }
     RemoveUnfinishedFiles(folder);
+    const SecondStarts starts(folder);
+    HearSecondStarts(session, starts);
     return RunSession(session, options);
 }
 
@@ -149,13 +179,15 @@ int StartProgram(int argc, char* argv[])
     // These answers need no screen, so they come before the application does.
     if (const char* const answer = AnswerWithoutScreen(argc, argv)) return Answer(answer);
     // So does this one: the toolkit would end the program by a signal.
-    if (const QStringList arguments = ArgumentsOf(argc, argv); ScreenIsMissing(arguments)) {
+    const QStringList arguments = ArgumentsOf(argc, argv);
+    if (ScreenIsMissing(arguments)) {
         if (!OptionsFrom(arguments)) return TellUsage();
         std::fputs("Pixano: non c'è uno schermo (DISPLAY e WAYLAND_DISPLAY sono vuote). "
                    "Senza finestre lavora pixano-batch.\n",
                    stderr);
         return 1;
     }
+    if (PrefersX(arguments)) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
     QApplication application(argc, argv);
     PrepareApplication(application);
     const std::optional<Options> options = OptionsFrom(ArgumentsOf(argc, argv));

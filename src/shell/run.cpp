@@ -119,6 +119,7 @@ void RunCommand(Session& s, const QString& name, Fatal fatal, const std::functio
     s.form2.Picture1().update();
     if (!s.remarks.isEmpty()) Tell(s, s.failed ? BoxIcon::Critical : BoxIcon::Exclamation, {});
     s.busy = false;
+    s.afterCommand();
 }
 
 }  // namespace pixano

@@ -14,11 +14,11 @@ namespace {
 void PlaceMainWindow(Form1& window)
 {
     constexpr double AboveTheMiddle = 3200;
-    const QSize screen = window.screen()->size();
+    const QRect screen = window.screen()->geometry();
     const double left = (screen.width() - window.width()) / 2.0;
     const double top =
         screen.height() / 2.0 - window.height() / 2.0 - AboveTheMiddle / TwipsPerPixel;
-    window.move(qRound(left), qRound(top));
+    window.move(screen.topLeft() + QPoint(qRound(left), qRound(top)));
     // A place above the upper edge is kept where a pixel is a pixel. Enlarged, though, a screen of
     // the usual size is so low that the menus would be out of reach.
     if (window.devicePixelRatio() > 1) KeepOnScreen(window);

@@ -11,9 +11,9 @@ namespace pixano {
 inline void Centre(QWidget& window)
 {
     window.adjustSize();
-    const QSize screen = window.screen()->size();
-    window.move(qRound((screen.width() - window.width()) / 2.0),
-                qRound((screen.height() - window.height()) / 2.0));
+    const QRect screen = window.screen()->geometry();
+    window.move(screen.topLeft() + QPoint(qRound((screen.width() - window.width()) / 2.0),
+                                          qRound((screen.height() - window.height()) / 2.0)));
 }
 
 /// Keeps the title bar of a window without a caption empty, where the desktop would put the

@@ -1,26 +1,26 @@
 // A file dropped onto a window.
 #pragma once
 
-#include "windows/file_names.h"
-
-#include <QDragEnterEvent>
-#include <QDropEvent>
-#include <QMimeData>
+#include <QObject>
 #include <QString>
+#include <QWidget>
 
 namespace pixano {
 
-/// The path of the one local file that is being dropped; empty when it is anything else.
-inline QString DroppedFile(const QDropEvent& event)
-{
-    const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.size() == 1 ? LocalFile(urls.front()) : QString();
-}
+/// Lets one local file be dropped onto any of the widgets. What drags it is told that it was
+/// copied: told of a move it would delete its file.
+class FileDrops : public QObject {
+    Q_OBJECT
 
-/// Welcomes the drag when a file could be dropped.
-inline void AcceptPictureDrag(QDragEnterEvent& event)
-{
-    if (!DroppedFile(event).isEmpty()) event.acceptProposedAction();
-}
+  public:
+    /// The widgets outlive this.
+    explicit FileDrops(std::initializer_list<QWidget*> onto);
+
+  signals:
+    void Dropped(const QString& path);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
 
 }  // namespace pixano

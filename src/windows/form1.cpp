@@ -1,18 +1,21 @@
 #include "windows/form1.h"
 
 #include "version.h"
-#include "windows/dropped_file.h"
+#include "windows/belonging.h"
 #include "windows/palette_strip.h"
+#include "windows/window_operation.h"
 
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace pixano {
 namespace {
@@ -31,11 +34,13 @@ Form1::Form1(MenuTable entries) : entries_(entries)
     setObjectName("Form1");
     setWindowTitle(NameAndVersion);
     setAccessibleName("Pixano, finestra principale");
-    setAcceptDrops(true);
     BuildMenus();
     auto* const paste = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_V), this);
     paste->setContext(Qt::ApplicationShortcut);
     connect(paste, &QShortcut::activated, this, &Form1::Pasted);
+    auto* const menus = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    menus->setContext(Qt::ApplicationShortcut);
+    connect(menus, &QShortcut::activated, this, [this] { OpenMenu(*controls_.front()); });
     setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
 }
 
@@ -97,6 +102,51 @@ void Form1::AddShortcut(const MenuEntry& row)
     });
 }
 
+void Form1::ServeKeysOf(QWidget& window)
+{
+    for (QAction* const entry : menuBar()->actions()) {
+        const QKeySequence keys = QKeySequence::mnemonic(entry->text());
+        if (keys.isEmpty()) continue;
+        auto* const shortcut = new QShortcut(keys, &window);
+        connect(shortcut, &QShortcut::activated, this, [this, entry] { Use(*entry); });
+    }
+}
+
+void Form1::Use(QAction& entry)
+{
+    if (entry.menu() != nullptr)
+        OpenMenu(entry);
+    else
+        entry.trigger();
+}
+
+void Form1::OpenMenu(QAction& entry)
+{
+    constexpr int Patience = 300;
+    BringForward(*this);
+    awaited_ = &entry;
+    // A desktop that gives the focus as it likes lets a menu open only while its key is held.
+    if (isActiveWindow() || DesktopAloneArranges())
+        OpenAwaitedMenu();
+    else
+        QTimer::singleShot(Patience, this, &Form1::OpenAwaitedMenu);
+}
+
+void Form1::OpenAwaitedMenu()
+{
+    QAction* const entry = std::exchange(awaited_, nullptr);
+    if (entry == nullptr) return;
+    menuBar()->setActiveAction(entry);
+    entry->menu()->setActiveAction(entry->menu()->actions().front());
+}
+
+bool Form1::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate && awaited_ != nullptr)
+        QTimer::singleShot(0, this, &Form1::OpenAwaitedMenu);
+    return QMainWindow::event(event);
+}
+
 int Form1::PositionOf(std::string_view name) const
 {
     const auto found = std::ranges::find(entries_, name, &MenuEntry::name);
@@ -122,16 +172,6 @@ void Form1::Check(int position, bool checked)
 void Form1::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayClose());
-}
-
-void Form1::dragEnterEvent(QDragEnterEvent* event)
-{
-    AcceptPictureDrag(*event);
-}
-
-void Form1::dropEvent(QDropEvent* event)
-{
-    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
 }
 
 }  // namespace pixano

@@ -35,31 +35,38 @@ class Form1 : public QMainWindow {
     /// Sets or takes away the check mark of the entry at `position`.
     void Check(int position, bool checked);
 
+    /// Lets the keys that open the menus work in that window too: this one comes forward then.
+    void ServeKeysOf(QWidget& window);
+
     /// Asked when the user closes the window; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
 
   signals:
     void Clicked(const pixano::MenuEntry& entry);
-    /// The picture file at `path` was dropped onto the window.
-    void Dropped(const QString& path);
     /// What lies in the clipboard is to be opened.
     void Pasted();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     void BuildMenus();
     int InsideWidth() const;
     QAction* AddEntry(const MenuEntry& row);
     void AddShortcut(const MenuEntry& row);
+    /// What the entry's key does in another window.
+    void Use(QAction& entry);
+    /// Comes forward with the entry's menu open.
+    void OpenMenu(QAction& entry);
+    void OpenAwaitedMenu();
     /// Throws std::out_of_range when no entry has that name.
     int PositionOf(std::string_view name) const;
 
     MenuTable entries_;
     std::vector<QAction*> controls_;
+    /// The entry whose menu opens once the window has the focus.
+    QAction* awaited_ = nullptr;
 };
 
 }  // namespace pixano

@@ -1,6 +1,5 @@
 #include "windows/form2.h"
 
-#include "windows/dropped_file.h"
 #include "windows/surface_image.h"
 #include "windows/window_operation.h"
 
@@ -42,19 +41,7 @@ Form2::Form2(const Surface& surface) : HeldWindow(new PictureBox(surface))
     picture1_ = static_cast<PictureBox*>(widget());
     setObjectName("Form2");
     setAccessibleName("Immagine elaborata");
-    // The window's inside is larger than the picture, and takes what is dropped on either.
-    viewport()->setAcceptDrops(true);
     connect(picture1_, &PictureBox::Clicked, this, [this] { BringForward(*this); });
-}
-
-void Form2::dragEnterEvent(QDragEnterEvent* event)
-{
-    AcceptPictureDrag(*event);
-}
-
-void Form2::dropEvent(QDropEvent* event)
-{
-    if (const QString path = DroppedFile(*event); !path.isEmpty()) emit Dropped(path);
 }
 
 }  // namespace pixano

@@ -41,14 +41,6 @@ class Form2 : public HeldWindow {
 
     PictureBox& Picture1() { return *picture1_; }
 
-  signals:
-    /// The picture file at `path` was dropped onto the window.
-    void Dropped(const QString& path);
-
-  protected:
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
-
   private:
     PictureBox* picture1_;
 };

@@ -18,7 +18,11 @@ void WaitForExpose(const QWidget& widget)
     constexpr int Patience = 300;
     QElapsedTimer waited;
     waited.start();
-    while (!widget.windowHandle()->isExposed() && waited.elapsed() < Patience)
+    // One that was hidden just now may count as exposed still, but paints nothing.
+    const auto shown = [&widget] {
+        return widget.windowHandle()->isExposed() && widget.testAttribute(Qt::WA_Mapped);
+    };
+    while (!shown() && waited.elapsed() < Patience)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, MillisecondsPerRepaint);
 }
 
@@ -61,6 +65,7 @@ void Form4::Show()
         WaitForExpose(*this);
     }
     repaint();
+    painted_ = 0;
     sinceRepaint_.start();
 }
 
@@ -82,8 +87,20 @@ void Form4::SetCaption(const std::string& caption)
 void Form4::RepaintNowAndThen()
 {
     if (!sinceRepaint_.isValid() || sinceRepaint_.elapsed() < MillisecondsPerRepaint) return;
+    RepaintBar();
+}
+
+void Form4::RepaintBar()
+{
     bar_->repaint();
+    painted_ = bar_->value();
     sinceRepaint_.start();
+}
+
+void Form4::ShowFull()
+{
+    SetBar(static_cast<float>(bar_->maximum()));
+    if (isVisible() && painted_ != bar_->maximum()) RepaintBar();
 }
 
 void Form4::closeEvent(QCloseEvent* event)

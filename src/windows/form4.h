@@ -27,6 +27,8 @@ class Form4 : public QWidget, public ProgressWindow {
     void SetBar(float value) override;
     float Bar() const override { return static_cast<float>(bar_->value()); }
     void SetCaption(const std::string& caption) override;
+    /// The effect is done: the bar is full, and seen so until the window goes.
+    void ShowFull();
     std::string Caption() const override { return windowTitle().toStdString(); }
 
   signals:
@@ -37,12 +39,15 @@ class Form4 : public QWidget, public ProgressWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    /// Paints the bar, if it has not been painted like that already.
+    void RepaintBar();
     /// An effect holds the event loop, so the window paints itself; not so often that it costs
     /// time.
     void RepaintNowAndThen();
 
     QProgressBar* bar_;
     QElapsedTimer sinceRepaint_;
+    int painted_ = 0;
 };
 
 }  // namespace pixano

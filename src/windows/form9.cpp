@@ -2,7 +2,13 @@
 
 #include "windows/surface_image.h"
 
+#include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace pixano {
 
@@ -44,9 +50,11 @@ void ImageControl::paintEvent(QPaintEvent* /*event*/)
         painter.drawImage(0, 0, image);
         return;
     }
-    // Dropping pixels would make a smaller preview ragged; doubling them keeps a larger one crisp.
-    const bool shrinks = width() < image.width() || height() < image.height();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, shrinks);
+    if (image.isNull()) return;
+    // Pixels made whole times as large stay crisp; otherwise some lines would come out thicker than
+    // others.
+    const bool whole = width() % image.width() == 0 && height() % image.height() == 0;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !whole);
     painter.drawImage(rect(), image);
 }
 
@@ -55,6 +63,56 @@ Form9::Form9() : HeldWindow(new ImageControl)
     image1_ = static_cast<ImageControl*>(widget());
     setObjectName("Form9");
     setAccessibleName("Anteprima");
+}
+
+void Form9::Stretch(QSize size)
+{
+    const auto middle = [](const QScrollBar& bar, int seen, int whole) {
+        return (bar.value() + std::min(seen, whole) / 2.0) / std::max(whole, 1);
+    };
+    QScrollBar& across = *horizontalScrollBar();
+    QScrollBar& down = *verticalScrollBar();
+    const double x = middle(across, viewport()->width(), image1_->width());
+    const double y = middle(down, viewport()->height(), image1_->height());
+    image1_->SetStretch(true);
+    image1_->resize(size);
+    SetInside(size);
+    across.setValue(qRound(x * size.width() - viewport()->width() / 2.0));
+    down.setValue(qRound(y * size.height() - viewport()->height() / 2.0));
+}
+
+void Form9::wheelEvent(QWheelEvent* event)
+{
+    constexpr int Notch = 120;
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        HeldWindow::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    turned_ += event->angleDelta().y();
+    if (std::abs(turned_) < Notch) return;
+    emit Zoomed(turned_ > 0);
+    turned_ = 0;
+}
+
+void Form9::mousePressEvent(QMouseEvent* event)
+{
+    dragged_ = event->globalPosition().toPoint();
+    if (event->button() == Qt::LeftButton) viewport()->setCursor(Qt::ClosedHandCursor);
+}
+
+void Form9::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!event->buttons().testFlag(Qt::LeftButton)) return;
+    const QPoint to = event->globalPosition().toPoint();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + dragged_.x() - to.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + dragged_.y() - to.y());
+    dragged_ = to;
+}
+
+void Form9::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    viewport()->unsetCursor();
 }
 
 }  // namespace pixano

@@ -41,7 +41,24 @@ class Form9 : public HeldWindow {
 
     ImageControl& Image1() { return *image1_; }
 
+    /// Gives the image this size, stretched, and the window too. What is seen in the middle stays
+    /// there.
+    void Stretch(QSize size);
+
+  signals:
+    /// The wheel was turned to enlarge what is seen, or to reduce it.
+    void Zoomed(bool larger);
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
   private:
+    /// What the wheel was turned, less than a notch.
+    int turned_ = 0;
+    QPoint dragged_;
     ImageControl* image1_;
 };
 

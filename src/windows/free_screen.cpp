@@ -1,5 +1,6 @@
 #include "windows/free_screen.h"
 
+#include <QApplication>
 #include <QScreen>
 #include <QWindow>
 
@@ -8,13 +9,10 @@
 namespace pixano {
 namespace {
 
-/// A frame that is not there yet is taken to be as wide as common ones are.
-QMargins FrameOf(const QWidget& window)
+/// Nothing as long as it is not there.
+QMargins KnownFrame(const QWidget& window)
 {
-    constexpr QMargins UsualFrame(4, 30, 4, 4);
-    const QMargins known =
-        window.windowHandle() != nullptr ? window.windowHandle()->frameMargins() : QMargins();
-    return known.isNull() ? UsualFrame : known;
+    return window.windowHandle() != nullptr ? window.windowHandle()->frameMargins() : QMargins();
 }
 
 /// Where a length that begins at `place` has to begin to end by `end`, but not before `begin`.
@@ -25,19 +23,33 @@ int Within(int place, int length, int begin, int end)
 
 }  // namespace
 
+QMargins FrameOf(const QWidget& window)
+{
+    if (const QMargins known = KnownFrame(window); !known.isNull()) return known;
+    // The desktop frames all windows much alike, those of a fixed size more thinly.
+    QMargins frame = UsualFrame;
+    for (const QWidget* const other : QApplication::topLevelWidgets())
+        if (other->isVisible()) frame = frame | KnownFrame(*other);
+    return frame;
+}
+
 QSize LargestInside(const QWidget& window)
 {
     const QSize available = window.screen()->availableGeometry().size();
     return available.shrunkBy(FrameOf(window)).expandedTo(QSize(1, 1));
 }
 
+void KeepWithin(const QRect& room, QWidget& window)
+{
+    const QSize whole = window.size().grownBy(FrameOf(window));
+    const QPoint place(Within(window.x(), whole.width(), room.x(), room.x() + room.width()),
+                       Within(window.y(), whole.height(), room.y(), room.y() + room.height()));
+    if (place != window.pos()) window.move(place);
+}
+
 void KeepOnScreen(QWidget& window)
 {
-    const QRect free = window.screen()->availableGeometry();
-    const QSize whole = window.size().grownBy(FrameOf(window));
-    const QPoint place(Within(window.x(), whole.width(), free.x(), free.x() + free.width()),
-                       Within(window.y(), whole.height(), free.y(), free.y() + free.height()));
-    if (place != window.pos()) window.move(place);
+    KeepWithin(window.screen()->availableGeometry(), window);
 }
 
 }  // namespace pixano

@@ -3,6 +3,10 @@
 #include "windows/free_screen.h"
 
 #include <QCloseEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTimer>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -15,37 +19,85 @@ HeldWindow::HeldWindow(QWidget* inside)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setMinimumSize(1, 1);
     setFocusPolicy(Qt::StrongFocus);
+    // A window manager would take the focus from whatever a command ends with.
+    setAttribute(Qt::WA_ShowWithoutActivating);
 }
 
 void HeldWindow::SetInside(QSize size)
 {
     stated_ = size.expandedTo(QSize(1, 1));
     const QSize before = this->size();
+    const bool moved = MovedByUser();
     resize(Held());
     ShowBarsOnlyWhenHeld();
     // Grown where it stands, it would grow off the screen.
-    if (isVisible() && this->size() != before) KeepOnScreen(*this);
+    if (isVisible() && this->size() != before) KeepWithin(Room(IsHeld()), *this);
+    if (!moved) placed_ = pos();
+    sincePlaced_.invalidate();
+}
+
+QRect HeldWindow::Room(bool held) const
+{
+    QRect room = screen()->availableGeometry();
+    if (held) room.setRight(room.right() - leftFree);
+    if (titleFree != nullptr && titleFree->isVisible() && (held || alwaysBelow))
+        room.setTop(std::max(room.top(), titleFree->y() + FrameOf(*titleFree).top()));
+    return room;
 }
 
 QSize HeldWindow::Held() const
 {
-    QSize most = LargestInside(*this);
-    if (stated_.width() > most.width()) most.setWidth(std::max(most.width() - leftFree, 1));
-    return stated_.boundedTo(most);
+    const auto most = [this](bool held) {
+        return Room(held).size().shrunkBy(FrameOf(*this)).expandedTo({1, 1});
+    };
+    const bool fits = stated_.boundedTo(most(false)) == stated_;
+    return fits ? stated_ : stated_.boundedTo(most(true));
 }
 
+void HeldWindow::PlaceAt(QPoint place)
+{
+    placed_ = place;
+    sincePlaced_.start();
+    move(place);
+}
+
+/// Some window managers choose the place of a window that appears without the focus, whatever was
+/// asked; they are asked again then. Later it is the user who moves it.
+void HeldWindow::moveEvent(QMoveEvent* event)
+{
+    constexpr int Settling = 300;
+    QScrollArea::moveEvent(event);
+    if (placed_ && pos() != *placed_ && sincePlaced_.isValid() && sincePlaced_.elapsed() < Settling)
+        QTimer::singleShot(0, this, [this] { move(*placed_); });
+}
+
+/// Held in one direction, the bar there takes its room from the other one, which then needs its
+/// own.
 void HeldWindow::ShowBarsOnlyWhenHeld()
 {
-    setHorizontalScrollBarPolicy(width() < stated_.width() ? Qt::ScrollBarAsNeeded
-                                                           : Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(height() < stated_.height() ? Qt::ScrollBarAsNeeded
-                                                           : Qt::ScrollBarAlwaysOff);
+    const auto bars = IsHeld() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    setHorizontalScrollBarPolicy(bars);
+    setVerticalScrollBarPolicy(bars);
 }
 
 void HeldWindow::resizeEvent(QResizeEvent* event)
 {
     ShowBarsOnlyWhenHeld();
     QScrollArea::resizeEvent(event);
+}
+
+void HeldWindow::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ShiftModifier)) {
+        QScrollArea::wheelEvent(event);
+        return;
+    }
+    // The same turn without the key: with it the bar would move by whole pages.
+    QWheelEvent sideways(event->position(), event->globalPosition(),
+                         event->pixelDelta().transposed(), event->angleDelta().transposed(),
+                         event->buttons(), Qt::NoModifier, event->phase(), event->inverted());
+    QCoreApplication::sendEvent(horizontalScrollBar(), &sideways);
+    event->accept();
 }
 
 void HeldWindow::closeEvent(QCloseEvent* event)

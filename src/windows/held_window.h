@@ -2,9 +2,11 @@
 // and scrolls.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QScrollArea>
 
 #include <functional>
+#include <optional>
 
 namespace pixano {
 
@@ -14,12 +16,21 @@ class HeldWindow : public QScrollArea {
   public:
     explicit HeldWindow(QWidget* inside);
 
-    /// Gives the window's inside this size in pixels, or that of the free screen where it is
-    /// smaller.
+    /// Gives the window's inside this size in pixels. Where the free screen is smaller it is held
+    /// to what `leftFree` and `titleFree` leave of that.
     void SetInside(QSize size);
 
-    /// What a window that is wider than the screen leaves free beside it, for another one.
+    /// Moves the window there.
+    void PlaceAt(QPoint place);
+    /// Whether it stands elsewhere than the program has put it.
+    bool MovedByUser() const { return !placed_ || pos() != *placed_; }
+
+    /// What a window that is held leaves free beside it, for another one.
     int leftFree = 0;
+    /// The window whose title a window that is held leaves free above it.
+    const QWidget* titleFree = nullptr;
+    /// Whether it leaves that free where the screen is large enough for it, too.
+    bool alwaysBelow = false;
 
     /// Asked when the user closes the window; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
@@ -27,13 +38,20 @@ class HeldWindow : public QScrollArea {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
   private:
+    /// What it has of the free screen, with its frame.
+    QRect Room(bool held) const;
     QSize Held() const;
+    bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();
 
     QSize stated_;
+    std::optional<QPoint> placed_;
+    QElapsedTimer sincePlaced_;
 };
 
 }  // namespace pixano

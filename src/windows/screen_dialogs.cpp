@@ -1,20 +1,16 @@
 #include "windows/screen_dialogs.h"
 
 #include "windows/centred.h"
-#include "windows/free_screen.h"
+#include "windows/file_dialog.h"
 #include "windows/wrapped_text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
-#include <QTreeView>
 
 #include <algorithm>
 
@@ -125,26 +121,6 @@ void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& t
     WrapLongNames(box);
 }
 
-/// The toolkit's own sizes cut the columns off, and are larger than a small screen.
-void ShowWholeColumns(QFileDialog& dialog)
-{
-    constexpr QSize Roomy(780, 460);
-    dialog.resize(Roomy.boundedTo(LargestInside(dialog)));
-    auto* const header = dialog.findChild<QTreeView*>("treeView")->header();
-    for (int column = 1; column < header->count(); ++column)
-        header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-}
-
-std::optional<QString> Chosen(QFileDialog& dialog)
-{
-    dialog.setObjectName("CommonDialog1");
-    ShowWholeColumns(dialog);
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    const QStringList names = dialog.selectedFiles();
-    if (names.isEmpty()) return std::nullopt;
-    return names.front();
-}
-
 }  // namespace
 
 bool ScreenDialogs::Ask(BoxIcon icon, const QString& title, const QString& text)
@@ -165,23 +141,24 @@ void ScreenDialogs::Tell(BoxIcon icon, const QString& title, const QString& text
 
 std::optional<QString> ScreenDialogs::AskOpenName(const QString& folder)
 {
-    QFileDialog dialog(QApplication::activeWindow(), "Apri", folder);
-    // A name that does not exist may be typed: the program has its own message for it.
-    dialog.setFileMode(QFileDialog::AnyFile);
+    FileLooks looks;
+    FileDialog dialog(looks, "Apri", folder);
     dialog.setNameFilter("(*.Bmp) (*.Jpg) (*.Gif) (*.bmp *.jpg *.gif)");
-    return Chosen(dialog);
+    // The endings that the filter lets through are in its text already.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    return dialog.AskName();
 }
 
 std::optional<QString> ScreenDialogs::AskSaveName(const QString& folder)
 {
-    QFileDialog dialog(QApplication::activeWindow(), "Salva con nome", folder);
+    FileLooks looks;
+    FileDialog dialog(looks, "Salva con nome", folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter("Bitmap (*.bmp)");
     dialog.setDefaultSuffix("bmp");
     // The program asks for itself whether a file may be replaced.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    return Chosen(dialog);
+    return dialog.AskName();
 }
 
 }  // namespace pixano

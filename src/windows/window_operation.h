@@ -5,12 +5,34 @@
 
 namespace pixano {
 
+/// Shows the window, also where it is minimised, and leaves the focus where it is unless it was.
+inline void ShowAgain(QWidget& window)
+{
+    const bool minimised = window.isMinimized();
+    if (minimised) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    // Some window managers leave it minimised otherwise.
+    if (minimised) window.activateWindow();
+}
+
+/// Shows the window above the others, and leaves the focus where it is.
+inline void ShowInFront(QWidget& window)
+{
+    ShowAgain(window);
+    window.raise();
+}
+
 /// Shows the window, brings it to the front and gives it the focus.
 inline void BringForward(QWidget& window)
 {
-    window.show();
-    window.raise();
+    ShowInFront(window);
     window.activateWindow();
+}
+
+/// A window that is about to be shown opens on the screen that holds `main`.
+inline void OpenOnScreenOf(const QWidget& main, QWidget& window)
+{
+    if (!window.isVisible()) window.setScreen(main.screen());
 }
 
 }  // namespace pixano

@@ -1,12 +1,13 @@
 # A virtual screen with a window manager, and what a person does on it. Sourced by the journeys.
 #
-# Starts Xvfb and openbox on a free display, makes an empty home and working folder, and takes all of it
+# Starts Xvfb and openbox, or $WINDOW_MANAGER, on a free display, makes an empty home and working folder, and takes all of it
 # down again at the end. On failure a screenshot stays in $EVIDENCE.
 
 set -euo pipefail
 
 EVIDENCE=${EVIDENCE:-$PWD/build/e2e}
 SCREEN_SIZE=${SCREEN_SIZE:-1280x960}
+WINDOW_MANAGER=${WINDOW_MANAGER:-openbox}
 
 sandbox=$(mktemp -d)
 mkdir -p "$EVIDENCE" "$sandbox/folder"
@@ -62,7 +63,7 @@ start_screen() {
         DISPLAY=:$(cat "$number")
         export DISPLAY
         if wait_for xprop -root; then
-            openbox >/dev/null 2>&1 &
+            $WINDOW_MANAGER >/dev/null 2>&1 &
             manager=$!
             if wait_for manages_windows; then return 0; fi
             kill "$manager" 2>/dev/null || true
@@ -71,7 +72,7 @@ start_screen() {
         wait
         : >"$number"
     done
-    fail "no screen with openbox on it can be started"
+    fail "no screen with $WINDOW_MANAGER on it can be started"
 }
 
 # Starts a session bus of its own, for assistive tools; their part of it starts when it is asked for.

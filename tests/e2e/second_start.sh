@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The program started twice on one data folder, started after it was killed, and started where there
-# can be no data folder. Usage: second_start.sh PIXANO PICTURE
+# The program started twice on one data folder: the second start hands its picture to the first. Then
+# one that does not answer, one that was killed, and one without a data folder. Usage: second_start.sh PIXANO PICTURE
 # shellcheck source-path=SCRIPTDIR
 
 pixano=$1
@@ -32,8 +32,52 @@ keys space
 expect_title "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
 [ "$(stat -c %a "$XDG_DATA_HOME/pixano")" = 700 ] || fail "others may look into the data folder"
 
-expect_refusal "a second start" secondo-avvio
+# Starts the program once more; it ends with status 0, and quickly.
+hand_over() {
+    timeout 10 "$pixano" "$@" 2>>"$sandbox/errors" || fail "a second start ended with status $?"
+}
+convert -size 60x40 xc:red "$sandbox/folder/altra figura.bmp"
+[ "$(stat -c '%a %F' "$XDG_DATA_HOME/pixano/pixano.socket")" = "600 socket" ] ||
+    fail "others may speak to the program"
+focus "Strumenti"
+hand_over "altra figura.bmp"
+expect_title "altra figura.bmp   60x40"
+wait_for is_active "Pixano 2.3" || fail "the running program did not come forward, but $(active_title)"
+
+# Without a picture it comes forward, even where it is minimised; while it asks, what it asks does.
+xdotool windowminimize "$(window_titled "Pixano 2.3")"
+hand_over
+wait_for is_active "Pixano 2.3" || fail "the running program did not come forward, but $(active_title)"
+keys alt+f a
+wait_for is_active "Apri" || fail "no open dialog, but $(active_title)"
+hand_over "$picture"
+sleep 0.3
+titled "$(basename "$picture")   $(identify -format '%wx%h' "$picture")" &&
+    fail "a picture was opened within a command"
+is_active "Apri" || fail "the dialog does not come forward, but $(active_title)"
+keys Escape
+expect_title "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
+hand_over manca.bmp
+wait_for is_active "Attenzione!" || fail "nobody tells that the picture is missing"
+keys Return
+
+# Anything else is not heard; neither is anybody while the program does not answer.
+python3 - "$XDG_DATA_HOME/pixano/pixano.socket" <<'END' || fail "it answers to what it should not"
+import socket, sys
+for message in (b"", b"V ", b"A", b"Arelativa.bmp", b"A/con\0nullo", b"X/tmp", b"A/" + b"m" * 4096, b"A" * 100000):
+    with socket.socket(socket.AF_UNIX, socket.SOCK_SEQPACKET) as s:
+        s.settimeout(5)
+        s.connect(sys.argv[1])
+        if message:
+            s.send(message)
+        if s.recv(1) != b"":
+            sys.exit(f"{message[:20]!r}")
+END
+kill -STOP "$program"
+expect_refusal "a second start of one that does not answer" secondo-avvio
+kill -CONT "$program"
 kill -0 "$program" || fail "the second start ended the first"
+sleep 0.3
 titled "$(basename "$picture")   $(identify -format '%wx%h' "$picture")" ||
     fail "the second start changed the first"
 

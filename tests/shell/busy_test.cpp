@@ -26,7 +26,7 @@ class Busy : public Program {
         Button("SSCommand16").click();
         Button("SSCommand4").click();
         Button("Command1").click();
-        emit session.form1.Dropped(Path("a.bmp"));
+        emit session.drops.Dropped(Path("a.bmp"));
         EXPECT_FALSE(session.form1.close());
         EXPECT_FALSE(session.form2.close());
         EXPECT_FALSE(session.form9.close());

@@ -123,6 +123,21 @@ TEST(ProgramOptions, AreAllInTheUsageText)
         EXPECT_THAT(UsageText, HasSubstr(option));
 }
 
+TEST(ProgramOptions, PreferXWhereItIsToBeHadAndNobodyAskedForAnotherPlatform)
+{
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray display = qgetenv("DISPLAY");
+    qunsetenv("QT_QPA_PLATFORM");
+    qunsetenv("DISPLAY");
+    EXPECT_FALSE(PrefersX({"pixano"}));
+    qputenv("DISPLAY", ":7");
+    EXPECT_TRUE(PrefersX({"pixano", "a.bmp"}));
+    EXPECT_FALSE(PrefersX({"pixano", "-platform", "wayland"}));
+    qputenv("QT_QPA_PLATFORM", platform);
+    EXPECT_FALSE(PrefersX({"pixano"}));
+    qputenv("DISPLAY", display);
+}
+
 /// How the real program ended, and what it wrote.
 struct Ended {
     int status = -1;

@@ -1,0 +1,87 @@
+#include "windows/file_dialog.h"
+
+#include "windows/free_screen.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace pixano {
+namespace {
+
+/// The folder, or the nearest one above it that is still there.
+QString ExistingFolder(const QString& folder)
+{
+    QString path = QDir::cleanPath(QDir().absoluteFilePath(folder));
+    while (!QFileInfo(path).isDir() && path != QDir::rootPath())
+        path = QFileInfo(path).path();
+    return path;
+}
+
+/// The toolkit takes quotation marks for those around several names, and has no answer to a name
+/// that no file can have.
+bool IsLostOnToolkit(const QString& text)
+{
+    constexpr qsizetype LongestName = 255;
+    const QStringList names = text.split('/');
+    return text.contains('"') || std::ranges::any_of(names, [](const QString& name) {
+               return name.toUtf8().size() > LongestName;
+           });
+}
+
+}  // namespace
+
+FileDialog::FileDialog(FileLooks& looks, const QString& title, const QString& folder)
+    : QFileDialog(QApplication::activeWindow(), title)
+{
+    setObjectName("CommonDialog1");
+    setIconProvider(&looks);
+    setProxyModel(new ItalianFiles(this));
+    // A name that does not exist may be typed: the program has its own message for it.
+    setFileMode(QFileDialog::AnyFile);
+    setDirectory(ExistingFolder(folder));
+    auto* const name = findChild<QLineEdit*>("fileNameEdit");
+    // Whichever way a folder is entered: pressed, named, or from the list of places.
+    connect(findChild<QFileSystemModel*>(), &QFileSystemModel::rootPathChanged, name,
+            &QLineEdit::clear, Qt::QueuedConnection);
+}
+
+std::optional<QString> FileDialog::AskName()
+{
+    ShowWholeColumns();
+    if (exec() != QDialog::Accepted) return std::nullopt;
+    if (!typed_.isEmpty()) return typed_;
+    const QStringList names = selectedFiles();
+    if (names.isEmpty()) return std::nullopt;
+    return names.front();
+}
+
+void FileDialog::accept()
+{
+    const QString text = findChild<QLineEdit*>("fileNameEdit")->text();
+    if (!IsLostOnToolkit(text)) {
+        QFileDialog::accept();
+        return;
+    }
+    typed_ = directory().absoluteFilePath(text);
+    if (!defaultSuffix().isEmpty() && QFileInfo(typed_).suffix().isEmpty())
+        typed_ += '.' + defaultSuffix();
+    QDialog::accept();
+}
+
+/// The toolkit's own sizes cut the columns off, and are larger than a small screen.
+void FileDialog::ShowWholeColumns()
+{
+    constexpr QSize Roomy(780, 460);
+    resize(Roomy.boundedTo(LargestInside(*this)));
+    auto* const header = findChild<QTreeView*>("treeView")->header();
+    for (int column = 1; column < header->count(); ++column)
+        header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+}
+
+}  // namespace pixano

@@ -1,0 +1,33 @@
+// The file dialog, for opening and for saving alike: Italian whatever the system's locale is, and
+// with an answer to every name that is typed. Knows no picture.
+#pragma once
+
+#include "windows/file_looks.h"
+
+#include <QFileDialog>
+
+#include <optional>
+
+namespace pixano {
+
+class FileDialog : public QFileDialog {
+    Q_OBJECT
+
+  public:
+    /// Starts in `folder`, or in what is left of its path where that is gone. `looks` outlives it.
+    FileDialog(FileLooks& looks, const QString& title, const QString& folder);
+
+    /// The path chosen or typed; nothing when cancelled.
+    std::optional<QString> AskName();
+
+  protected:
+    void accept() override;
+
+  private:
+    void ShowWholeColumns();
+
+    /// What was typed where the toolkit itself would give no answer.
+    QString typed_;
+};
+
+}  // namespace pixano

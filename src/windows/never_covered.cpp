@@ -1,0 +1,42 @@
+#include "windows/never_covered.h"
+
+#include <QEvent>
+#include <QRegion>
+
+#include <utility>
+
+namespace pixano {
+namespace {
+
+bool IsOnScreen(const QWidget& window)
+{
+    return window.isVisible() && !window.isMinimized();
+}
+
+}  // namespace
+
+NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> large)
+    : small_(std::move(small)), large_(std::move(large))
+{
+    for (QWidget* const window : large_)
+        window->installEventFilter(this);
+}
+
+void NeverCovered::RaiseCovered() const
+{
+    QRegion covered;
+    for (const QWidget* const window : large_)
+        if (IsOnScreen(*window)) covered += window->frameGeometry();
+    for (QWidget* const window : small_)
+        if (IsOnScreen(*window) &&
+            covered.intersected(window->frameGeometry()) == QRegion(window->frameGeometry()))
+            window->raise();
+}
+
+bool NeverCovered::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate) RaiseCovered();
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace pixano

@@ -1,0 +1,30 @@
+// Keeps windows from being covered whole by larger ones that come to the front. Knows not what they
+// show.
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include <vector>
+
+namespace pixano {
+
+/// Whenever one of the larger windows comes to the front, the small ones that nothing would be seen
+/// of come with it. The windows outlive this.
+class NeverCovered : public QObject {
+    Q_OBJECT
+
+  public:
+    NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> large);
+
+    void RaiseCovered() const;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    std::vector<QWidget*> small_;
+    std::vector<QWidget*> large_;
+};
+
+}  // namespace pixano

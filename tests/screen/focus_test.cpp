@@ -1,0 +1,81 @@
+// Where the keyboard is after a command, and what becomes of windows that were minimised.
+#include "screen/desktop.h"
+
+namespace pixano::test {
+namespace {
+
+using Focus = Desktop;
+
+TEST_F(Focus, EndsWithTheMainWindowAfterTheFirstOpeningAndEveryOther)
+{
+    for (const int side : {300, 200}) {
+        OpenSized(side, side);
+        EXPECT_TRUE(Stays([this] { return IsActive(session.form1); })) << side;
+        EXPECT_TRUE(IsAbove(session.form1, session.form2));
+        EXPECT_TRUE(IsAbove(session.form10, session.form2));
+    }
+}
+
+TEST_F(Focus, LeavesABlankWithNothingToDoOnceItsButtonIsOff)
+{
+    struct Press {
+        const char* button;
+        History before;
+        History after;
+    };
+    OpenSized(30, 20);
+    for (const auto& [button, before, after] :
+         {Press{"SSCommand15", {true, true, false}, {false, true, true}},
+          Press{"SSCommand16", {false, true, true}, {true, false, true}},
+          Press{"SSCommand17", {true, false, true}, {true, true, false}}})
+        for (const char* const key : {"space", "Return"}) {
+            // Two effects, and from there to where the button is on.
+            Apply("Specchio");
+            Apply("Capovolgi");
+            if (before.ripristina) ClickEntry(before.originale ? entry::Undo : entry::Orig);
+            ASSERT_EQ(PaletteHistory(), before) << button;
+            Activate(session.form10);
+            Button(button).setFocus();
+            Do(QString("key ") + key);
+            EXPECT_TRUE(ComesToHold([&, last = after] { return PaletteHistory() == last; }))
+                << button;
+            Do(QString("key %1 %1").arg(key));
+            EXPECT_TRUE(Stays([&, last = after] { return PaletteHistory() == last; })) << button;
+        }
+}
+
+class Minimised : public Desktop {
+  protected:
+    void ExpectBack(QWidget& window)
+    {
+        EXPECT_TRUE(Stays([&] { return !IsIconic(window) && window.windowHandle()->isExposed(); }))
+            << window.objectName().toStdString();
+        EXPECT_FALSE(window.isMinimized());
+    }
+};
+
+TEST_F(Minimised, WindowsComeBackWhenAPictureIsOpened)
+{
+    OpenSized(300, 200);
+    Minimise(session.form1);
+    for (QWidget* const window : Companions())
+        Minimise(*window);
+    Open("b.bmp", Varied(40, 30));
+    ExpectBack(session.form1);
+    for (QWidget* const window : Companions())
+        ExpectBack(*window);
+    EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
+}
+
+TEST_F(Minimised, WindowsComeBackWhenThePreviewIsShown)
+{
+    OpenSized(300, 200);
+    Minimise(session.form9);
+    Minimise(session.form10);
+    Apply("Specchio");
+    ExpectBack(session.form9);
+    ExpectBack(session.form10);
+}
+
+}  // namespace
+}  // namespace pixano::test

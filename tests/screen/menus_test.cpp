@@ -1,0 +1,88 @@
+// The menus at hand from every window, whatever lies above the main window.
+#include "screen/desktop.h"
+
+#include <QMenu>
+
+namespace pixano::test {
+namespace {
+
+class MenusAtHand : public Desktop {
+  protected:
+    bool IsOpen(const char* menu) const
+    {
+        return session.form1.findChild<QMenu*>(menu)->isVisible();
+    }
+    void CloseMenus()
+    {
+        Do("key Escape Escape");
+        EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() == nullptr; }));
+    }
+};
+
+TEST_F(MenusAtHand, OpenAtTheirKeysFromEveryWindow)
+{
+    OpenSized(300, 200);
+    for (QWidget* const window : Companions())
+        for (const auto& [keys, menu] :
+             {std::pair("alt+f", "File"), {"alt+e", "Effetti"}, {"F10", "File"}}) {
+            Activate(*window);
+            Do(QString("key ") + keys);
+            EXPECT_TRUE(ComesToHold([&, name = menu] { return IsOpen(name); }))
+                << keys << " in " << window->objectName().toStdString();
+            EXPECT_TRUE(ComesToHold([this] { return IsActive(session.form1); }));
+            CloseMenus();
+        }
+}
+
+TEST_F(MenusAtHand, OpenFromAMinimisedMainWindow)
+{
+    OpenSized(300, 200);
+    Minimise(session.form1);
+    Activate(session.form2);
+    Do("key alt+f");
+    EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); }));
+    EXPECT_FALSE(IsIconic(session.form1));
+    CloseMenus();
+}
+
+TEST_F(MenusAtHand, OpenAtF10InTheMainWindow)
+{
+    Do("key F10");
+    EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); }));
+    CloseMenus();
+}
+
+TEST_F(MenusAtHand, StartAnEntryOfTheBarAtItsKeyWhileItIsOn)
+{
+    OpenSized(30, 20);
+    Apply("Specchio");
+    Activate(session.form2);
+    Do("key alt+o");
+    EXPECT_TRUE(ComesToHold([this] { return session.doc.InOriginale == 1; }));
+    // Off now: the same keys do nothing.
+    Activate(session.form9);
+    Do("key alt+o");
+    EXPECT_EQ(session.doc.InOriginale, 1);
+    EXPECT_EQ(MenuHistory(), (History{false, false, true}));
+}
+
+TEST_F(MenusAtHand, AreNeverCoveredByTheCanvasThatIsRaised)
+{
+    OpenSized(900, 700);
+    Apply("Specchio");
+    session.form2.showMaximized();
+    ASSERT_TRUE(ComesToHold([this] { return session.form2.width() > 1200; }));
+    for (const QWidget* const covered :
+         {static_cast<QWidget*>(&session.form1), static_cast<QWidget*>(&session.form10)}) {
+        Do("windowraise " + Id(session.form2));
+        ASSERT_TRUE(ComesToHold([&] { return IsAbove(session.form2, *covered); }));
+        ClickAt({60, 900});
+        EXPECT_TRUE(Stays([&] { return IsAbove(*covered, session.form2); }))
+            << covered->objectName().toStdString();
+        EXPECT_TRUE(IsActive(session.form2));
+        Activate(session.form1);
+    }
+}
+
+}  // namespace
+}  // namespace pixano::test

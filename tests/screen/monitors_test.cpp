@@ -1,0 +1,76 @@
+// A desk with two monitors: every window counts its place from the one that holds the main window.
+#include "panels/form11.h"
+#include "screen/desktop.h"
+
+namespace pixano::test {
+namespace {
+
+class TwoMonitors : public Desktop {
+  protected:
+    TwoMonitors() : right_(QApplication::screens().back()->geometry())
+    {
+        // The program starts on the left one, which begins at the origin.
+        EXPECT_EQ(QApplication::screens().size(), 2);
+        EXPECT_GT(right_.left(), 0);
+        Do(QString("windowmove --sync %1 %2 200").arg(Id(session.form1)).arg(right_.left() + 300));
+        EXPECT_TRUE(ComesToHold([this] { return right_.contains(session.form1.frameGeometry()); }));
+    }
+
+    void ExpectOnTheRight(const QWidget& window) const
+    {
+        EXPECT_TRUE(right_.contains(window.frameGeometry()))
+            << window.objectName().toStdString() << " begins at " << window.x();
+    }
+    /// In the middle of the right monitor, up to what rounding takes away.
+    void ExpectInTheMiddle(const QWidget& window) const
+    {
+        const QPoint apart = window.pos() + QPoint(window.width(), window.height()) / 2 -
+                             (right_.topLeft() + QPoint(right_.width(), right_.height()) / 2);
+        EXPECT_LE(apart.manhattanLength(), 2) << window.objectName().toStdString();
+    }
+
+    const QRect right_;
+};
+
+TEST_F(TwoMonitors, HoldCanvasPreviewAndPaletteBesideTheMainWindow)
+{
+    OpenSized(300, 200);
+    EXPECT_EQ(session.form2.pos(), right_.topLeft());
+    EXPECT_EQ(session.form10.pos(), right_.topLeft() + QPoint(right_.width() - 217, 0));
+    ExpectOnTheRight(session.form9);
+    EXPECT_LE(session.form9.frameGeometry().right(), session.form10.x());
+    Form11 slider("Vetro", session.form10);
+    slider.show();
+    EXPECT_EQ(slider.pos(), session.form10.pos() + QPoint(9, 40));
+}
+
+TEST_F(TwoMonitors, HoldLargePicturesAndTheGrowingPreviewOnTheRight)
+{
+    OpenSized(3000, 3000);
+    ExpectOnTheRight(session.form2);
+    ExpectOnTheRight(session.form9);
+    OpenSized(300, 200);
+    for (int i = 0; i < 9; ++i)
+        Button("Command1").click();
+    EXPECT_TRUE(Stays([this] { return right_.contains(session.form9.frameGeometry()); }));
+}
+
+TEST_F(TwoMonitors, HoldTheWindowsThatInformInTheirMiddle)
+{
+    for (const int index : {entry::Inf, entry::Inter}) {
+        QTimer::singleShot(0, [this] {
+            auto* const modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(modal, nullptr);
+            ExpectInTheMiddle(*modal);
+            modal->reject();
+        });
+        ClickEntry(index);
+    }
+    session.form4.setScreen(session.form1.screen());
+    session.form4.Show();
+    ExpectOnTheRight(session.form4);
+    session.form4.hide();
+}
+
+}  // namespace
+}  // namespace pixano::test

@@ -1,0 +1,107 @@
+// Where the window manager really puts the windows, and what of a picture is seen in them.
+#include "screen/desktop.h"
+
+namespace pixano::test {
+namespace {
+
+struct Sized {
+    int width;
+    int height;
+};
+
+class Places : public Desktop {
+  protected:
+    QRect Canvas() const { return session.form2.frameGeometry(); }
+    QRect Preview() const { return session.form9.frameGeometry(); }
+    int StripLeft() const { return session.form1.screen()->geometry().right() + 1 - 217; }
+    /// Whether it is smaller than what it shows.
+    static bool IsHeld(const HeldWindow& window)
+    {
+        const QSize whole = window.widget()->size();
+        return window.width() < whole.width() || window.height() < whole.height();
+    }
+    /// The title bars, without what the frame has at the sides.
+    static QRect TitleOf(const QWidget& window)
+    {
+        const QRect frame = window.frameGeometry();
+        return {frame.topLeft(), QSize(frame.width(), window.geometry().top() - frame.top())};
+    }
+};
+
+TEST_F(Places, LeaveThePaletteFreeWhereAPictureIsHeld)
+{
+    // In one direction and in both, after a small picture each time.
+    for (const auto& [width, height] : {Sized{2000, 2000}, Sized{2000, 50}, Sized{50, 2000},
+                                        Sized{1200, 2000}, Sized{1100, 900}}) {
+        OpenSized(40, 30);
+        OpenSized(width, height);
+        for (const HeldWindow* const window :
+             std::initializer_list<HeldWindow*>{&session.form2, &session.form9}) {
+            if (!IsHeld(*window)) continue;
+            EXPECT_LT(window->frameGeometry().right(), StripLeft())
+                << window->objectName().toStdString() << " of " << width << "x" << height;
+        }
+    }
+}
+
+TEST_F(Places, ThePreviewInItsCornerOnEveryOpening)
+{
+    OpenSized(200, 100);
+    const QPoint corner = Preview().bottomRight();
+    OpenSized(2000, 2000);
+    OpenSized(200, 100);
+    EXPECT_EQ(Preview().bottomRight(), corner);
+    EXPECT_FALSE(Preview().intersects(Canvas()));
+    OpenSized(400, 300);
+    EXPECT_EQ(Preview().bottomRight(), corner);
+}
+
+TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
+{
+    OpenSized(200, 100);
+    // A person takes longer than a window manager.
+    QTest::qWait(350);
+    Do("windowmove --sync " + Id(session.form9) + " 500 430");
+    ASSERT_TRUE(ComesToHold([this] { return session.form9.x() > 400 && session.form9.x() < 600; }));
+    const QPoint moved = session.form9.pos();
+    OpenSized(220, 120);
+    EXPECT_EQ(session.form9.pos(), moved);
+}
+
+TEST_F(Places, TheTitlesOfCanvasAndPreviewApart)
+{
+    for (const int side : {2000, 890}) {
+        OpenSized(side, side);
+        EXPECT_FALSE(TitleOf(session.form9).intersects(TitleOf(session.form2))) << side;
+        EXPECT_FALSE(Preview().contains(TitleOf(session.form2))) << side;
+        EXPECT_TRUE(session.form9.screen()->geometry().contains(Preview())) << side;
+    }
+}
+
+TEST_F(Places, ABarWhereverColumnsOrRowsAreNotSeen)
+{
+    for (const auto& [width, height] : {Sized{100, 2000}, Sized{2000, 100}, Sized{2000, 2000}}) {
+        OpenSized(width, height);
+        for (const HeldWindow* const window :
+             std::initializer_list<HeldWindow*>{&session.form2, &session.form9}) {
+            const QSize seen = window->viewport()->size();
+            const QSize whole = window->widget()->size();
+            EXPECT_EQ(window->horizontalScrollBar()->isVisible(), seen.width() < whole.width())
+                << width << "x" << height;
+            EXPECT_EQ(window->verticalScrollBar()->isVisible(), seen.height() < whole.height());
+        }
+    }
+}
+
+TEST_F(Places, AllColumnsAndRowsOfSmallPictures)
+{
+    for (const int side : {1, 10, 39, 100}) {
+        OpenSized(side, side);
+        EXPECT_TRUE(QRect({}, session.form2.viewport()->size())
+                        .contains(QRect({}, session.form2.Picture1().size())))
+            << side;
+    }
+}
+
+}  // namespace
+}  // namespace pixano::test
