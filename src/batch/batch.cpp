@@ -52,7 +52,7 @@ int Print(const std::string& text)
     return Complain(UnprintedText(errno), SomethingFailed);
 }
 
-Recipe RecipeOf(const CommandLine& line, const std::string& ownFolder)
+Recipe ReadRecipe(const CommandLine& line, const std::string& ownFolder)
 {
     Recipe recipe{line.steps, {}, line.seed, line.within};
     if (line.quality) recipe.quality = *line.quality;
@@ -108,7 +108,7 @@ int RunPictures(const CommandLine& line, const std::string& ownFolder)
         throw WrongCommandLine("Un'immagine non si scrive su un terminale: manca \"> FILE\"");
     const auto pictures = PlanPictures(line);
     RequireFolder(line);
-    const Recipe recipe = RecipeOf(line, ownFolder);
+    const Recipe recipe = ReadRecipe(line, ownFolder);
     return RunJobs(pictures, line, [&](std::size_t place, ChainProgress& progress) {
         return RunPictureJob(pictures[place], recipe, progress);
     });

@@ -32,7 +32,7 @@ void WriteOutput(const Surface& surface, const std::string& name, const Extras& 
         Save(surface, name, extras);
 }
 
-Outcome Done(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
+Outcome DoPicture(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
 {
     PictureRead read = ReadInput(picture.input);
     if (recipe.within) read.picture = ShrunkWithin(std::move(read.picture), *recipe.within);
@@ -60,7 +60,7 @@ std::string NoticeOf(const std::string& input, bool truncated)
 Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, ChainProgress& progress)
 {
     try {
-        return Done(picture, recipe, progress);
+        return DoPicture(picture, recipe, progress);
     } catch (const PictureError& error) {
         return {false, "", "", error.what()};  // which names the file
     } catch (const std::bad_alloc&) {

@@ -29,7 +29,7 @@ void Abilita(const Session& s)
     SwitchAll(s, {Needs::Picture}, true);
 }
 
-void DisableHistory(const Session& s)
+void DisableHistory(Session& s)
 {
     SwitchAll(s, {Needs::History}, false);
     s.form10.EnableHistory({.annulla = false, .originale = false, .ripristina = false});

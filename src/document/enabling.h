@@ -12,6 +12,6 @@ void Disabil(const Session& s);
 void Abilita(const Session& s);
 
 /// Switches "&Annulla", "&Originale" and "&Ripristina" off, on the palette too.
-void DisableHistory(const Session& s);
+void DisableHistory(Session& s);
 
 }  // namespace pixano

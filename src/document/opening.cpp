@@ -91,7 +91,7 @@ void Open(Session& s, AskName askName)
         if (outcome == SaveOutcome::Failed) return;
         if (outcome == SaveOutcome::Saved) modified.Done();
     }
-    const QString remembered = RememberedPath(d).value_or(d.NomeFile);
+    const QString remembered = ReadRememberedPath(d).value_or(d.NomeFile);
     const std::optional<QString> name = askName(remembered);
     if (!name) return;
     try {

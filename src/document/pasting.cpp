@@ -38,7 +38,7 @@ QString PastedPrefix()
 }
 
 /// A picture without a file gets one: "Originale" reads it again.
-QString KeptAsFile(Session& s, const QImage& image)
+QString KeepAsFile(Session& s, const QImage& image)
 {
     const QString stamp = QDateTime::currentDateTime().toString("HHmmss-zzz");
     QString name = PastedPrefix() + stamp + ".bmp";
@@ -58,7 +58,7 @@ void OpenPasted(Session& s)
     if (urls.size() == 1 && urls.front().isLocalFile())
         OpenNamed(s, LocalFile(urls.front()));
     else if (const auto image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
-        OpenNamed(s, KeptAsFile(s, image));
+        OpenNamed(s, KeepAsFile(s, image));
 }
 
 bool IsPasted(const QString& path)

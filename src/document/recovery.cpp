@@ -80,7 +80,7 @@ void TellLost(Session& s, const QString& ofPicture, const QString& reason, const
 }
 
 /// The noted copy, if it is the picture that was noted. Throws PictureError.
-Surface NotedPicture(const RecoveryNote& note)
+Surface ReadNotedPicture(const RecoveryNote& note)
 {
     PictureRead read = ReadWorkingPicture(FileBytes(note.copy));
     const bool noted = !read.truncated && read.picture.Width() == note.width &&
@@ -118,7 +118,7 @@ void Offer(Session& s, const RecoveryNote& note)
     const QString ofPicture = " all'immagine " + QFileInfo(note.picture).fileName();
     Surface picture;
     try {
-        picture = NotedPicture(note);
+        picture = ReadNotedPicture(note);
     } catch (const PictureError& error) {
         TellLost(s, ofPicture, QString::fromUtf8(error.what()), note.copy);
         return;

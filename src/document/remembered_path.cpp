@@ -18,7 +18,7 @@ std::string FileOf(const Document& doc)
 
 }  // namespace
 
-std::optional<QString> RememberedPath(const Document& doc)
+std::optional<QString> ReadRememberedPath(const Document& doc)
 {
     if (doc.CartellaAvvio.isEmpty()) return std::nullopt;
     std::string kept;

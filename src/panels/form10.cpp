@@ -181,7 +181,7 @@ bool Form10::FitsItsWidth()
     return layout()->minimumSize().width() <= InsideWidth();
 }
 
-void Form10::EnableHistory(const HistorySwitches& switches) const
+void Form10::EnableHistory(const HistorySwitches& switches)
 {
     Apply(*this, "SSCommand15", switches.annulla);
     Apply(*this, "SSCommand16", switches.originale);

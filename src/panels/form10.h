@@ -29,7 +29,7 @@ class Form10 : public QWidget {
     /// `buttons` outlives the window.
     explicit Form10(PaletteTable buttons);
 
-    void EnableHistory(const HistorySwitches& switches) const;
+    void EnableHistory(const HistorySwitches& switches);
     /// The mouse pointer of a program that is at work, or the usual one.
     void ShowHourglass(bool shown);
 

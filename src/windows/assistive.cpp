@@ -22,7 +22,7 @@ class TitledWindow : public QAccessibleWidget {
 };
 
 /// The toolkit asks by the name of the widget's class; it may ask before the widget has its place.
-QAccessibleInterface* Told(const QString& className, QObject* object)
+QAccessibleInterface* MakeInterface(const QString& className, QObject* object)
 {
     static const QStringList pictures{"pixano::PictureBox", "pixano::ImageControl"};
     static const QStringList windows{"pixano::Form2", "pixano::Form4", "pixano::Form9",
@@ -38,7 +38,7 @@ QAccessibleInterface* Told(const QString& className, QObject* object)
 
 void TellAssistiveTools()
 {
-    QAccessible::installFactory(Told);
+    QAccessible::installFactory(MakeInterface);
 }
 
 }  // namespace pixano

@@ -47,9 +47,9 @@ Form1::Form1(MenuTable entries) : entries_(entries)
 int Form1::InsideWidth() const
 {
     constexpr int Roomy = 520;
-    constexpr int Borders = 8;
+    constexpr int BothSides = 8;
     // In the middle of the screen, and yet beside the palette if the menus allow it.
-    const int beside = screen()->size().width() - 2 * PaletteStrip() - Borders;
+    const int beside = screen()->size().width() - 2 * PaletteStrip() - BothSides;
     return std::max(std::min(Roomy, beside), menuBar()->sizeHint().width());
 }
 

@@ -121,7 +121,7 @@ std::vector<GivenCommand> FileCommands()
         };
     };
     const auto opens = [](Desk& d) { d.Open(AtHome("b.bmp")); };
-    const auto drops = [](Desk& d) { emit d.session.form2.Dropped(AtHome("b.bmp")); };
+    const auto drops = [](Desk& d) { emit d.session.drops.Dropped(AtHome("b.bmp")); };
     const auto pastes = [](Desk& d) { emit d.session.form1.Pasted(); };
     const auto copies = [](Desk&) {
         QImage image(5, 3, QImage::Format_RGB32);
