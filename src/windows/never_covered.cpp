@@ -35,7 +35,15 @@ void NeverCovered::RaiseCovered() const
 
 bool NeverCovered::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate) RaiseCovered();
+    switch (event->type()) {
+    case QEvent::WindowActivate:
+    case QEvent::Move:
+    case QEvent::Resize:
+        RaiseCovered();
+        break;
+    default:
+        break;
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -9,8 +9,8 @@
 
 namespace pixano {
 
-/// Whenever one of the larger windows comes to the front, the small ones that nothing would be seen
-/// of come with it. The windows outlive this.
+/// Whenever one of the larger windows comes to the front, moves or grows, the small ones that
+/// nothing would be seen of come with it. The windows outlive this.
 class NeverCovered : public QObject {
     Q_OBJECT
 

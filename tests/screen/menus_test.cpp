@@ -84,5 +84,21 @@ TEST_F(MenusAtHand, AreNeverCoveredByTheCanvasThatIsRaised)
     }
 }
 
+TEST_F(MenusAtHand, AreNeverCoveredByAWindowThatIsPressedOnceMore)
+{
+    OpenSized(2000, 2000);
+    for (HeldWindow* const window :
+         std::initializer_list<HeldWindow*>{&session.form2, &session.form9}) {
+        Activate(*window);
+        for (int i = 0; i < 2; ++i) {
+            Do("windowraise " + Id(*window));
+            ASSERT_TRUE(ComesToHold([&] { return IsAbove(*window, session.form1); }));
+            ClickAt({60, 900});
+            EXPECT_TRUE(Stays([&] { return IsAbove(session.form1, *window); }))
+                << window->objectName().toStdString();
+        }
+    }
+}
+
 }  // namespace
 }  // namespace pixano::test
