@@ -69,7 +69,7 @@ std::string NumberText(double number)
 {
     std::array<char, 32> digits{};
     char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return std::string(digits.data(), end);
+    return {digits.data(), end};
 }
 
 std::string StepText(const Step& step)
@@ -81,9 +81,9 @@ std::string StepText(const Step& step)
 
 std::string Image(const SmallPicture& shown, std::string_view name)
 {
-    return "<img src=\"" + Escaped(shown.file) + "\" alt=\"" + Escaped(name) + "\" width=\"" +
-           std::to_string(shown.width) + "\" height=\"" + std::to_string(shown.height) +
-           "\" loading=\"lazy\">";
+    return R"(<img src=")" + Escaped(shown.file) + R"(" alt=")" + Escaped(name) + R"(" width=")" +
+           std::to_string(shown.width) + R"(" height=")" + std::to_string(shown.height) +
+           R"(" loading="lazy">)";
 }
 
 std::string Figure(const SheetContents& contents, const SheetEntry& entry)

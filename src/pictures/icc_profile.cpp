@@ -133,7 +133,7 @@ Profile FromGif(ByteSource& source)
     constexpr int Extension = 0x21;
     const Profile head = Taken(source, 13);
     if (head.size() < 13) return {};
-    const unsigned flags = std::to_integer<unsigned>(head[10]);
+    const auto flags = std::to_integer<unsigned>(head[10]);
     if ((flags & 0x80) != 0) source.Seek(source.Position() + (std::uint64_t{6} << (flags & 7)));
     while (source.Next() == Extension) {
         const bool application = source.Next() == 0xFF;

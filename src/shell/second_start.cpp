@@ -22,8 +22,6 @@
 namespace pixano {
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr const char* SocketName = "pixano.socket";
 /// A message is one of these letters, the first one followed by a path.
 constexpr char Open = 'A';
@@ -88,7 +86,7 @@ std::optional<QString> PictureIn(const Descriptor& connection)
 
 bool HandOver(const QString& folder, const QString& picture)
 {
-    const QDeadlineTimer end(2s);
+    const QDeadlineTimer end(std::chrono::seconds(2));
     const Descriptor place = FolderAt(folder);
     const sockaddr_un address = AddressIn(place);
     const Descriptor socket = NewSocket();
@@ -132,7 +130,7 @@ void SecondStarts::Answer()
     const Descriptor connection(
         accept4(socket_.Number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (!connection || !IsOfThisUser(connection)) return;
-    if (!ComesBy(connection, QDeadlineTimer(100ms))) return;
+    if (!ComesBy(connection, QDeadlineTimer(std::chrono::milliseconds(100)))) return;
     const std::optional<QString> picture = PictureIn(connection);
     // Whoever has given up by now has said so to the user.
     if (picture && send(connection.Number(), &Heard, 1, MSG_NOSIGNAL) == 1) emit Called(*picture);

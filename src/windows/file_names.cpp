@@ -14,8 +14,8 @@ constexpr char16_t FirstEscape = 0xDC00;
 /// The character that the bytes begin with, and how many they are; empty where they are no UTF-8.
 std::pair<QString, std::size_t> FirstCharacter(std::string_view bytes)
 {
-    constexpr std::size_t Longest = 4;
-    for (std::size_t length = 1; length <= std::min(Longest, bytes.size()); ++length) {
+    constexpr std::size_t LongestCharacter = 4;
+    for (std::size_t length = 1; length <= std::min(LongestCharacter, bytes.size()); ++length) {
         const std::string_view piece = bytes.substr(0, length);
         QString text = QString::fromUtf8(piece.data(), static_cast<qsizetype>(length));
         if (text.toUtf8() == QByteArrayView(piece)) return {std::move(text), length};
