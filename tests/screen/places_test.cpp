@@ -74,7 +74,9 @@ TEST_F(Places, TheTitlesOfCanvasAndPreviewApart)
         OpenSized(side, side);
         EXPECT_FALSE(TitleOf(session.form9).intersects(TitleOf(session.form2))) << side;
         EXPECT_FALSE(Preview().contains(TitleOf(session.form2))) << side;
-        EXPECT_TRUE(session.form9.screen()->geometry().contains(Preview())) << side;
+        EXPECT_TRUE(ComesToHold([this] {
+            return session.form9.screen()->geometry().contains(Preview());
+        })) << side;
     }
 }
 
