@@ -122,7 +122,7 @@ void Form1::Use(QAction& entry)
 
 void Form1::OpenMenu(QAction& entry)
 {
-    constexpr int Patience = 300;
+    constexpr int Patience = 1000;
     BringForward(*this);
     awaited_ = &entry;
     // A desktop that gives the focus as it likes lets a menu open only while its key is held.

@@ -58,6 +58,7 @@ TEST_F(Dragging, CopiesAFileOntoEveryWindow)
           static_cast<QWidget*>(&session.form9), static_cast<QWidget*>(&session.form10)}) {
         Open("200x150.bmp", Varied(200, 150));
         WaitForWindows();
+        EXPECT_TRUE(Stays([this] { return !session.form9.MovedByUser(); }));
         DragTo(manager, *window, {5, window->height() - 5});
         EXPECT_EQ(manager.answer, Qt::CopyAction) << window->objectName().toStdString();
         EXPECT_TRUE(ComesToHold([this] { return CanvasCaption() == "b.bmp   3x1"; }))
