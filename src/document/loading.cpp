@@ -83,10 +83,10 @@ void Carica(Session& s, Surface picture)
     PutOnCanvas(w, std::move(picture));
     s.form2.Picture1().FitPicture();
     s.form2.setScreen(s.form1.screen());
-    s.form2.move(s.form1.screen()->geometry().topLeft());
     // Of the smallest pictures, though, the border would hide columns.
     s.form2.SetInside(QSize(Pixels(w.Larg * CanvasWidth), Pixels(w.Alt * CanvasHeight))
                           .expandedTo(s.form2.Picture1().size()));
+    s.form2.PlaceAt(s.form1.screen()->geometry().topLeft());
     ShowCanvas(s);
     s.form9.Image1().SetStretch(false);
     s.form9.Image1().SetPicture(w.Picture1);
