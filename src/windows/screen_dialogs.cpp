@@ -79,10 +79,14 @@ void WrapLongNames(QMessageBox& box)
 {
     constexpr int Comfortable = 500;
     auto* const own = box.findChild<QLabel*>("qt_msgbox_label");
-    const int width = std::min(Comfortable, LargestInside(box).width() / 2);
+    const QSize most = LargestInside(box);
+    const int width = std::min(Comfortable, most.width() / 2);
     own->setWordWrap(true);
-    if (own->minimumSizeHint().width() <= width) return;
-    auto* const text = new WrappedText(box.text(), width);
+    // A small screen has no room for a long text at half its width either.
+    const bool tall = own->heightForWidth(width) > most.height() / 2;
+    if (own->minimumSizeHint().width() <= width && !tall) return;
+    auto* const text =
+        new WrappedText(box.text(), tall ? std::min(Comfortable, most.width() * 3 / 4) : width);
     delete box.layout()->replaceWidget(own, text);
     box.layout()->setAlignment(text, Qt::AlignLeft | Qt::AlignVCenter);
     own->hide();

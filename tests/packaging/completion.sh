@@ -50,7 +50,7 @@ for name in pixano pixano-batch; do
         [[ $word == .* ]] || grep -qE -- "(^|[ '])$word([ ']|\$)" "$project/packaging/completion/$name" ||
             fail "FAILED: the completion of $name does not offer $word"
         for page in "$project/packaging/man"/{,it/}"$name.1"; do
-            sed 's/\\-/-/g' "$page" | grep -qE -- "(^|[ /\"])${word/./\\.}([ \",.]|\$)" ||
+            grep -qE -- "(^|[ /\"])${word/./\\.}([ \",.]|\$)" <<<"$(sed 's/\\-/-/g' "$page")" ||
                 fail "FAILED: $page does not tell of $word"
         done
     done

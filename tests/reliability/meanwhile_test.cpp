@@ -121,6 +121,17 @@ TEST_F(WhileAnEffectRuns, NoOtherCommandStarts)
     }
 }
 
+/// What a key does: it waits in the queue for as long as a command runs.
+void WhenNothingRuns(Session& session, const std::function<void()>& act)
+{
+    QTimer::singleShot(0, &session.form1, [&session, act] {
+        if (session.busy)
+            WhenNothingRuns(session, act);
+        else
+            act();
+    });
+}
+
 /// Keys and clicks that wait until the effect has ended are commands like any others then.
 TEST_F(WhileAnEffectRuns, WhatIsQueuedComesAfterwards)
 {
@@ -136,15 +147,12 @@ TEST_F(WhileAnEffectRuns, WhatIsQueuedComesAfterwards)
             const Meanwhile meanwhile(session, [&] {
                 if (random() % 2 != 0 || queued == 5) return;
                 ++queued;
-                QMetaObject::invokeMethod(
-                    &session.form1.Control(31), [&] { session.form1.Control(31).trigger(); },
-                    Qt::QueuedConnection);
+                WhenNothingRuns(session, [&] { session.form1.Control(31).trigger(); });
             });
             busy.desk.Apply("Specchio");
             EXPECT_EQ(session.doc.NumEffetti, before + 1) << "one at a time";
         }
-        QCoreApplication::processEvents();
-        EXPECT_EQ(session.doc.NumEffetti, before + 1 + queued);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return session.doc.NumEffetti == before + 1 + queued; }));
         EXPECT_TRUE(busy.desk.dialogs.told.empty());
     }
 }

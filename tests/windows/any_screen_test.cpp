@@ -230,6 +230,13 @@ TEST_F(AnyScreen, WrapsAMessageOfShortWordsAsTheToolkitDoes)
         EXPECT_GE(label->width(), label->minimumSizeHint().width());
         EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     });
+    screen.Tell(BoxIcon::Exclamation, "Attenzione!", QString("parole ").repeated(15) + '.');
+}
+
+TEST_F(AnyScreen, HoldsAMessageOfManyWords)
+{
+    ScreenDialogs screen;
+    WhileShown<QMessageBox>([](QMessageBox& box) { ExpectOnScreen(box); });
     screen.Tell(BoxIcon::Exclamation, "Attenzione!", QString("parole ").repeated(60) + '.');
 }
 
