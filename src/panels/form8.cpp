@@ -30,18 +30,7 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     auto* const label = new QLabel("Sottrazione Colore");
     label->setObjectName("Label1");
     label->setBuddy(combo1_);
-    combo1_->setObjectName("Combo1");
-    combo1_->setAccessibleName("Sottrazione Colore");
-    combo1_->setEditable(true);
-    combo1_->setInsertPolicy(QComboBox::NoInsert);
-    // It would make "100" of a "1", and swallow the return key.
-    combo1_->setCompleter(nullptr);
-    constexpr int Step = 20;
-    constexpr int Last = 200;
-    for (int value = Step; value <= Last; value += Step)
-        combo1_->addItem(QString::number(value));
-    combo1_->installEventFilter(this);
-    combo1_->lineEdit()->installEventFilter(this);
+    BuildCombo();
     auto* const ok = new QPushButton("OK");
     ok->setObjectName("Command1");
     ok->setDefault(true);
@@ -66,6 +55,22 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     connect(this, &QDialog::rejected, this, [this] { result_.ParametriAnnullati = 1; });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     Centre(*this);
+}
+
+void Form8::BuildCombo()
+{
+    combo1_->setObjectName("Combo1");
+    combo1_->setAccessibleName("Sottrazione Colore");
+    combo1_->setEditable(true);
+    combo1_->setInsertPolicy(QComboBox::NoInsert);
+    // It would make "100" of a "1", and swallow the return key.
+    combo1_->setCompleter(nullptr);
+    constexpr int Step = 20;
+    constexpr int Last = 200;
+    for (int value = Step; value <= Last; value += Step)
+        combo1_->addItem(QString::number(value));
+    combo1_->installEventFilter(this);
+    combo1_->lineEdit()->installEventFilter(this);
 }
 
 bool Form8::eventFilter(QObject* watched, QEvent* event)

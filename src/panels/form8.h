@@ -25,6 +25,7 @@ class Form8 : public QDialog {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void BuildCombo();
     /// Below 1 becomes "10", not "1": kept exactly; above 200 becomes "200".
     void BoundText();
 
