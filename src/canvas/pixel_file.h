@@ -4,9 +4,12 @@
 
 #include "canvas/surface.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <utility>
 
 namespace pixano {
 
@@ -61,6 +64,19 @@ class PixelFile {
         if (next_ == window_.last) [[unlikely]]
             Refill();
         return *next_++;
+    }
+    /// Reads the next `count` values and calls `step(i, value)` for each, i from 0: as many calls
+    /// of `Input`, in loops that the compiler knows the length of. Throws what they throw.
+    template <typename Step>
+    void Input(int count, Step step)
+    {
+        for (int i = 0; i < count;) {
+            if (next_ == window_.last) Refill();
+            const int end =
+                i + static_cast<int>(std::min<std::ptrdiff_t>(count - i, window_.last - next_));
+            for (const Colour* value = std::exchange(next_, next_ + (end - i)); i < end; ++i)
+                step(i, *value++);
+        }
     }
     /// Closes the file; what was written is complete afterwards. Throws DiskFull.
     void Close();

@@ -41,6 +41,12 @@ class Work {
 
     /// The next value of the pixel working file.
     Colour Input() { return ElabSer.Input(); }
+    /// The next `count` values, handed to `step(i, value)` one by one.
+    template <typename Step>
+    void Input(int count, Step step)
+    {
+        ElabSer.Input(count, std::move(step));
+    }
 
     /// Uniform in [0, 1).
     double Rnd() { return random_.Rnd(); }

@@ -13,7 +13,9 @@ void InPlace(Work& w, Step step)
     w.ShowProgress();
     for (int y = 0; y <= w.Alt - 1; ++y) {
         w.Avanzamento(y);
-        for (int x = 0; x <= w.Larg - 1; ++x)
+        // No painted pixel can be this: it is not read anew at every one.
+        const int right = w.Larg - 1;
+        for (int x = 0; x <= right; ++x)
             step(x, y);
     }
 }

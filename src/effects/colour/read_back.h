@@ -15,8 +15,7 @@ void ReadBack(Work& w, Step step)
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
-        for (int x = 0; x <= w.Larg; ++x)
-            step(x, y, w.Input());
+        w.Input(w.Larg + 1, [step, y](int x, Colour c) { step(x, y, c); });
     }
 }
 

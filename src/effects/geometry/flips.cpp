@@ -12,8 +12,9 @@ void Capov(Work& w)
     w.ShowProgress();
     for (int y = w.Alt; y >= 0; --y) {
         w.Avanzamento(w.Alt - y);
-        for (int x = w.Larg; x >= 0; --x)
-            w.Picture1.PSet(x, y - 1, w.Input());
+        w.Input(w.Larg + 1, [&canvas = w.Picture1, right = w.Larg, y](int i, Colour c) {
+            canvas.PSet(right - i, y - 1, c);
+        });
     }
 }
 
@@ -24,8 +25,9 @@ void Specchio(Work& w)
     w.ShowProgress();
     for (int y = 0; y <= w.Alt; ++y) {
         w.Avanzamento(y);
-        for (int x = w.Larg; x >= 0; --x)
-            w.Picture1.PSet(x - 1, y, w.Input());
+        w.Input(w.Larg + 1, [&canvas = w.Picture1, right = w.Larg, y](int i, Colour c) {
+            canvas.PSet(right - i - 1, y, c);
+        });
     }
 }
 
@@ -36,8 +38,8 @@ void CapovSpec(Work& w)
     w.ShowProgress();
     for (int y = w.Alt; y >= 0; --y) {
         w.Avanzamento(w.Alt - y);
-        for (int x = 0; x <= w.Larg; ++x)
-            w.Picture1.PSet(x, y - 1, w.Input());
+        w.Input(w.Larg + 1,
+                [&canvas = w.Picture1, y](int x, Colour c) { canvas.PSet(x, y - 1, c); });
     }
 }
 
