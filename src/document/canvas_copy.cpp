@@ -44,7 +44,7 @@ void SecureCanvas(Session& s)
     if (s.doc.canvasCopy.isEmpty()) WriteCopy(s);
     if (s.doc.canvasCopy.isEmpty())
         s.remarks += "Dell'immagine modificata non c'è nessuna copia su disco: conviene salvarla";
-    else if (s.doc.canvasCopy != s.doc.notedCopy)
+    else if (s.doc.canvasCopy != s.doc.notedCopy || !RecoveryNoteThere())
         WriteNote(s);
 }
 

@@ -1,25 +1,34 @@
 #include "document/places.h"
 
-#include "canvas/fault.h"
+#include "files/refusal.h"
 #include "windows/file_names.h"
 
-#include <QDir>
-#include <QFile>
 #include <QStandardPaths>
+
+#include <filesystem>
 
 namespace pixano {
 
+namespace fs = std::filesystem;
+
 QString DataFolder()
 {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    if (!QDir().mkpath(folder))
-        throw Fault(FaultKind::FileAccess,
-                    "Impossibile creare la cartella «" + FileBytes(folder) + "»");
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+QString MakeDataFolder()
+{
+    QString folder = DataFolder();
+    const std::string path = FileBytes(folder);
+    std::error_code error;
+    TellRefusal("creare la cartella", path, [&] {
+        fs::create_directories(path, error);
+        if (error) throw Refusal(error.value());
+    });
     // Somebody may have made it before, open to all.
-    constexpr auto Private = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
-                            QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-    if (QFile::permissions(folder).testAnyFlags(Others)) QFile::setPermissions(folder, Private);
+    const bool open =
+        (fs::status(path, error).permissions() & ~fs::perms::owner_all) != fs::perms::none;
+    if (open) fs::permissions(path, fs::perms::owner_all, error);
     return folder;
 }
 

@@ -5,9 +5,13 @@
 
 namespace pixano {
 
-/// The private folder of this user's working files, made (mode 0700) when it is not there. Throws
-/// Fault FileAccess when it cannot be made.
+/// The private folder of this user's working files, whether or not it is there. To say where a file
+/// lies no call is made that could fail.
 QString DataFolder();
+
+/// The same before something is written into it: it is made (mode 0700) when it is not there, and
+/// closed to others when it was open to them. Throws Fault FileAccess when it cannot be made.
+QString MakeDataFolder();
 
 /// The native path, in full, of a name as the program uses it: "c:\name" lies in the data folder,
 /// every other name is native, and lies in the current folder unless it says where.

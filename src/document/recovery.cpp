@@ -44,12 +44,12 @@ bool IsOurs(const QString& path)
 QString PutAside(const QString& copy, const Surface& picture)
 {
     try {
-        QString aside = AsideName(DataFolder());
+        QString aside = AsideName(MakeDataFolder());
         SavePrivateBitmap(picture, FileBytes(aside));
         RemoveRecoveryNote();
         if (IsOurs(copy)) unlink(FileBytes(copy).c_str());
         return aside;
-    } catch (const PictureError&) {
+    } catch (const Fault&) {
         if (!IsOurs(copy)) return copy;
         // A full disk has no room for a second picture, but it has for a name.
         const QString beside = AsideName(QFileInfo(copy).path());

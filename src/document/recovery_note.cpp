@@ -62,6 +62,7 @@ void WriteRecoveryNote(const RecoveryNote& note)
     const QByteArray text = Encoded(note.copy) + '\n' + Encoded(note.picture) + '\n' +
                             QByteArray::number(note.width) + '\n' +
                             QByteArray::number(note.height) + '\n';
+    MakeDataFolder();
     const std::string path = FileBytes(RecoveryNotePath());
     TellRefusal("scrivere", path, [&] { ReplaceOwnFile(path, text.toStdString()); });
 }

@@ -10,7 +10,9 @@ namespace pixano {
 
 void SaveWorkingPicture(const Surface& surface, const QString& name)
 {
-    WriteWorkingBitmap(surface, FileBytes(NativePath(name)));
+    const QString path = NativePath(name);
+    if (path.startsWith(DataFolder() + '/')) MakeDataFolder();
+    WriteWorkingBitmap(surface, FileBytes(path));
 }
 
 Surface LoadWorkingPicture(const QString& name, const Surface& like)

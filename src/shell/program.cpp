@@ -56,7 +56,7 @@ QIcon ProgramIcon()
 /// data folder, and keeps the strengths there from one run to the next.
 void WorkInDataFolder(Session& s)
 {
-    const QString folder = DataFolder();
+    const QString folder = MakeDataFolder();
     const QString strengths = folder + '/' + file::Strengths;
     if (!QFile::exists(strengths) &&
         QFile::copy(s.programFolder + '/' + file::Strengths, strengths))
@@ -160,7 +160,7 @@ void PrepareApplication(QApplication& application)
 
 int RunAsOnlyInstance(Session& session, const Options& options)
 {
-    const QString folder = DataFolder();
+    const QString folder = MakeDataFolder();
     const OnlyInstance only(folder + "/pixano.lock");
     if (!only) {
         if (HandOver(folder, PictureIn(options))) return 0;

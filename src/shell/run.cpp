@@ -22,7 +22,7 @@ QString KeepUnsavedWork(const Session& s)
     if (s.doc.Modificato == 0) return {};
     try {
         const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
-        const QString path = DataFolder() + "/lavoro-" + stamp + ".bmp";
+        const QString path = MakeDataFolder() + "/lavoro-" + stamp + ".bmp";
         const Surface& canvas = s.work.Picture1;
         if (s.drawing)
             SavePrivateBitmap(LoadWorkingPicture(s.doc.FileUndo, canvas), FileBytes(path));

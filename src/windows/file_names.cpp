@@ -1,6 +1,7 @@
 #include "windows/file_names.h"
 
 #include <array>
+#include <cerrno>
 #include <climits>
 
 #include <sys/stat.h>
@@ -65,7 +66,9 @@ QString LocalFile(const QUrl& url)
 bool FileExists(const QString& name)
 {
     struct stat status {};
-    return stat(FileBytes(name).c_str(), &status) == 0;
+    if (stat(FileBytes(name).c_str(), &status) == 0) return true;
+    // Whatever else the system answers, there may be one.
+    return errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG;
 }
 
 QString CurrentFolder()

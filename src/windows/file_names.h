@@ -20,7 +20,8 @@ std::string FileBytes(const QString& name);
 /// The name of the file that a local URL leads to; empty for every other URL.
 QString LocalFile(const QUrl& url);
 
-/// Whether there is something of that name, or where the link of that name leads.
+/// Whether there is something of that name, or where the link of that name leads; true as well
+/// where that cannot be found out, so that nothing is replaced unasked and opening it tells why.
 bool FileExists(const QString& name);
 
 /// The folder that relative names start from, a name with it in front, and another one to take its

@@ -1,5 +1,6 @@
 // Openings that come to nothing, and the question about unsaved changes that comes before.
 #include "document/seen.h"
+#include "support/hindrances.h"
 #include "support/program.h"
 
 #include <sys/stat.h>
@@ -55,6 +56,18 @@ TEST_F(Program, TellsWhyAFileIsNoPictureAndKeepsTheOneThatIsOpen)
                                 Unreadable(Path("b.bmp"), "non è un'immagine BMP, JPEG o GIF")}));
     EXPECT_TRUE(Seen(session) == before);
     EXPECT_EQ(Bytes("percors.dat"), "\"" + Path("a.bmp").toStdString() + "\"\r\n");
+}
+
+TEST_F(Program, TellsThatAFileMayNotBeReadRatherThanThatItIsMissing)
+{
+    QDir().mkdir("chiusa");
+    Write("chiusa/b.bmp", "");
+    const OrdinaryUser user{Root().toStdString()};
+    ASSERT_EQ(chmod("chiusa", 0), 0);
+    Open(Path("chiusa/b.bmp"));
+    EXPECT_EQ(dialogs.told,
+              (std::vector<ShownBox>{Unreadable(Path("chiusa/b.bmp"), "manca il permesso")}));
+    chmod("chiusa", 0700);
 }
 
 TEST_F(Program, RefusesAPipeWithoutWaitingForIt)

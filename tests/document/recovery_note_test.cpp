@@ -2,6 +2,7 @@
 // its account.
 #include "document/recovery_note.h"
 
+#include "document/places.h"
 #include "document/recovery.h"
 #include "shell/spy_effect.h"
 #include "support/hindrances.h"
@@ -62,7 +63,7 @@ TEST_F(Noted, IsGoneAsSoonAsThePictureIsSaved)
 
 TEST_F(Noted, IsWrittenWhenTheUserClosesTheProgressWindow)
 {
-    QDir().mkdir(Data("recupero.txt"));
+    QDir().mkpath(Data("recupero.txt"));
     Apply("Specchio");
     SpyAction() = [](Work& w) {
         w.ShowProgress();
@@ -106,9 +107,25 @@ TEST_F(Noted, DeletesNoPictureOfTheUsers)
     EXPECT_EQ(Bytes("mia.bmp"), before);
 }
 
+// To say where a file lies takes no folder; to write one does.
+TEST_F(Noted, MakesItsFolderAnewWhenItIsWrittenAndNotBefore)
+{
+    Apply("Specchio");
+    const QDir folder(Data(""));
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    EXPECT_EQ(NativePath(file::Undo), Data("temp.bml"));
+    EXPECT_FALSE(ReadRecoveryNote());
+    EXPECT_FALSE(folder.exists());
+    Apply("Capovolgi");
+    EXPECT_TRUE(dialogs.told.empty());
+    EXPECT_EQ(ReadRecoveryNote()->copy, Path("elabor.tmp"));
+    ClickEntry(entry::Undo);
+    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
+}
+
 TEST_F(Noted, IsWithAllThatIsKeptTheUsersOwnThoughTheFolderWasOpenToAll)
 {
-    const std::string folder = Data("").chopped(1).toStdString();
+    const std::string folder = MakeDataFolder().toStdString();
     ASSERT_EQ(chmod(folder.c_str(), 0755), 0);
     QDir().mkdir("elabor.tmp");
     Apply("Specchio");

@@ -11,14 +11,15 @@ namespace {
 /// One at which every effect changes the picture.
 constexpr int Strength = 9000;
 
-void AnswerSlider()
+/// `button`: the one that is pressed, "OK" or "Annulla".
+void AnswerSlider(const char* button = "Command1")
 {
-    QTimer::singleShot(0, [] {
+    QTimer::singleShot(0, [button] {
         auto* const window = QApplication::activeModalWidget();
         // One that could not read its strength is gone by now.
         if (window == nullptr) return;
         window->findChild<QSlider*>("Slider1")->setValue(Strength);
-        window->findChild<QPushButton*>("Command1")->click();
+        window->findChild<QPushButton*>(button)->click();
     });
 }
 
@@ -147,6 +148,13 @@ std::vector<GivenCommand> FileCommands()
          .scenes = {Scene::Opened, Scene::Changed},
          .before = LeaveHalfDrawn,
          .halfDrawn = true},
+        {.name = "slider, cancelled",
+         .give =
+             [](Desk& d) {
+                 AnswerSlider("Command2");
+                 d.Button("SSCommand6").click();
+             },
+         .scenes = {Scene::Opened, Scene::Changed}},
         {.name = "zoom", .give = [](Desk& d) { d.Button("Command1").click(); }},
         {.name = "end", .give = ends, .scenes = {Scene::Opened}},
         {.name = "end, yes", .give = answering(true, ends)},

@@ -1,5 +1,6 @@
 // Every kind of work on a file, failing in every way that a system knows: one Italian sentence,
 // which names the file with its folder, and why.
+#include "document/places.h"
 #include "document/recovery_note.h"
 #include "document/working_pictures.h"
 #include "files/strengths_file.h"
@@ -52,7 +53,8 @@ constexpr FileWork Works[] = {
     {"write the strengths", "salvare", [] { SalvaValori(Here("valori.tip"), {}); }},
     {"write the pixels", "scrivere", [] { Measure(true); }},
     {"read the pixels", "leggere", [] { Measure(false); }},
-    {"note the copy", "scrivere",
+    {"make the data folder", "creare la cartella", [] { MakeDataFolder(); }},
+    {"note the copy", "(scrivere|creare la cartella)",
      [] {
          WriteRecoveryNote({"/a.bmp", "/a.bmp", 1, 1});
      }},
@@ -71,6 +73,7 @@ TEST_P(Message, IsOneSentenceThatNamesTheFileItsFolderAndTheReason)
             SaveBitmap(Surface(3, 1), Here("a.bmp"));
             WriteBytes(Here("valori.tip"), "1\r\n2\r\n3\r\n4\r\n5\r\n");
             WriteBytes(Here("elab.ser"), "7\r\n");
+            QDir(DataFolder()).removeRecursively();
             BeginToFail({.first = call, .last = LONG_MAX, .error = error, .only = Everything});
             std::string text;
             try {

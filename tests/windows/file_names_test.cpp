@@ -1,4 +1,5 @@
 // Names of files between the system and the windows: whatever bytes they are of, none is lost.
+#include "support/hindrances.h"
 #include "support/temporary_folder.h"
 #include "windows/file_names.h"
 
@@ -74,6 +75,21 @@ TEST(FileNames, OfFoldersAndWhatIsInThem)
     EXPECT_FALSE(FileExists(FileName(odd + "/a.bmp")));
     std::filesystem::create_symlink("nowhere", folder / "link");
     EXPECT_FALSE(FileExists(FileName(folder / "link")));
+}
+
+TEST(FileNames, AreTakenForFilesWhereNobodyCanLook)
+{
+    const TemporaryFolder folder;
+    const std::string closed = folder / "chiusa";
+    std::filesystem::create_directory(closed);
+    std::filesystem::create_symlink("circolo", folder / "circolo");
+    const OrdinaryUser user{folder.Path()};
+    std::filesystem::permissions(closed, std::filesystem::perms::none);
+    EXPECT_TRUE(FileExists(FileName(closed + "/a.bmp")));
+    EXPECT_TRUE(FileExists(FileName(folder / "circolo")));
+    std::filesystem::permissions(closed, std::filesystem::perms::owner_all);
+    EXPECT_FALSE(FileExists(FileName(closed + "/a.bmp")));
+    EXPECT_FALSE(FileExists(FileName(folder / std::string(256, 'n'))));
 }
 
 }  // namespace

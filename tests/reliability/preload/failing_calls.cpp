@@ -51,7 +51,8 @@ int Refused(int error)
 bool IsFileOrFolder(int descriptor)
 {
     struct stat status {};
-    return fstat(descriptor, &status) == 0 && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
+    return syscall(SYS_fstat, descriptor, &status) == 0 &&
+           (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
 }
 
 /// A call whose whole failure is an error.
@@ -304,6 +305,74 @@ int unlinkat(int folder, const char* path, int flags)
 int unlink(const char* path)
 {
     return unlinkat(AT_FDCWD, path, 0);
+}
+
+int mkdir(const char* path, mode_t mode)
+{
+    return pixano::test::FailingOr(pixano::test::Makes,
+                                   [=] { return syscall(SYS_mkdirat, AT_FDCWD, path, mode); });
+}
+
+int fstatat(int folder, const char* path, struct stat* status, int flags)
+{
+    return pixano::test::FailingOr(
+        pixano::test::Looks, [=] { return syscall(SYS_newfstatat, folder, path, status, flags); });
+}
+
+int fstatat64(int folder, const char* path, struct stat64* status, int flags)
+{
+    return fstatat(folder, path, reinterpret_cast<struct stat*>(status), flags);
+}
+
+int stat(const char* path, struct stat* status)
+{
+    return fstatat(AT_FDCWD, path, status, 0);
+}
+
+int stat64(const char* path, struct stat64* status)
+{
+    return fstatat64(AT_FDCWD, path, status, 0);
+}
+
+int lstat(const char* path, struct stat* status)
+{
+    return fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
+}
+
+int lstat64(const char* path, struct stat64* status)
+{
+    return fstatat64(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
+}
+
+int fstat(int descriptor, struct stat* status)
+{
+    return pixano::test::OnDescriptor(descriptor, pixano::test::Looks,
+                                      [=] { return syscall(SYS_fstat, descriptor, status); });
+}
+
+int fstat64(int descriptor, struct stat64* status)
+{
+    return fstat(descriptor, reinterpret_cast<struct stat*>(status));
+}
+
+int statx(int folder, const char* path, int flags, unsigned mask, struct statx* status)
+{
+    // Of a descriptor it is asked with an empty path.
+    if ((flags & AT_EMPTY_PATH) != 0 && folder >= 0 && !pixano::test::IsFileOrFolder(folder))
+        return static_cast<int>(syscall(SYS_statx, folder, path, flags, mask, status));
+    return pixano::test::FailingOr(
+        pixano::test::Looks, [=] { return syscall(SYS_statx, folder, path, flags, mask, status); });
+}
+
+int faccessat(int folder, const char* path, int mode, int flags)
+{
+    return pixano::test::FailingOr(
+        pixano::test::Looks, [=] { return syscall(SYS_faccessat2, folder, path, mode, flags); });
+}
+
+int access(const char* path, int mode)
+{
+    return faccessat(AT_FDCWD, path, mode, 0);
 }
 
 int remove(const char* path)
