@@ -64,7 +64,7 @@ QString LocalFile(const QUrl& url)
 
 bool FileExists(const QString& name)
 {
-    struct stat status {};
+    struct stat status = {};
     return stat(FileBytes(name).c_str(), &status) == 0;
 }
 

@@ -52,10 +52,7 @@ constexpr FileWork Works[] = {
     {"write the strengths", "salvare", [] { SalvaValori(Here("valori.tip"), {}); }},
     {"write the pixels", "scrivere", [] { Measure(true); }},
     {"read the pixels", "leggere", [] { Measure(false); }},
-    {"note the copy", "scrivere",
-     [] {
-         WriteRecoveryNote({"/a.bmp", "/a.bmp", 1, 1});
-     }},
+    {"note the copy", "scrivere", [] { WriteRecoveryNote(RecoveryNote{}); }},
     {"hold the lock", "usare", [] { const OnlyInstance lock(Folders::Path("pixano.lock")); }},
 };
 
