@@ -21,8 +21,8 @@ struct Place {
 Place PlaceOf(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos) return {".", path};
-    return {path.substr(0, slash + 1), path.substr(slash + 1)};
+    if (slash == std::string::npos) return {.folder = ".", .name = path};
+    return {.folder = path.substr(0, slash + 1), .name = path.substr(slash + 1)};
 }
 
 /// The path that a chain of links leads to, whether there is a file or not.

@@ -40,7 +40,8 @@ RegularFile OpenRegularFile(const std::string& path, Links links)
     Descriptor descriptor(Uninterrupted([&] { return open(path.c_str(), flags); }));
     if (!descriptor || fstat(descriptor.Number(), &status) != 0) throw Refusal(errno);
     RequireRegular(status.st_mode);
-    return {std::move(descriptor), static_cast<std::uint64_t>(status.st_size)};
+    return {.descriptor = std::move(descriptor),
+            .size = static_cast<std::uint64_t>(status.st_size)};
 }
 
 }  // namespace pixano
