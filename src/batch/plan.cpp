@@ -46,7 +46,7 @@ using FileIdentity = std::pair<dev_t, ino_t>;
 
 std::optional<FileIdentity> IdentityOf(const std::string& name)
 {
-    struct stat found {};
+    struct stat found = {};
     if (name == StandardStream || ::stat(name.c_str(), &found) != 0) return std::nullopt;
     return FileIdentity(found.st_dev, found.st_ino);
 }

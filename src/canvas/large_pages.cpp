@@ -26,7 +26,10 @@ class UnusedBlocks {
     UnusedBlocks& operator=(const UnusedBlocks&) = delete;
     ~UnusedBlocks() { Free(); }
 
-    void Keep(void* block, std::size_t length) { first_ = new (block) Unused{first_, length}; }
+    void Keep(void* block, std::size_t length)
+    {
+        first_ = new (block) Unused{.next = first_, .length = length};
+    }
     /// One of exactly that length; nullptr when there is none.
     void* Take(std::size_t length)
     {

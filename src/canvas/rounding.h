@@ -20,7 +20,8 @@ inline double Int(double value)
 inline std::int32_t CLng(double value)
 {
     // The least and the first too large of the values that round to such an integer.
-    if (!(value >= -0x1p31 - 0.5 && value < 0x1p31 - 0.5)) throw Fault(FaultKind::Overflow);
+    const bool fits = value >= -0x1p31 - 0.5 && value < 0x1p31 - 0.5;
+    if (!fits) throw Fault(FaultKind::Overflow);
     return static_cast<std::int32_t>(std::lrint(value));
 }
 

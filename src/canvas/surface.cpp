@@ -26,7 +26,7 @@ void Surface::PaintRow(int y, std::span<const Colour> colours)
 
 void Surface::Cls()
 {
-    std::fill(pixels_.begin(), pixels_.end(), WordOf(Background));
+    std::ranges::fill(pixels_, WordOf(Background));
 }
 
 }  // namespace pixano

@@ -24,8 +24,10 @@ void WriteCopy(Session& s)
 void WriteNote(Session& s)
 {
     try {
-        WriteRecoveryNote({s.doc.canvasCopy, s.doc.FileAperto, s.work.Picture1.Width(),
-                           s.work.Picture1.Height()});
+        WriteRecoveryNote({.copy = s.doc.canvasCopy,
+                           .picture = s.doc.FileAperto,
+                           .width = s.work.Picture1.Width(),
+                           .height = s.work.Picture1.Height()});
         s.doc.notedCopy = s.doc.canvasCopy;
     } catch (const Fault& fault) {
         s.remarks += QString::fromUtf8(fault.what()) +

@@ -49,6 +49,23 @@ void KeepForRedo(Session& s, std::optional<Surface> before)
     s.redoPicture = before ? std::move(*before) : s.work.Picture1;
 }
 
+/// The picture as it was opened, read again. Unsaved changes could not come back onto a picture of
+/// another size, so one that was replaced by such a picture counts as unreadable for them. Throws
+/// PictureError.
+Surface ReadOriginal(const Session& s)
+{
+    const Document& d = s.doc;
+    // After the same picture was chosen again `NomeFile` is empty; the picture is still open.
+    const QString& name = d.NomeFile.isEmpty() ? d.FileAperto : d.NomeFile;
+    Surface picture = ReadPicture(FileBytes(name)).picture;
+    const Surface& canvas = s.work.Picture1;
+    if (d.Modificato == 1 &&
+        (picture.Width() != canvas.Width() || picture.Height() != canvas.Height()))
+        throw PictureError(FaultKind::FileAccess,
+                           "L'immagine nel file «" + FileBytes(name) + "» ora ha un'altra misura");
+    return picture;
+}
+
 }  // namespace
 
 void Abil(Session& s)
@@ -110,23 +127,6 @@ void Redo_Click(Session& s)
     s.form2.setWindowTitle(EffectCaption(s));
     d.InOriginale = 0;
     d.Annullato = 0;
-}
-
-/// The picture as it was opened, read again. Unsaved changes could not come back onto a picture of
-/// another size, so one that was replaced by such a picture counts as unreadable for them. Throws
-/// PictureError.
-Surface ReadOriginal(const Session& s)
-{
-    const Document& d = s.doc;
-    // After the same picture was chosen again `NomeFile` is empty; the picture is still open.
-    const QString& name = d.NomeFile.isEmpty() ? d.FileAperto : d.NomeFile;
-    Surface picture = ReadPicture(FileBytes(name)).picture;
-    const Surface& canvas = s.work.Picture1;
-    if (d.Modificato == 1 &&
-        (picture.Width() != canvas.Width() || picture.Height() != canvas.Height()))
-        throw PictureError(FaultKind::FileAccess,
-                           "L'immagine nel file «" + FileBytes(name) + "» ora ha un'altra misura");
-    return picture;
 }
 
 void Orig_Click(Session& s)

@@ -48,8 +48,10 @@ std::optional<RecoveryNote> ReadRecoveryNote()
     // The last line end tells that the note is complete.
     constexpr qsizetype Lines = 5;
     if (lines.size() != Lines || !lines.back().isEmpty()) return std::nullopt;
-    RecoveryNote note{Decoded(lines.at(0)), Decoded(lines.at(1)), lines.at(2).toInt(),
-                      lines.at(3).toInt()};
+    RecoveryNote note{.copy = Decoded(lines.at(0)),
+                      .picture = Decoded(lines.at(1)),
+                      .width = lines.at(2).toInt(),
+                      .height = lines.at(3).toInt()};
     const bool whole = QFileInfo(note.copy).isAbsolute() &&
                        !QFileInfo(note.picture).fileName().isEmpty() && note.width > 0 &&
                        note.height > 0;

@@ -21,8 +21,8 @@ struct Place {
 Place PlaceOf(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos) return {".", path};
-    return {path.substr(0, slash + 1), path.substr(slash + 1)};
+    if (slash == std::string::npos) return {.folder = ".", .name = path};
+    return {.folder = path.substr(0, slash + 1), .name = path.substr(slash + 1)};
 }
 
 /// The path that a chain of links leads to, whether there is a file or not.
@@ -86,7 +86,7 @@ AtomicFile::AtomicFile(const std::string& path, Purpose purpose, Temporary tempo
         [&] { return open(place.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
     if (!folder_ && errno == ENOENT) throw Refusal("la cartella non esiste");
     if (!folder_) throw Refusal(errno);
-    struct stat old {};
+    struct stat old = {};
     const bool exists = fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
     if (!exists && errno != ENOENT) throw Refusal(errno);
     if (exists && S_ISDIR(old.st_mode)) throw Refusal("è una cartella");
@@ -134,7 +134,7 @@ void AtomicFile::MakeNamed(unsigned permissions)
 
 void AtomicFile::KeepOwnerAndPermissions()
 {
-    struct stat old {};
+    struct stat old = {};
     if (fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) != 0) return;
     // Only the system's administrator can give a file away; everybody else's copy stays his own.
     Uninterrupted([&] { return fchown(file_.Number(), old.st_uid, old.st_gid); });

@@ -36,7 +36,10 @@ void ByteSource::Seek(std::uint64_t position) noexcept
         window_ = memory_.subspan(position);
         return;
     }
-    if (isStream_) return SeekInStream(position);
+    if (isStream_) {
+        SeekInStream(position);
+        return;
+    }
     window_ = {};
     windowEnd_ = position;
 }

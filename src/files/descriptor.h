@@ -34,7 +34,11 @@ class Descriptor {
     }
     ~Descriptor()
     {
-        if (number_ >= 0) close(number_);
+        if (number_ < 0) return;
+        // Whoever asks why his own call failed is not to hear of this one.
+        const int error = errno;
+        close(number_);
+        errno = error;
     }
 
     explicit operator bool() const { return number_ >= 0; }

@@ -10,7 +10,7 @@ namespace {
 
 [[noreturn]] void RefuseMissing(const std::string& path, int error)
 {
-    struct stat status {};
+    struct stat status = {};
     if (error == ENOENT && lstat(path.c_str(), &status) == 0)
         throw Refusal("il collegamento porta a un file che non esiste");
     throw Refusal(error);
@@ -30,7 +30,7 @@ void RequireRegular(unsigned mode)
 
 RegularFile OpenRegularFile(const std::string& path, Links links)
 {
-    struct stat status {};
+    struct stat status = {};
     const bool follow = links == Links::Followed;
     // Looked at before it is opened: opening a device may already do something.
     if ((follow ? stat(path.c_str(), &status) : lstat(path.c_str(), &status)) != 0)
@@ -40,7 +40,8 @@ RegularFile OpenRegularFile(const std::string& path, Links links)
     Descriptor descriptor(Uninterrupted([&] { return open(path.c_str(), flags); }));
     if (!descriptor || fstat(descriptor.Number(), &status) != 0) throw Refusal(errno);
     RequireRegular(status.st_mode);
-    return {std::move(descriptor), static_cast<std::uint64_t>(status.st_size)};
+    return {.descriptor = std::move(descriptor),
+            .size = static_cast<std::uint64_t>(status.st_size)};
 }
 
 }  // namespace pixano

@@ -173,7 +173,7 @@ Colour* ParseLines(std::string_view& text, std::span<Colour> values)
     const char* at = text.data();
     const char* const safeEnd = at + text.size() - LongestLine;
     Colour* out = values.data();
-    Colour* const outEnd = out + values.size();
+    const Colour* const outEnd = out + values.size();
     while (at <= safeEnd && out != outEnd && (TakeNumber(at, out) || TakeNegative(at, out))) {
     }
     text.remove_prefix(static_cast<std::size_t>(at - text.data()));

@@ -63,7 +63,7 @@ PictureRead Decode(ByteSource& source)
 /// What the descriptor gives from where it stands on.
 ByteSource SourceFrom(int descriptor)
 {
-    struct stat status {};
+    struct stat status = {};
     if (fstat(descriptor, &status) != 0) throw Refusal(errno);
     const off_t start = S_ISREG(status.st_mode) ? lseek(descriptor, 0, SEEK_CUR) : -1;
     if (start < 0 || start >= status.st_size) return ByteSource::Stream(descriptor, LongestStream);

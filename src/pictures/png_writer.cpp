@@ -12,6 +12,14 @@
 namespace pixano {
 namespace {
 
+/// From version 4 on profiles consist of groups of four bytes. Some releases of libpng leave out
+/// one that does not, others give up the picture.
+bool HasWholeGroups(const std::vector<std::byte>& profile)
+{
+    constexpr std::size_t Version = 8;
+    return profile.size() % 4 == 0 || profile.at(Version) < std::byte{4};
+}
+
 class PngWriter {
   public:
     PngWriter(ByteSink& sink, const Extras& extras) : sink_(sink), extras_(extras)
@@ -56,7 +64,7 @@ class PngWriter {
         png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_SUB);
         // A profile that libpng finds fault with is left out.
         png_set_benign_errors(png_, 1);
-        if (!extras_.profile.empty())
+        if (!extras_.profile.empty() && HasWholeGroups(extras_.profile))
             png_set_iCCP(png_, info_, "ICC", PNG_COMPRESSION_TYPE_BASE,
                          reinterpret_cast<png_const_bytep>(extras_.profile.data()),
                          static_cast<png_uint_32>(extras_.profile.size()));

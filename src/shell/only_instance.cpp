@@ -15,7 +15,7 @@ constexpr int Flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O
 
 Descriptor OpenLock(const std::string& path)
 {
-    struct stat status {};
+    struct stat status = {};
     Descriptor file(Uninterrupted([&] { return open(path.c_str(), Flags, 0600); }));
     if (!file || fstat(file.Number(), &status) != 0) throw Refusal(errno);
     RequireRegular(status.st_mode);

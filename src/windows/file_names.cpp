@@ -17,9 +17,9 @@ std::pair<QString, std::size_t> FirstCharacter(std::string_view bytes)
 {
     constexpr std::size_t LongestCharacter = 4;
     for (std::size_t length = 1; length <= std::min(LongestCharacter, bytes.size()); ++length) {
-        const std::string_view piece = bytes.substr(0, length);
-        QString text = QString::fromUtf8(piece.data(), static_cast<qsizetype>(length));
-        if (text.toUtf8() == QByteArrayView(piece)) return {std::move(text), length};
+        const QByteArrayView piece(bytes.substr(0, length));
+        QString text = QString::fromUtf8(piece);
+        if (text.toUtf8() == piece) return {std::move(text), length};
     }
     return {};
 }
@@ -65,7 +65,7 @@ QString LocalFile(const QUrl& url)
 
 bool FileExists(const QString& name)
 {
-    struct stat status {};
+    struct stat status = {};
     if (stat(FileBytes(name).c_str(), &status) == 0) return true;
     // Whatever else the system answers, there may be one.
     return errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG;

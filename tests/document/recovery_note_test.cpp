@@ -138,7 +138,7 @@ TEST_F(Noted, IsWithAllThatIsKeptTheUsersOwnThoughTheFolderWasOpenToAll)
     EXPECT_EQ(session.ending, 1);
     NextStart(false);
     const auto modeOf = [](const std::string& path) {
-        struct stat status {};
+        struct stat status = {};
         EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
         return status.st_mode & 0777;
     };

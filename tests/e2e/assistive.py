@@ -16,12 +16,21 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 State = Atspi.StateType
 
+
+def role(words):
+    """The number that goes over the bus; its words are the reader's own, and change with its release."""
+    return getattr(Atspi.Role, words.upper().replace(" ", "_"))
+
+
 # What only holds others, and needs no name.
-HOLDERS = {"filler", "panel", "scroll bar", "separator"}
+HOLDERS = {role(words) for words in ("filler", "panel", "scroll bar", "separator")}
 # What a person meets.
 NAMED = {
-    "alert", "dialog", "frame", "image", "label", "menu bar", "menu item", "popup menu", "push button",
-    "slider",
+    role(words)
+    for words in (
+        "alert", "dialog", "frame", "image", "label", "menu bar", "menu item", "popup menu",
+        "push button", "slider",
+    )
 }
 
 
@@ -63,8 +72,12 @@ def is_(node, state):
     return node.get_state_set().contains(state)
 
 
-def is_called(node, role, name):
-    return (node.get_role_name(), node.get_name()) == (role, name)
+def is_a(node, words):
+    return node.get_role() == role(words)
+
+
+def is_called(node, words, name):
+    return is_a(node, words) and node.get_name() == name
 
 
 def inside(node):
@@ -86,41 +99,40 @@ def windows():
     return [window for window in children(pixano) if is_(window, State.SHOWING)]
 
 
-def find_window(role, name):
-    return next((node for node in windows() if is_called(node, role, name)), None)
+def find_window(words, name):
+    return next((node for node in windows() if is_called(node, words, name)), None)
 
 
-def window(role, name):
-    return wait_for(f"no {role} «{name}»", lambda: find_window(role, name))
+def window(words, name):
+    return wait_for(f"no {words} «{name}»", lambda: find_window(words, name))
 
 
-def front_window(role, name):
-    found = window(role, name)
+def front_window(words, name):
+    found = window(words, name)
     wait_for(f"«{name}» is not in front", lambda: is_(found, State.ACTIVE))
     check(found)
     return found
 
 
-def gone(role, name):
-    wait_for(f"the {role} «{name}» stays", lambda: find_window(role, name) is None)
+def gone(words, name):
+    wait_for(f"the {words} «{name}» stays", lambda: find_window(words, name) is None)
 
 
 def check(top):
     """Every part of the window is something that assistive tools know, and has a name."""
     for node in inside(top):
-        role = node.get_role_name()
-        where = f"a {role} «{node.get_name()}» in «{top.get_name()}»"
-        if role not in NAMED | HOLDERS:
+        where = f"a {node.get_role_name()} «{node.get_name()}» in «{top.get_name()}»"
+        if node.get_role() not in NAMED | HOLDERS:
             fail(f"what is {where}?")
-        if role in NAMED and not node.get_name().strip():
+        if node.get_role() in NAMED and not node.get_name().strip():
             fail(f"{where} has no name")
 
 
-def named(top, role, *path):
+def named(top, words, *path):
     """The part with the last of the names, in the part with the name before it."""
     for name in path:
-        found = next((node for node in inside(top) if is_called(node, role, name)), None)
-        top = found or fail(f"no {role} «{name}» in «{top.get_name()}»")
+        found = next((node for node in inside(top) if is_called(node, words, name)), None)
+        top = found or fail(f"no {words} «{name}» in «{top.get_name()}»")
     return top
 
 
@@ -189,7 +201,7 @@ def look_at_windows():
 def look_at_menus():
     main = window("frame", "Pixano, finestra principale")
     check(main)
-    entries = [node for node in inside(main) if node.get_role_name() == "menu item"]
+    entries = [node for node in inside(main) if is_a(node, "menu item")]
     # With three separators they are the 62 entries.
     if len(entries) != 59:
         fail(f"{len(entries)} menu entries")
@@ -218,7 +230,7 @@ def look_at_palette():
     palette = window("frame", "Strumenti")
     bring_to_front("Strumenti", palette)
     check(palette)
-    buttons = [node for node in inside(palette) if node.get_role_name() == "push button"]
+    buttons = [node for node in inside(palette) if is_a(node, "push button")]
     if len(buttons) != 28:
         fail(f"{len(buttons)} buttons in the palette")
     usable = [button for button in buttons if is_(button, State.SENSITIVE)]

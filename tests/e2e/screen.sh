@@ -5,6 +5,9 @@
 
 set -euo pipefail
 
+# shellcheck source-path=SCRIPTDIR source=../../scripts/imagemagick.bash
+. "$(dirname -- "${BASH_SOURCE[0]}")/../../scripts/imagemagick.bash"
+
 EVIDENCE=${EVIDENCE:-$PWD/build/e2e}
 SCREEN_SIZE=${SCREEN_SIZE:-1280x960}
 WINDOW_MANAGER=${WINDOW_MANAGER:-openbox}

@@ -144,7 +144,7 @@ TEST(IccProfile, GoesIntoJpegAndPngResults)
     SaveWithExtras(picture, folder / "a.png", {.profile = profile});
     EXPECT_EQ(ProfileOfPng(ReadFile(folder / "a.png")), profile);
     SaveWithExtras(picture, folder / "b.png", {.profile = MadeProfile(133).Vector()});
-    EXPECT_EQ(ProfileOfPng(ReadFile(folder / "b.png")), Profile()) << "libpng takes no odd length";
+    EXPECT_EQ(ProfileOfPng(ReadFile(folder / "b.png")), Profile()) << "its length is odd";
     SaveWithExtras(picture, folder / "a.bmp", {.profile = profile});
     SavePicture(picture, folder / "b.bmp");
     EXPECT_EQ(ReadFile(folder / "a.bmp"), ReadFile(folder / "b.bmp"));

@@ -61,7 +61,7 @@ std::string RefusalOf(Save save, const Surface& surface, const std::string& path
 
 unsigned PermissionsOf(const std::string& path)
 {
-    struct stat status {};
+    struct stat status = {};
     stat(path.c_str(), &status);
     return status.st_mode & 07777;
 }

@@ -123,8 +123,8 @@ TEST_P(EveryFailure, LeavesTheDocumentTrueAndNothingLost)
 std::string NameOfCommand(const testing::TestParamInfo<GivenCommand>& info)
 {
     std::string name = info.param.name;
-    std::ranges::replace_if(
-        name, [](char c) { return std::isalnum(c) == 0; }, '_');
+    const auto isOther = [](char c) { return std::isalnum(c) == 0; };
+    std::ranges::replace_if(name, isOther, '_');
     return name + std::to_string(info.index);
 }
 

@@ -37,7 +37,7 @@ std::map<std::string, std::string> Everything(const fs::path& folder)
 {
     std::map<std::string, std::string> all;
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        struct stat status {};
+        struct stat status = {};
         lstat(entry.path().c_str(), &status);
         std::string what = std::to_string(status.st_mode) + ' ' + std::to_string(status.st_ino) +
                            ' ' + std::to_string(status.st_mtim.tv_sec) + '.' +

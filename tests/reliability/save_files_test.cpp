@@ -27,7 +27,7 @@ Surface Picture()
 
 unsigned PermissionsOf(const std::string& path)
 {
-    struct stat status {};
+    struct stat status = {};
     stat(path.c_str(), &status);
     return status.st_mode & 07777;
 }

@@ -54,10 +54,7 @@ constexpr FileWork Works[] = {
     {"write the pixels", "scrivere", [] { Measure(true); }},
     {"read the pixels", "leggere", [] { Measure(false); }},
     {"make the data folder", "creare la cartella", [] { MakeDataFolder(); }},
-    {"note the copy", "(scrivere|creare la cartella)",
-     [] {
-         WriteRecoveryNote({"/a.bmp", "/a.bmp", 1, 1});
-     }},
+    {"note the copy", "(scrivere|creare la cartella)", [] { WriteRecoveryNote(RecoveryNote{}); }},
     {"hold the lock", "usare", [] { const OnlyInstance lock(Folders::Path("pixano.lock")); }},
 };
 

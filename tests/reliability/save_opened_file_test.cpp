@@ -25,7 +25,7 @@ std::int64_t Nanoseconds(const timespec& time)
 
 FileState StateOf(const QString& path)
 {
-    struct stat status {};
+    struct stat status = {};
     stat(path.toStdString().c_str(), &status);
     return {BytesOf(path.toStdString()), status.st_ino, status.st_mode, Nanoseconds(status.st_mtim),
             Nanoseconds(status.st_ctim)};

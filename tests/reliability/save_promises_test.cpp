@@ -40,7 +40,7 @@ TEST_F(SavePromises, OwnerAndPermissionsStay)
     constexpr uid_t Other = 65534;
     const bool gave = chown(path.c_str(), Other, Other) == 0;
     EXPECT_EQ(CallsOf(Changes), 2);
-    struct stat saved {};
+    struct stat saved = {};
     ASSERT_EQ(stat(path.c_str(), &saved), 0);
     EXPECT_EQ(saved.st_mode & 0777, 0640U);
     // Only the system's administrator can give files away.

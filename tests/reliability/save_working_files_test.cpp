@@ -86,7 +86,7 @@ TEST_P(TamperedWith, IsReplacedByTheNextOne)
     } else {
         save();
         EXPECT_EQ(FaultOfLoading(), std::nullopt);
-        struct stat status {};
+        struct stat status = {};
         lstat(path.c_str(), &status);
         EXPECT_EQ(status.st_mode & 07777, 0600U);
     }

@@ -22,8 +22,7 @@ class Starting : public SessionInFolders {
     QString Beside(const QString& name) const { return Root() + "/program/" + name; }
 
     /// Runs the program with these arguments to its end; `then` is done once it waits for the user.
-    int RunWith(
-        const QStringList& arguments, const std::function<void()>& then = [] {})
+    int RunWith(const QStringList& arguments, const std::function<void()>& then = Nothing)
     {
         OnceStartUpPictureIsUp([this, then](QWidget& window) {
             ClickAway(window);
@@ -36,6 +35,7 @@ class Starting : public SessionInFolders {
     }
 
   private:
+    static void Nothing() {}
     void OnceIdle(const std::function<void()>& then)
     {
         QTimer::singleShot(0, [this, then] { session.busy ? OnceIdle(then) : then(); });

@@ -23,8 +23,8 @@ void MirrorDifference(Work& w)
     InPlace(w, [&canvas = w.Picture1, right, bottom](int x, int y) {
         const int px = mirror == Mirror::Vertical ? x : right - x;
         const int py = mirror == Mirror::Horizontal ? y : bottom - y;
-        Colour d = std::abs(canvas.Point(x, y) - canvas.Point(px, py));
-        if constexpr (above == Above::Clamped) d = std::min(d, White);
+        const Colour difference = std::abs(canvas.Point(x, y) - canvas.Point(px, py));
+        const Colour d = above == Above::Clamped ? std::min(difference, White) : difference;
         if constexpr (target == Paint::Pixel)
             canvas.PSet(x, y, d);
         else

@@ -157,8 +157,8 @@ void MultiFotoStep(Work& w)
     RefuseEndlessRowPass(w);
     RowPass(w);
     RefuseEndlessColumnPass(w);
-    ColumnPass(
-        w, [&](int y) { return w.Vettore.Row(y, w.Larg); }, w.Vettore2);
+    const auto squeezed = [&](int y) { return w.Vettore.Row(y, w.Larg); };
+    ColumnPass(w, squeezed, w.Vettore2);
     Paint(w, w.Vettore2);
 }
 

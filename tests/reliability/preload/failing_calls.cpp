@@ -50,7 +50,7 @@ int Refused(int error)
 /// Sockets, pipes and the toolkit's own events are left alone.
 bool IsFileOrFolder(int descriptor)
 {
-    struct stat status {};
+    struct stat status = {};
     return syscall(SYS_fstat, descriptor, &status) == 0 &&
            (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
 }
