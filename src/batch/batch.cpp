@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <new>
 #include <thread>
 
 #include <unistd.h>
@@ -143,6 +144,8 @@ int RunBatch(std::span<const std::string_view> arguments, const std::string& own
                         CommandWrong);
     } catch (const Fault& fault) {
         return Complain(Harmless(fault.what()), SomethingFailed);
+    } catch (const std::bad_alloc&) {
+        return Complain("memoria insufficiente", SomethingFailed);
     }
 }
 

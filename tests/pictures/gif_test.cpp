@@ -98,6 +98,20 @@ TEST(Gif, AScreenWithoutSizeTakesItsFrames)
               (Colours{B, C}));
 }
 
+// One side of no pixels is as good as two.
+TEST(Gif, AScreenWithOneSideOfNoPixelsTakesItsFrames)
+{
+    for (const auto& [width, height] : {std::pair(0U, 7U), std::pair(7U, 0U)}) {
+        const Surface picture =
+            File({GifScreen(width, height), GifFrame(5, 3, 2, 1), GifPixels({1, 2}), GifEnd})
+                .Read()
+                .picture;
+        EXPECT_EQ(picture.Width(), 2);
+        EXPECT_EQ(picture.Height(), 1);
+        EXPECT_EQ(ColoursOf(picture), (Colours{B, C}));
+    }
+}
+
 TEST(Gif, ACutFileShowsEveryPixelThatItHas)
 {
     // Nine pixels are five clearings, nine indices and the end, three bits each, in six bytes. The

@@ -75,6 +75,15 @@ TEST(Jpeg, InksAreInvertedWithAdobesMarkOrWithoutIt)
         EXPECT_EQ(Inks({200, 255, 0, 128}, adobe).Read().picture, Surface(8, 8, Rgb(100, 128, 0)));
 }
 
+TEST(Jpeg, InksAreRoundedToTheNearest)
+{
+    // 200 * 130 / 255 is 101.96, 255 * 130 / 255 is 130, 99 * 130 / 255 is 50.47.
+    EXPECT_EQ(Inks({200, 255, 99, 130}, true).Read().picture, Surface(8, 8, Rgb(102, 130, 50)));
+    // 1 * 128 / 255 is 0.502, 1 * 127 / 255 is 0.498.
+    EXPECT_EQ(Inks({1, 0, 255, 128}, true).Read().picture, Surface(8, 8, Rgb(1, 0, 128)));
+    EXPECT_EQ(Inks({1, 0, 255, 127}, true).Read().picture, Surface(8, 8, Rgb(0, 0, 127)));
+}
+
 TEST(Jpeg, InksStoredAsLightAndTint)
 {
     // Equal inks have no tint and are kept exactly; libjpeg stores 255 - 90 as light.

@@ -4,6 +4,7 @@
 #include "effects/catalogue.h"
 #include "pictures/byte_files.h"
 #include "reliability/fuzz_time.h"
+#include "reliability/sizes_expected.h"
 #include "support/effect_run.h"
 
 #include <gtest/gtest.h>
@@ -14,13 +15,9 @@ namespace pixano::batch {
 namespace {
 
 using pixano::test::IsLong;
+using pixano::test::Size;
 using pixano::test::TemporaryFolder;
 using pixano::test::Varied;
-
-struct Size {
-    int width;
-    int height;
-};
 
 class EffectsOnSizes : public testing::Test {
   protected:
@@ -36,6 +33,7 @@ class EffectsOnSizes : public testing::Test {
             const bool done = Run(w, effect, picture);
             SCOPED_TRACE(std::string(effect.name) + " on " + std::to_string(size.width) + "x" +
                          std::to_string(size.height) + (done ? "" : ", which failed"));
+            EXPECT_EQ(done, pixano::test::Paints(effect.name, size).value_or(done));
             EXPECT_EQ(w.Picture1.Width(), size.width);
             EXPECT_EQ(w.Picture1.Height(), size.height);
             if (HasFailure()) return;

@@ -1,0 +1,159 @@
+// What the tool does with the means that it has: threads, memory, a terminal, its standard streams.
+#include "batch/tool_run.h"
+
+#include "support/effect_run.h"
+
+#include <functional>
+#include <set>
+#include <sstream>
+#include <thread>
+
+namespace pixano::batch::test {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+class Means : public Tool {
+  protected:
+    /// Runs a line of the shell, in which "$0" is the tool.
+    Ran Shell(const std::string& line) const
+    {
+        return RunProgram({"sh", "-c", line, program}, Folder());
+    }
+};
+
+TEST_F(Means, WorksWithAsManyThreadsAsAskedFor)
+{
+    std::filesystem::create_directory(File("fatte"));
+    std::string work;
+    for (int i = 0; i < 12; ++i)
+        work += " -e Vetro=2500";
+    for (int i = 0; i < 6; ++i) {
+        SaveBitmap(Surface(900, 900, 0x123456), File(std::to_string(i) + ".bmp"));
+        work += " " + std::to_string(i) + ".bmp";
+    }
+    const unsigned all = std::min(6U, std::max(1U, std::thread::hardware_concurrency()));
+    for (const auto& [option, threads] :
+         {std::pair("-j 1", 1U), {"-j 3", 3U}, {"-j 50", 6U}, {"", all}}) {
+        // Looks on until it has ended; a process that has is a zombie.
+        const Ran ran = Shell("\"$0\" -d fatte " + std::string(option) + work +
+                              R"( >/dev/null & most=0
+            while now=$(awk '/^State/ {s = $2} /^Threads/ {print s == "Z" ? 0 : $2}' /proc/$!/status) &&
+                  [ "$now" -gt 0 ]; do
+                [ "$now" -gt "$most" ] && most=$now
+            done
+            wait $! && echo $most)");
+        EXPECT_EQ(ran.out, std::to_string(threads) + "\n") << option << ran.err;
+    }
+}
+
+/// What is told under limits that grow, megabyte by megabyte, until there is enough for `task`.
+std::set<std::string> ToldWithTooLittleMemory(const std::function<Ran(const std::string&)>& shell,
+                                              const std::string& task)
+{
+    std::set<std::string> told;
+    for (int megabytes = 2; megabytes < 200; ++megabytes) {
+        const std::string limit = "ulimit -v " + std::to_string(megabytes << 10) + "; ";
+        // Less than this starts no program.
+        if (shell(limit + "\"$0\" --versione").status != 0) continue;
+        const Ran ran = shell(limit + "exec \"$0\" " + task);
+        if (ran.status == 0) break;
+        EXPECT_EQ(ran.status, 1) << megabytes << " MB: " << ran.err;
+        std::istringstream lines(ran.err);
+        for (std::string line; std::getline(lines, line);)
+            told.insert(line);
+    }
+    return told;
+}
+
+// While the picture is read, and when there is no room for the effects beside it.
+TEST_F(Means, SaysInItalianThatThereIsTooLittleMemory)
+{
+    SaveBitmap(pixano::test::Varied(900, 700), File("a.bmp"));
+    const auto shell = [this](const std::string& line) { return Shell(line); };
+    if (shell("ulimit -v 500000; \"$0\" --versione").status != 0)
+        GTEST_SKIP() << "the sanitizers take more room than any limit leaves";
+    const std::string unread = "pixano-batch: Impossibile leggere «a.bmp»: la memoria non basta";
+    const std::string undone = "pixano-batch: a.bmp: memoria insufficiente";
+    EXPECT_THAT(
+        ToldWithTooLittleMemory(shell, "-e Multifoto -o c.bmp a.bmp"),
+        AllOf(testing::IsSupersetOf({unread, undone}), testing::Each(HasSubstr(" memoria "))));
+    // And wherever else there may be too little.
+    std::filesystem::create_directory(File("foglio"));
+    SaveBitmap(pixano::test::Varied(300, 200), File("b.bmp"));
+    EXPECT_THAT(ToldWithTooLittleMemory(shell, "--tutti -j 1 -d foglio b.bmp"),
+                AllOf(testing::Contains("pixano-batch: b.bmp: memoria insufficiente"),
+                      testing::Each(HasSubstr(" memoria "))));
+}
+
+// A file of that name is meant by a path only.
+TEST_F(Means, TakesADashForTheStreamsThoughThereIsAFileOfThatName)
+{
+    Draw("a.bmp", {"abc"});
+    Draw("other.bmp", {"xyz"});
+    std::filesystem::rename(File("other.bmp"), File("-"));
+    const std::string before = Bytes("-");
+    // To standard output, from standard input, and both at once.
+    EXPECT_EQ(Run({"-o", "-", "a.bmp"}).out, Bytes("a.bmp"));
+    EXPECT_EQ(Run({"-o", "b.bmp", "-"}, File("a.bmp")).out, "b.bmp: -   3x1\n");
+    EXPECT_EQ(Result("b.bmp"), (Letters{"abc"}));
+    const Ran both = Run({"-o", "-", "-"}, File("a.bmp"));
+    EXPECT_EQ(both.out, Bytes("a.bmp"));
+    EXPECT_EQ(both.status, 0) << both.err;
+    EXPECT_EQ(Bytes("-"), before);
+    EXPECT_EQ(Run({"-o", "c.bmp", "./-"}).out, "c.bmp: -   3x1\n");
+    EXPECT_EQ(Result("c.bmp"), (Letters{"xyz"}));
+    EXPECT_EQ(Run({"-o", "./-", "a.bmp"}).status, 0);
+    EXPECT_EQ(Result("-"), (Letters{"abc"}));
+}
+
+TEST_F(Means, NamesTheStreamThatFails)
+{
+    Draw("a.bmp", {"ab"});
+    EXPECT_EQ(Shell("\"$0\" -o b.bmp - </dev/null").err,
+              "pixano-batch: Impossibile leggere «standard input»: il file è vuoto\n");
+    EXPECT_EQ(
+        Shell("\"$0\" -o - a.bmp >/dev/full").err,
+        "pixano-batch: Impossibile scrivere «standard output»: non c'è più spazio sul disco\n");
+    EXPECT_EQ(Shell("\"$0\" -o b.bmp - <&-").status, 1);
+}
+
+TEST_F(Means, WritesNoPictureToATerminal)
+{
+    Draw("a.bmp", {"ab"});
+    const Ran ran =
+        RunProgram({"script", "-qec", "'" + program + "' -o - a.bmp", "/dev/null"}, Folder());
+    EXPECT_EQ(ran.status, 2);
+    EXPECT_THAT(ran.out, HasSubstr("Un'immagine non si scrive su un terminale"));
+    EXPECT_THAT(ran.out, Not(HasSubstr("BM")));
+}
+
+// The progress line counts the pictures that are done, where there are several.
+TEST_F(Means, CountsThePicturesThatAreDone)
+{
+    std::string work = "TERM=xterm '" + program + "' -j 1";
+    for (int i = 0; i < 30; ++i)
+        work += " -e Vetro=2500";
+    for (const char* const name : {"a.bmp", "b.bmp"})
+        SaveBitmap(Surface(1400, 1400, 0x123456), File(name));
+    std::filesystem::create_directory(File("fatte"));
+    const auto onTerminal = [&](const std::string& pictures) {
+        return RunProgram({"script", "-qec", work + pictures, "/dev/null"}, Folder()).out;
+    };
+    const std::string two = onTerminal(" -d fatte a.bmp b.bmp");
+    const std::size_t first = two.find("fatte/a.bmp: Vetro");
+    ASSERT_NE(first, std::string::npos);
+    EXPECT_THAT(two.substr(0, first), AllOf(HasSubstr("\r\033[K0 immagini su 2   Vetro  ("),
+                                            Not(HasSubstr("1 immagini"))));
+    EXPECT_THAT(two.substr(first), AllOf(HasSubstr("\r\033[K1 immagini su 2   Vetro  ("),
+                                         Not(HasSubstr("0 immagini"))));
+    const std::string one = onTerminal(" -o c.bmp a.bmp");
+    EXPECT_THAT(one, AllOf(HasSubstr("\r\033[KVetro  ("), Not(HasSubstr("immagini"))));
+    // Whole percents of one effect, not the bar's quarters.
+    EXPECT_THAT(one, Not(testing::ContainsRegex("\\([1-9][0-9][1-9]%")));
+}
+
+}  // namespace
+}  // namespace pixano::batch::test
