@@ -2,6 +2,7 @@
 
 #include "windows/centred.h"
 #include "windows/file_dialog.h"
+#include "windows/free_screen.h"
 #include "windows/wrapped_text.h"
 
 #include <QApplication>

@@ -49,7 +49,10 @@ for _ in $(seq 600); do
 done
 # The first signal lets what runs come to its end, the second does not.
 kill -TERM "$parallel"
-sleep 0.1
+for _ in $(seq 600); do
+    ! grep -q 'No new jobs' errori.txt || break
+    sleep 0.05
+done
 kill -TERM "$parallel" 2>/dev/null || true
 wait "$parallel" 2>/dev/null && fail 'it came to its end although it was interrupted'
 

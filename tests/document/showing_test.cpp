@@ -132,6 +132,7 @@ TEST_F(Showing, TellsThatThePreviewsCopyCannotBeWritten)
 
 TEST_F(Showing, ShowsPreviewAndPaletteAgainThatWereHidden)
 {
+    session.form9.hide();
     session.form10.close();
     Mostra(session);
     EXPECT_TRUE(session.form9.isVisible());

@@ -19,18 +19,16 @@ start_program "$pixano"
 
 # The start-up picture lies in the middle of the screen; a click on it starts the work.
 expect_title "Pixano 2.3"
-wait_for sh -c '[ "$(xdotool search --onlyvisible --class pixano | wc -l)" -ge 2 ]' ||
-    fail "no start-up picture"
-sleep 0.5
+expect_opening_picture
 shot 1-apertura
+more_windows_than 1 || fail "the start-up picture goes by itself"
 xdotool mousemove "$((${SCREEN_SIZE%x*} / 2))" "$((${SCREEN_SIZE#*x} / 2))" click 1
-wait_for sh -c '[ "$(xdotool search --onlyvisible --class pixano | wc -l)" -eq 1 ]' ||
-    fail "the start-up picture does not go at a click"
+wait_for is_active "Pixano 2.3" || fail "the start-up picture does not go at a click"
 
 # "&File" > "&Apri"
 focus "Pixano 2.3"
 keys alt+f
-sleep 0.3
+wait_for more_windows_than 1 || fail "no menu"
 shot 2-menu
 keys a
 wait_for is_active "Apri" || fail "no open dialog, but $(active_title)"

@@ -18,19 +18,15 @@ preview="foto.jpg  (${width} x ${height}) -"
 
 # Presses a key that many times.
 repeat() {
-    local _
-    for _ in $(seq "$2"); do
-        xdotool key --clearmodifiers "$1"
-        sleep 0.03
-    done
+    local pressed
+    mapfile -t pressed < <(yes "$1" | head -n "$2")
+    keys "${pressed[@]}"
 }
 
 start_screen
 start_program "$pixano" "$sandbox/foto.jpg"
 expect_title "Pixano 2.3"
-wait_for sh -c '[ "$(xdotool search --onlyvisible --class pixano | wc -l)" -ge 2 ]' ||
-    fail "no start-up picture"
-sleep 0.5
+expect_opening_picture
 keys Return
 expect_title "foto.jpg   $size"
 expect_title "$preview 100%"
@@ -43,7 +39,6 @@ read -r left _ top _ < <(xprop -id "$(window_titled "Strumenti")" _NET_FRAME_EXT
 place=$(xwininfo -id "$(window_titled "Strumenti")" | awk '/Absolute/ { print $NF }' | paste -sd' ')
 [ "$place" = "$((${SCREEN_SIZE%x*} - 217 + left)) $top" ] ||
     fail "the palette stands at $place with a frame of $left and $top"
-sleep 0.3
 shot palette-1-aperta
 
 # While the history is off, the keyboard starts at the first reflection; "Vetro" comes 16 buttons later.
@@ -88,7 +83,6 @@ focus "Strumenti"
 repeat shift+Tab 20
 keys space
 wait_for test -s "$XDG_DATA_HOME/pixano/temp2.bml" || fail "\"Annulla\" does nothing"
-sleep 0.3
 shot palette-8-annullata
 
 focus "Pixano 2.3"

@@ -99,28 +99,26 @@ shot() {
     import -window root "$EVIDENCE/$1.png"
 }
 
-# The title of some visible window is exactly this text.
-titled() {
-    local id
-    for id in $(xdotool search --onlyvisible --name '.*' 2>/dev/null); do
-        [ "$(xdotool getwindowname "$id" 2>/dev/null)" = "$1" ] && return 0
-    done
-    return 1
-}
-
-expect_title() {
-    wait_for titled "$1" || fail "no window is titled \"$1\""
-}
-
+# The visible window whose title is exactly this text. Two programs are run, however many windows there are.
 window_titled() {
-    local id
-    for id in $(xdotool search --onlyvisible --name '.*' 2>/dev/null); do
-        if [ "$(xdotool getwindowname "$id" 2>/dev/null)" = "$1" ]; then
-            echo "$id"
+    local ids titles i
+    mapfile -t ids < <(xdotool search --onlyvisible --name '.*' 2>/dev/null)
+    mapfile -t titles < <(printf 'getwindowname %s ' "${ids[@]}" | xargs xdotool 2>/dev/null)
+    for i in "${!ids[@]}"; do
+        if [ "${titles[i]:-}" = "$1" ]; then
+            echo "${ids[i]}"
             return 0
         fi
     done
     return 1
+}
+
+titled() {
+    window_titled "$1" >/dev/null
+}
+
+expect_title() {
+    wait_for titled "$1" || fail "no window is titled \"$1\""
 }
 
 # Brings the window of that title to the front and gives it the keyboard.
@@ -137,10 +135,21 @@ is_active() {
     [ "$(active_title)" = "$1" ]
 }
 
+# One after the other, as the program takes them: a menu that a key opens has the next one.
 keys() {
-    local key
-    for key in "$@"; do
-        xdotool key --clearmodifiers "$key"
-        sleep 0.15
-    done
+    xdotool key --clearmodifiers --delay 1 "$@"
+}
+
+# The start-up picture is up and has the keyboard. It has no title.
+expect_opening_picture() {
+    wait_for is_active " " || fail "no start-up picture, but $(active_title)"
+}
+
+# More windows are on the screen than that many: a menu, for one.
+more_windows_than() {
+    [ "$(visible_windows)" -gt "$1" ]
+}
+
+visible_windows() {
+    xdotool search --onlyvisible --class pixano | wc -l
 }

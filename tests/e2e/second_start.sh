@@ -25,9 +25,7 @@ start_screen
 # The start-up picture goes at a key; the picture that was named is opened then.
 start_program "$pixano" "$picture"
 expect_title "Pixano 2.3"
-wait_for sh -c '[ "$(xdotool search --onlyvisible --class pixano | wc -l)" -ge 2 ]' ||
-    fail "no start-up picture"
-sleep 0.5
+expect_opening_picture
 keys space
 expect_title "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
 [ "$(stat -c %a "$XDG_DATA_HOME/pixano")" = 700 ] || fail "others may look into the data folder"
@@ -51,7 +49,8 @@ wait_for is_active "Pixano 2.3" || fail "the running program did not come forwar
 keys alt+f a
 wait_for is_active "Apri" || fail "no open dialog, but $(active_title)"
 hand_over "$picture"
-sleep 0.3
+# It hears one after the other: the first has been heard when the second is answered.
+hand_over
 titled "$(basename "$picture")   $(identify -format '%wx%h' "$picture")" &&
     fail "a picture was opened within a command"
 is_active "Apri" || fail "the dialog does not come forward, but $(active_title)"
@@ -77,7 +76,7 @@ kill -STOP "$program"
 expect_refusal "a second start of one that does not answer" secondo-avvio
 kill -CONT "$program"
 kill -0 "$program" || fail "the second start ended the first"
-sleep 0.3
+hand_over
 titled "$(basename "$picture")   $(identify -format '%wx%h' "$picture")" ||
     fail "the second start changed the first"
 
@@ -86,7 +85,7 @@ kill -KILL "$program"
 wait "$program" 2>/dev/null || true
 start_program "$pixano"
 expect_title "Pixano 2.3"
-wait_for sh -c '[ "$(xdotool search --onlyvisible --class pixano | wc -l)" -ge 2 ]' ||
+wait_for more_windows_than 1 ||
     fail "a killed program keeps the next one from starting"
 kill "$program"
 wait "$program" 2>/dev/null || true

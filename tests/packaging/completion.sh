@@ -26,14 +26,15 @@ bind 'set bell-style none'
 # Ctrl+T leaves the words that the shell would read, one a line, instead of running them.
 keep() { eval "printf '%s\n' \$READLINE_LINE" >'$folder/words'; }
 bind -x '"\C-t": keep'
+PROMPT_COMMAND=": >'$folder/waiting'"
 cd '$folder'
 RC
 
 # The words that bash reads after the keys $1.
 complete_keys() {
-    rm -f "$folder/words"
+    rm -f "$folder/words" "$folder/waiting"
     {
-        sleep 0.7
+        until [[ -e $folder/waiting ]]; do sleep 0.02; done
         printf '%b\x14' "$1"
         for _ in $(seq 100); do
             [[ ! -e $folder/words ]] || break

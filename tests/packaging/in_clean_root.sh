@@ -31,10 +31,7 @@ read -ra command <<<"$(sed -n 's/^Exec=//p' "$entry")"
 open_from_menu() {
     start_program inside "${command[@]/%\%f/$person/scena.jpg}"
     expect_title "Pixano 2.3"
-    # shellcheck disable=SC2016 # the inner shell expands it
-    wait_for sh -c '[ "$(xdotool search --onlyvisible --class pixano | wc -l)" -ge 2 ]' ||
-        fail "no start-up picture"
-    sleep 0.5
+    expect_opening_picture
     xdotool mousemove "$((${SCREEN_SIZE%x*} / 2))" "$((${SCREEN_SIZE#*x} / 2))" click 1
     expect_title "scena.jpg   640x480"
     expect_title "Strumenti"

@@ -77,6 +77,17 @@ TEST(OpeningPicture, GoesAtAClickAndAtTheUsualKeys)
     }
 }
 
+TEST(OpeningPicture, GoesWhenTheButtonOfTheMouseIsReleasedAndNotBefore)
+{
+    Form6 window;
+    window.show();
+    auto* const picture = window.findChild<QLabel*>("Picture1");
+    QTest::mousePress(picture, Qt::LeftButton);
+    EXPECT_TRUE(window.isVisible());
+    QTest::mouseRelease(picture, Qt::LeftButton);
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST(OpeningPicture, StaysAtOtherKeys)
 {
     Form6 window;

@@ -121,6 +121,9 @@ TEST_F(SubtractionWindow, KeepsWhatWasTypedAtReturn)
     QTest::keyClick(&Combo(), Qt::Key_Return);
     EXPECT_EQ(Confirmed(), "77");
     EXPECT_FALSE(window.isVisible());
+    // What was typed is nothing that the list offers from then on.
+    EXPECT_EQ(Combo().count(), 10);
+    EXPECT_EQ(Combo().findText("77"), -1);
 }
 
 TEST_F(SubtractionWindow, KeepsNothingAtAnnulla)

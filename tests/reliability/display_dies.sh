@@ -18,7 +18,7 @@ convert -size "$size" plasma:tomato-steelblue -quality 90 "$sandbox/foto.jpg"
 
 start_screen
 start_program "$pixano" "$sandbox/foto.jpg"
-wait_for titled "Pixano 2.3" || fail "no main window"
+expect_opening_picture
 keys Return
 expect_title "foto.jpg   $size"
 
@@ -42,7 +42,7 @@ wait "$manager" 2>/dev/null || true
 
 start_screen
 start_program "$pixano"
-wait_for titled "Pixano 2.3" || fail "no main window"
+expect_opening_picture
 keys Return
 wait_for is_active "Avviso!" || fail "no offer, but $(active_title)"
 shot display-1-avviso
@@ -56,7 +56,7 @@ kill -TERM "$program"
 wait "$program" || true
 program=
 start_program "$pixano"
-wait_for titled "Pixano 2.3" || fail "no main window"
+expect_opening_picture
 keys Return
 wait_for is_active "Avviso!" || fail "no offer after the logout, but $(active_title)"
 kill -HUP "$program"

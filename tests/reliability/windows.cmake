@@ -22,7 +22,7 @@ function(pixano_reliability_tests name)
   pixano_windowed(${name} ${ARGN})
   target_link_libraries(${name} PRIVATE windows_main)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES LABELS reliability TIMEOUT 240
+  set_tests_properties(${name} PROPERTIES LABELS reliability TIMEOUT 240 COST 100
                                           ENVIRONMENT "${RELIABILITY_SHORT}")
 endfunction()
 

@@ -210,18 +210,23 @@ TEST_F(Frame, EnablesThePalettesUndoOnlyAfterTheSecondEffect)
 
 // ---- the order of the last steps ----
 
-/// Looks at `Modificato` in the moment when the progress window goes.
+/// Looks at the document in the moment when the progress window goes.
 class LastSteps : public QObject, public Frame, public testing::WithParamInterface<const Effect*> {
   protected:
     LastSteps() { session.form4.installEventFilter(this); }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
-        if (event->type() == QEvent::Hide) atUnload = session.doc.Modificato;
+        if (event->type() != QEvent::Hide) return false;
+        atUnload = session.doc.Modificato;
+        pixelsAtUnload = Exists(Path("elab.ser"));
+        captionAtUnload = CanvasCaption();
         return false;
     }
 
     int atUnload = -1;
+    bool pixelsAtUnload = true;
+    QString captionAtUnload;
 };
 
 TEST_P(LastSteps, MarkTheChangeBeforeOrAfterTheProgressWindowGoes)
@@ -249,6 +254,8 @@ TEST_P(LastSteps, MarkTheChangeBeforeOrAfterTheProgressWindowGoes)
     session.work.Valori.fill(2500);
     RunInFrame(effect);
     EXPECT_EQ(atUnload, before.contains(effect.name) ? 1 : 0);
+    EXPECT_FALSE(pixelsAtUnload);
+    EXPECT_EQ(captionAtUnload, "b.bmp   64x48");
     EXPECT_EQ(session.doc.Modificato, 1);
     const std::string caption = effect.name == "Mini Foto Rnd" ? "b.bmp" : std::string(effect.name);
     EXPECT_EQ(CanvasCaption().toStdString(), caption + "   64x48");

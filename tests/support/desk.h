@@ -68,6 +68,14 @@ inline void ClickAway(QWidget& startUpPicture)
     QTest::mouseClick(startUpPicture.findChild<QWidget*>("Picture1"), Qt::LeftButton);
 }
 
+/// A program that ended in an earlier test leaves word to every event loop; only a new main loop
+/// forgets it.
+inline void ForgetEarlierEnd()
+{
+    QTimer::singleShot(0, [] { QApplication::exit(0); });
+    QApplication::exec();
+}
+
 /// The program's session before its start; what users do in it. Folders come before it.
 class Desk {
   public:
@@ -123,15 +131,6 @@ class Desk {
 
     ScriptedDialogs dialogs;
     Session session;
-
-  private:
-    /// A program that ended in an earlier test leaves word to every event loop; only a new main
-    /// loop forgets it.
-    static void ForgetEarlierEnd()
-    {
-        QTimer::singleShot(0, [] { QApplication::exit(0); });
-        QApplication::exec();
-    }
 };
 
 /// The program, started.

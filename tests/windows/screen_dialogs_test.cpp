@@ -169,8 +169,9 @@ TEST_F(RealFileDialog, OpensWithTheFilterInTheFolder)
 {
     Meanwhile([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.directory(), QDir::current());
-        EXPECT_THAT(dialog.nameFilters().join("").toStdString(),
-                    testing::HasSubstr("*.bmp *.jpg *.gif"));
+        EXPECT_EQ(dialog.windowTitle(), "Apri");
+        EXPECT_EQ(dialog.nameFilters(), QStringList("(*.Bmp) (*.Jpg) (*.Gif) (*.bmp *.jpg *.gif)"));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
         dialog.reject();
     });
     EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), std::nullopt);
@@ -186,8 +187,9 @@ TEST_F(RealFileDialog, AddsTheDefaultExtensionWhenSaving)
 {
     Meanwhile([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.defaultSuffix(), "bmp");
-        EXPECT_THAT(dialog.nameFilters().join("").toStdString(),
-                    testing::HasSubstr("Bitmap (*.bmp)"));
+        EXPECT_EQ(dialog.windowTitle(), "Salva con nome");
+        EXPECT_EQ(dialog.nameFilters(), QStringList("Bitmap (*.bmp)"));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
         Type(dialog, "nuovo");
     });
     EXPECT_EQ(screen.AskSaveName(QDir::currentPath()), Path("nuovo.bmp"));
