@@ -107,6 +107,20 @@ AtomicFile::~AtomicFile()
     if (!temporary_.empty()) unlinkat(folder_.Number(), temporary_.c_str(), 0);
 }
 
+/// What has to be on disk begins to go there while the rest is still made: at the end there is less
+/// to wait for.
+bool AtomicFile::Write(std::span<const std::byte> bytes) noexcept
+{
+    constexpr std::size_t Piece = std::size_t{4} << 20;
+    if (!sink_->Write(bytes)) return false;
+    waiting_ += bytes.size();
+    if (purpose_ == Purpose::Working || waiting_ < Piece) return true;
+    sync_file_range(file_.Number(), static_cast<off64_t>(begun_), static_cast<off64_t>(waiting_),
+                    SYNC_FILE_RANGE_WRITE);
+    begun_ += std::exchange(waiting_, 0);
+    return true;
+}
+
 /// Of a file without a name nothing is left when the program is killed while it writes.
 void AtomicFile::MakeUnnamed(unsigned permissions)
 {

@@ -34,7 +34,7 @@ class AtomicFile final : public ByteSink {
     AtomicFile(const std::string& path, Purpose purpose, Temporary temporary);
     ~AtomicFile() override;
 
-    bool Write(std::span<const std::byte> bytes) noexcept override { return sink_->Write(bytes); }
+    bool Write(std::span<const std::byte> bytes) noexcept override;
     int Error() const noexcept override { return sink_->Error(); }
 
     /// Puts the file in its place. False, and nothing has changed, where a file without a name
@@ -53,6 +53,9 @@ class AtomicFile final : public ByteSink {
     std::string temporary_;
     Descriptor file_;
     std::optional<DescriptorSink> sink_;
+    /// Bytes that the disk was told to take, and those since.
+    std::size_t begun_ = 0;
+    std::size_t waiting_ = 0;
 };
 
 /// Writes the file by `fill`, which may be called twice, and puts it in its place. When anything
