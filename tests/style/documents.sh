@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Links of the documents lead somewhere, and no picture of theirs is left over: documents.sh PROJECT
+# Links of the documents lead somewhere, no picture of theirs is left over, and all name one version:
+# documents.sh PROJECT
 set -euo pipefail
 
 cd -- "$1"
@@ -37,5 +38,18 @@ done < <(grep -oE 'docs/[^<]+' packaging/*.metainfo.xml)
 while read -r picture; do
     grep -qxF -- "$picture" "$used" || complain "Nothing links $picture"
 done < <(find docs -name '*.jpg' -o -name '*.png' | sort)
+# The version stands in CMakeLists.txt; texts that cannot ask for it say the same.
+version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
+while IFS=: read -r file text; do
+    grep -qF -- "${text//VERSION/$version}" "$file" || complain "$file: not \"${text//VERSION/$version}\""
+done <<'TEXTS'
+debian/changelog:pixano (VERSION)
+packaging/org.example.pixano.metainfo.xml:<release version="VERSION"
+packaging/man/pixano.1:"Pixano VERSION"
+packaging/man/pixano-batch.1:"Pixano VERSION"
+packaging/man/it/pixano.1:"Pixano VERSION"
+packaging/man/it/pixano-batch.1:"Pixano VERSION"
+resources/descrizione.html:<b>Pixano VERSION</b>
+TEXTS
 [[ $(grep -c '<a id="' docs/guida.md) -eq 46 ]] || complain "The guide does not describe 46 effects"
 exit "$failed"
