@@ -18,7 +18,7 @@ void CheckSize(std::int64_t width, std::int64_t height)
         throw Refusal("l'immagine è troppo grande (" + size + "): " + LongestSideText());
     if (width * height > MostPixels)
         throw Refusal("l'immagine è troppo grande (" + size +
-                      "): può avere al massimo 256 milioni di pixel");
+                      "): può avere al massimo 268 milioni di pixel");
 }
 
 }  // namespace pixano
