@@ -10,8 +10,9 @@ std::string Caption(std::string_view text, const Work& w)
 }
 
 std::string RunChain(Work& w, std::span<const Step> steps, const Strengths& valori,
-                     std::string caption, ChainProgress& progress)
+                     std::string_view before, ChainProgress& progress)
 {
+    std::string caption(before);
     for (const Step& step : steps) {
         progress.Begins(*step.effect);
         w.Valori = valori;
