@@ -10,8 +10,10 @@ std::string Caption(std::string_view text, const Work& w)
 }
 
 std::string RunChain(Work& w, std::span<const Step> steps, const Strengths& valori,
-                     std::string caption, ChainProgress& progress)
+                     std::string_view before, ChainProgress& progress)
 {
+    // clang-tidy 19 does not see that the loop changes it.
+    std::string caption(before);  // NOLINT(misc-const-correctness)
     for (const Step& step : steps) {
         progress.Begins(*step.effect);
         w.Valori = valori;

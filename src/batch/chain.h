@@ -28,8 +28,8 @@ std::string Caption(std::string_view text, const Work& w);
 
 /// Runs the effects in order; matrices, `Larg`, `Alt` and the random numbers live on from one to
 /// the next. `valori` are the strengths of the effects that are given none. Gives the canvas
-/// caption at the end, `caption` when no effect has set one. Throws EffectFailed.
+/// caption at the end, `before` when no effect has set one. Throws EffectFailed.
 std::string RunChain(Work& w, std::span<const Step> steps, const Strengths& valori,
-                     std::string caption, ChainProgress& progress);
+                     std::string_view before, ChainProgress& progress);
 
 }  // namespace pixano::batch

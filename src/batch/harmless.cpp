@@ -1,5 +1,8 @@
 #include "batch/harmless.h"
 
+#include <algorithm>
+#include <bit>
+
 namespace pixano::batch {
 namespace {
 
@@ -12,7 +15,8 @@ bool Continues(char byte)
 std::size_t LengthOfFirst(std::string_view text)
 {
     const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+    // As many as the ones that it begins with; a byte below &HC0 is alone.
+    const auto length = static_cast<std::size_t>(std::clamp(std::countl_one(lead), 1, 4));
     for (std::size_t i = 1; i < length; ++i)
         if (i >= text.size() || !Continues(text[i])) return 1;
     return length;

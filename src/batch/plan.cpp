@@ -100,6 +100,7 @@ PlannedSheet PlanSheet(const CommandLine& line)
 std::vector<PlannedPicture> PlanPictures(const CommandLine& line)
 {
     std::vector<PlannedPicture> pictures;
+    pictures.reserve(line.inputs.size());
     for (const std::string& input : line.inputs)
         pictures.push_back({input, OutputOf(line, input)});
     if (line.output) RefuseUnknownFormat(*line.output);

@@ -29,7 +29,7 @@ void Abilita(const Session& s)
     SwitchAll(s, {Needs::Picture}, true);
 }
 
-// cppcheck-suppress constParameter ; the palette changes
+// cppcheck-suppress [constParameter, constParameterReference] ; the palette changes
 void DisableHistory(Session& s)
 {
     SwitchAll(s, {Needs::History}, false);

@@ -34,8 +34,11 @@ void Mostra(Session& s)
     s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);
     const double width = TwipsPerColumn * s.work.Larg;
     const double height = TwipsPerRow * s.work.Alt;
-    s.form9.Stretch({Pixels(static_cast<float>(s.doc.Zoom * width)),
-                     Pixels(static_cast<float>(s.doc.Zoom * height))});
+    const auto sideOf = [&s](double twips) {
+        // cppcheck-suppress suspiciousFloatingPointCast ; a control's size is of single precision
+        return Pixels(static_cast<float>(s.doc.Zoom * twips));
+    };
+    s.form9.Stretch({sideOf(width), sideOf(height)});
     OpenOnScreenOf(s.form1, s.form9);
     ShowAgain(s.form9);
     OpenOnScreenOf(s.form1, s.form10);

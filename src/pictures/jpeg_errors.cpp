@@ -49,7 +49,7 @@ void JpegErrors::Exit(j_common_ptr jpeg)
 
 void JpegErrors::Emit(j_common_ptr jpeg, int level)
 {
-    JpegErrors& errors = Of(jpeg);
+    const JpegErrors& errors = Of(jpeg);
     if (level < 0 && errors.onWarning != nullptr) errors.onWarning(jpeg, errors.msg_code);
 }
 

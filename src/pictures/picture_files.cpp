@@ -87,11 +87,14 @@ void EncodeAs(const Surface& surface, PictureFormat format, ByteSink& sink, cons
         throw Refusal("non c'è nessuna immagine da scrivere");
     switch (format) {
     case PictureFormat::Bmp:
-        return EncodeBmp(surface, sink);
+        EncodeBmp(surface, sink);
+        break;
     case PictureFormat::Png:
-        return EncodePng(surface, sink, extras);
+        EncodePng(surface, sink, extras);
+        break;
     case PictureFormat::Jpeg:
-        return EncodeJpeg(surface, sink, extras);
+        EncodeJpeg(surface, sink, extras);
+        break;
     }
 }
 
@@ -150,8 +153,9 @@ void WriteWorkingBitmap(const Surface& surface, const std::string& path)
 PictureFormat FormatOf(const std::string& path)
 {
     std::string name = path.substr(path.rfind('/') + 1);
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    std::ranges::transform(name, name.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    });
     if (name.ends_with(".bmp")) return PictureFormat::Bmp;
     if (name.ends_with(".png")) return PictureFormat::Png;
     if (name.ends_with(".jpg") || name.ends_with(".jpeg")) return PictureFormat::Jpeg;

@@ -37,13 +37,15 @@ void ShowInTheMiddle(const Session& s, QDialog&& window)
     window.exec();
 }
 
-// cppcheck-suppress constParameter ; every command takes the session alike
+// cppcheck-suppress [constParameter, constParameterReference] ; every command takes the session
+// alike
 void Inf_Click(Session& s)
 {
     ShowInTheMiddle(s, Form5());
 }
 
-// cppcheck-suppress constParameter ; every command takes the session alike
+// cppcheck-suppress [constParameter, constParameterReference] ; every command takes the session
+// alike
 void Inter_Click(Session& s)
 {
     ShowInTheMiddle(s, Form7());

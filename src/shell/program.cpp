@@ -96,7 +96,9 @@ void HearSecondStarts(Session& s, const SecondStarts& starts)
 {
     const auto waiting = std::make_shared<QStringList>();
     const auto openNext = [&s, waiting] {
+        // cppcheck-suppress knownConditionTrueFalse ; it is filled below
         if (waiting->isEmpty() || s.busy || s.ending) return;
+        // cppcheck-suppress containerOutOfBounds ; it is not empty here
         RunCommand(s, "Apri", Fatal::None, [&] { OpenNamed(s, waiting->takeFirst()); });
     };
     s.afterCommand = [&s, openNext] { QTimer::singleShot(0, &s.form1, openNext); };
