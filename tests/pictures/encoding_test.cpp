@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
@@ -86,6 +87,28 @@ TEST(Encoding, JpegKeepsTheColourOfEachPixelOnItsOwn)
     const Surface read = Encoded(stripes, PictureFormat::Jpeg).Read().picture;
     EXPECT_GT(read.Point(4, 8) & 255, 170);
     EXPECT_LT(read.Point(5, 8) & 255, 70);
+}
+
+// Longer than what is written at once; nothing follows the mark of the end.
+TEST(Encoding, LongFilesAreWholeToTheirLastByte)
+{
+    Surface noise(400, 300);
+    for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 400; ++x)
+            noise.PSet(x, y, static_cast<Colour>((x * 7919U + y * 104729U) * 2654435761U >> 8));
+    EXPECT_EQ(DecodedByLibpng(Encoded(noise, PictureFormat::Png)), ColoursOf(noise));
+    for (const Surface& picture : {noise, Surface(2, 2)}) {
+        const Bytes jpeg = Encoded(picture, PictureFormat::Jpeg);
+        EXPECT_EQ(jpeg.Size() > 65536, picture.Width() == 400);
+        EXPECT_FALSE(jpeg.Read().truncated);
+        EXPECT_EQ(WarningsOfLibjpeg(jpeg), 0);
+        EXPECT_EQ(ColoursOf(jpeg.Read().picture), DecodedByLibjpeg(jpeg));
+        EXPECT_EQ(std::vector(jpeg.Vector().end() - 2, jpeg.Vector().end()),
+                  (std::vector{std::byte{0xFF}, std::byte{0xD9}}));
+        // One mark of the end, and only one.
+        const std::byte end[] = {std::byte{0xFF}, std::byte{0xD9}};
+        EXPECT_EQ(std::ranges::search(jpeg.Vector(), end).begin(), jpeg.Vector().end() - 2);
+    }
 }
 
 TEST(Encoding, TheExtensionTellsTheFormat)

@@ -79,6 +79,28 @@ TEST(IccProfile, IsFoundInEveryFormat)
     EXPECT_EQ(GifWith("ICCRGBG1012", profile).Read().profile, expected);
 }
 
+// Behind marks that are no segments, and before extensions that only look like it.
+TEST(IccProfile, IsFoundBehindWhatElseTheHeadMayHold)
+{
+    const Bytes profile = MadeProfile();
+    const Bytes jpeg = JpegWith({Part(profile, 1, 1)});
+    for (const int alone : {0x01, 0xD0, 0xD3, 0xD7}) {
+        Bytes file{0xFF, 0xD8, 0xFF, alone};
+        file.Vector().insert(file.Vector().end(), jpeg.Vector().begin() + 2, jpeg.Vector().end());
+        EXPECT_EQ(file.Read().profile, profile.Vector()) << alone;
+    }
+    const Bytes gif = GifWith("ICCRGBG1012", profile);
+    const std::size_t screen = GifScreen(1, 1).Size();
+    Bytes comment;
+    comment.Vector().assign(gif.Vector().begin(),
+                            gif.Vector().begin() + static_cast<std::ptrdiff_t>(screen));
+    comment.Add({0x21, 0xFE, 11}).Add("ICCRGBG1012").Add({3}).Add("bis").Add({0});
+    comment.Vector().insert(comment.Vector().end(),
+                            gif.Vector().begin() + static_cast<std::ptrdiff_t>(screen),
+                            gif.Vector().end());
+    EXPECT_EQ(comment.Read().profile, profile.Vector());
+}
+
 TEST(IccProfile, IsPutTogetherFromItsParts)
 {
     const Bytes profile = MadeProfile(300);

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace pixano::test {
 namespace {
 
@@ -22,6 +24,26 @@ TEST(JpegBounds, SidesAndPixels)
     const PictureRead read = WithSides(file, 16, 32767).Read();
     EXPECT_EQ(read.picture.Height(), 32767);
     EXPECT_TRUE(read.truncated);
+}
+
+/// A sound file whose byte at `place` behind the mark of its frame is another one. The mark itself
+/// is at -1, the precision at 2.
+Bytes WithFrameByte(std::ptrdiff_t place, int value)
+{
+    Bytes file = MakeJpeg(Shaded(16, 16));
+    const std::byte mark[] = {std::byte{0xFF}, std::byte{0xC0}};
+    const auto frame = std::ranges::search(file.Vector(), mark).begin();
+    frame[2 + place] = static_cast<std::byte>(value);
+    return file;
+}
+
+TEST(JpegBounds, KindsThatAreNotRead)
+{
+    // Frames without loss, in steps of their own, and samples of twelve bits.
+    for (const Bytes& file : {WithFrameByte(-1, 0xC3), WithFrameByte(-1, 0xC5),
+                              WithFrameByte(-1, 0xCB), WithFrameByte(2, 12)})
+        EXPECT_EQ(file.Refusal(),
+                  "Impossibile leggere «prova»: questo tipo di JPEG non è previsto");
 }
 
 TEST(JpegBounds, ManyScansOfAFewPixels)

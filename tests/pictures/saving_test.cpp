@@ -177,6 +177,17 @@ TEST_F(Saving, AWorkingFileReplacesALinkAndAPipe)
     EXPECT_EQ(ReadFile(folder / "pipe"), SmallFile);
 }
 
+TEST_F(Saving, ARescuedPictureIsTheUsersOwnAndFollowsNoLink)
+{
+    WriteFile(folder / "other", {1});
+    fs::create_symlink(folder / "other", folder / "a.bmp");
+    SavePrivateBitmap(Small(), folder / "a.bmp");
+    EXPECT_EQ(ReadFile(folder / "other"), (Bytes{1}));
+    EXPECT_FALSE(fs::is_symlink(folder / "a.bmp"));
+    EXPECT_EQ(ReadFile(folder / "a.bmp"), SmallFile);
+    EXPECT_EQ(fs::status(folder / "a.bmp").permissions(), fs::perms(0600));
+}
+
 TEST_F(Saving, OntoWhatIsNoFile)
 {
     fs::create_directory(path);

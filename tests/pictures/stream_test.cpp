@@ -1,5 +1,6 @@
 // Pictures that come through a pipe, or from an open file: the same pixels and messages as from a
 // file's name, and nothing is waited for that the picture does not need.
+#include "files/descriptor.h"
 #include "pictures/bmp_maker.h"
 #include "pictures/byte_files.h"
 #include "pictures/gif_maker.h"
@@ -144,6 +145,18 @@ TEST_F(OpenFiles, AreReadFromWhereTheyStand)
         EXPECT_TRUE(Read(folder / "file", 3) == InMemory(file));
     }
     EXPECT_THAT(Read(folder / "file", 4).refusal, HasSubstr("il file è vuoto"));
+}
+
+// The system calls them files of no length.
+TEST_F(OpenFiles, WhoseLengthNobodyKnowsAreReadAllTheSame)
+{
+    const Descriptor file(open("/proc/self/status", O_RDONLY | O_CLOEXEC));
+    try {
+        ReadPictureFrom(file.Number(), "prova");
+        ADD_FAILURE() << "it was read";
+    } catch (const PictureError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("non è un'immagine BMP, JPEG o GIF"));
+    }
 }
 
 TEST_F(OpenFiles, OfOtherKindsAreRefused)

@@ -28,6 +28,15 @@ Bytes LargeBitmap()
     return Bmp({.width = Side, .height = Side}, {}, Bytes().Zeros(100));
 }
 
+/// Its head says that a colour profile of 4 GB lies behind the pixels.
+Bytes LargeProfile()
+{
+    BmpHead head{.width = Side, .height = Side};
+    head.size = 124;
+    return Bmp(head, Bytes().Zeros(16).Add("DEBM").Zeros(52).U32(124).U32(0xFFFFFFFF).Zeros(4),
+               Bytes().Zeros(100));
+}
+
 /// Runs of one colour, each a row or what is left of it.
 Bytes LargeRuns()
 {
@@ -97,6 +106,7 @@ void PrintTo(const Large& large, std::ostream* out)
 }
 
 constexpr Large Larges[] = {{"Bitmap", LargeBitmap, 4},
+                            {"BitmapWithProfile", LargeProfile, 4},
                             {"BitmapInRuns", LargeRuns, 4},
                             {"Jpeg", [] { return LargeJpeg({}); }, 4},
                             {"ProgressiveJpeg", [] { return LargeJpeg(Progressive); }, 4 + 3 * 2},
