@@ -112,7 +112,11 @@ TEST_F(FileDialogs, ReadNoFileToShowIt)
         auto* const list = dialog.findChild<QTreeView*>("treeView");
         ASSERT_TRUE(ComesToHold([&] { return list->model()->rowCount(list->rootIndex()) >= 3; }));
         list->grab();
-        QTest::qWait(50);
+        // Its thread has looked at every file once the last one's kind is told.
+        EXPECT_TRUE(ComesToHold([&] {
+            const int last = list->model()->rowCount(list->rootIndex()) - 1;
+            return !list->model()->index(last, 2, list->rootIndex()).data().toString().isEmpty();
+        }));
     });
     std::array<char, 4096> events{};
     std::string read;
