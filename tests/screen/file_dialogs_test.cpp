@@ -61,6 +61,7 @@ TEST_F(FileDialogs, AreItalianWhateverTheLocale)
         const int file = cell(0, 0) == "figura.bmp" ? 0 : 1;
         EXPECT_EQ(cell(file, 1), "9,05 KiB");
         EXPECT_EQ(cell(file, 2), "Immagine BMP");
+        EXPECT_EQ(cell(1 - file, 1), "");
         EXPECT_EQ(cell(1 - file, 2), "Cartella");
         EXPECT_THAT(cell(file, 3),
                     testing::StartsWith(QDate::currentDate().toString("dd/MM/yy").toStdString()));
