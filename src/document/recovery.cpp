@@ -106,10 +106,13 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
         {.annulla = std::nullopt, .originale = true, .ripristina = std::nullopt});
     s.doc.canvasCopy = s.doc.notedCopy = note.copy;
     Mostra(s);
-    SecureCanvas(s);
-    // The new copy is complete; the old one, if it lay elsewhere, has done its duty.
+    // The preview's copy is complete, so it can be noted.
     const QString current = AbsolutePath(file::PreviewCopy);
-    if (note.copy.endsWith('/' + file::PreviewCopy) && note.copy != current)
+    s.doc.canvasCopy = current;
+    SecureCanvas(s);
+    // The old one, if it lay elsewhere, has done its duty once nothing tells of it any more.
+    if (s.doc.notedCopy == current && note.copy != current &&
+        note.copy.endsWith('/' + file::PreviewCopy))
         unlink(FileBytes(note.copy).c_str());
 }
 

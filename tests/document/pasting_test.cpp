@@ -93,7 +93,10 @@ TEST_F(Pasting, KeepsThePictureNoLongerThanTheProgramRuns)
     CopyPicture(ImageOf(Drawn({"abc"})));
     Paste();
     CopyPicture(ImageOf(Drawn({"de"})));
-    QTest::qWait(2);  // kept under names of the millisecond
+    // They are kept under names of the millisecond.
+    const QTime before = QTime::currentTime();
+    while (QTime::currentTime() == before) {
+    }
     Paste();
     EXPECT_EQ(KeptFiles().size(), 2);
     EXPECT_TRUE(session.form1.close());

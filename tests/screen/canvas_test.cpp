@@ -80,7 +80,7 @@ TEST_F(SeenCanvas, ShowsWhatAnErrorSpeaksOfBeforeItIsTold)
 TEST_F(SeenCanvas, ComesToTheFrontAtAPressOnThePicture)
 {
     // By the program itself: not every window manager raises what is pressed.
-    Do("windowmove --sync " + Id(session.form9) + " 100 60");
+    Do("windowmove " + Id(session.form9) + " 100 60");
     Activate(session.form9);
     ASSERT_TRUE(ComesToHold([this] { return IsAbove(session.form9, session.form2); }));
     QTest::mouseClick(&session.form2.Picture1(), Qt::LeftButton);

@@ -61,6 +61,7 @@ TEST_F(FileDialogs, AreItalianWhateverTheLocale)
         const int file = cell(0, 0) == "figura.bmp" ? 0 : 1;
         EXPECT_EQ(cell(file, 1), "9,05 KiB");
         EXPECT_EQ(cell(file, 2), "Immagine BMP");
+        EXPECT_EQ(cell(1 - file, 1), "");
         EXPECT_EQ(cell(1 - file, 2), "Cartella");
         EXPECT_THAT(cell(file, 3),
                     testing::StartsWith(QDate::currentDate().toString("dd/MM/yy").toStdString()));
@@ -112,7 +113,11 @@ TEST_F(FileDialogs, ReadNoFileToShowIt)
         auto* const list = dialog.findChild<QTreeView*>("treeView");
         ASSERT_TRUE(ComesToHold([&] { return list->model()->rowCount(list->rootIndex()) >= 3; }));
         list->grab();
-        QTest::qWait(50);
+        // Its thread has looked at every file once the last one's kind is told.
+        EXPECT_TRUE(ComesToHold([&] {
+            const int last = list->model()->rowCount(list->rootIndex()) - 1;
+            return !list->model()->index(last, 2, list->rootIndex()).data().toString().isEmpty();
+        }));
     });
     std::array<char, 4096> events{};
     std::string read;

@@ -6,9 +6,21 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace pixano::test {
 namespace {
+
+/// Counts the keys that are pressed, in whichever window.
+struct KeyCount : QObject {
+    KeyCount() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress && watched->isWindowType()) ++count;
+        return false;
+    }
+    qsizetype count = 0;
+};
 
 class Typing : public Desktop {
   protected:
@@ -21,8 +33,11 @@ class Typing : public Desktop {
     /// Types every key, and waits until all of them have arrived.
     static void Type(const QString& keys)
     {
+        const KeyCount pressed;
         Do("key --delay 1 " + keys);
-        QTest::qWait(20);
+        const auto count = keys.split(QRegularExpression("[ +]")).size();
+        // Shift may come with some of them.
+        EXPECT_TRUE(ComesToHold([&] { return pressed.count >= count; })) << keys.toStdString();
     }
 };
 
@@ -96,6 +111,7 @@ TEST_F(Typing, AStrengthWithoutHaste)
     ShowFocused(window);
     auto* const slider = window.findChild<QSlider*>("Slider1");
     Type("7");
+    // A person who thinks: it is not waited for anything, and nothing may come of it.
     QTest::qWait(1100);
     Type("5");
     EXPECT_TRUE(ComesToHold([&] { return slider->value() == 75; }));

@@ -29,7 +29,9 @@ class SeenPreview : public Desktop {
     {
         const QPoint place = Preview().viewport()->mapToGlobal(QPoint(200, 200));
         Preview().raise();
-        Do(QString("mousemove %1 %2 sleep 0.05 ").arg(place.x()).arg(place.y()) + commands);
+        Do(QString("mousemove %1 %2").arg(place.x()).arg(place.y()));
+        EXPECT_TRUE(ComesToHold([this] { return Preview().viewport()->underMouse(); }));
+        Do(commands);
     }
     QPoint Scrolled()
     {

@@ -1,5 +1,6 @@
 // What lies on disk and what is seen while an effect runs, step by step: the program as somebody
 // else would find it who looked at that moment.
+#include "canvas/fault.h"
 #include "support/program.h"
 #include "support/values.h"
 
@@ -110,6 +111,25 @@ TEST_F(EffectSteps, FollowEachOther)
     EXPECT_EQ(last.previewColour, 3);
     EXPECT_EQ(last.pointer, Qt::ArrowCursor);
     EXPECT_EQ(last.title, "");
+}
+
+TEST_F(EffectSteps, BeginWithAnEmptyBarAfterAnErrorThatCameBeforeTheWindow)
+{
+    Open("a.bmp", Painted({{1, 2, 3}, {4, 5, 6}}));
+    const Effect failing{.name = "Guasta",
+                         .run =
+                             [](Work& w) {
+                                 w.Avanzamento(2);
+                                 throw Fault(FaultKind::InputPastEnd);
+                             },
+                         .family = Family::Geometry};
+    RunInFrame(failing);
+    EXPECT_EQ(dialogs.told.size(), 1U);
+    EXPECT_EQ(session.form4.Bar(), 0);
+    EXPECT_EQ(session.form4.windowTitle(), "");
+    Apply("Specchio");
+    EXPECT_EQ(atShow.title, "Elab. Specchio");
+    EXPECT_EQ(atFirstRow.title, "Elab. Specchio  (0%)");
 }
 
 }  // namespace
