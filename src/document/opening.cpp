@@ -49,7 +49,7 @@ void OpenAsNew(Session& s, const QString& name, Surface picture)
 void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpened& modified)
 {
     if (!FileExists(name)) {
-        s.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "File " + name + " non trovato!");
+        s.remarks += "File " + name + " non trovato!";
         return;
     }
     const bool same = s.doc.open && name == s.doc.FileAperto;

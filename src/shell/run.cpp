@@ -61,7 +61,7 @@ void Tell(Session& s, BoxIcon icon, QString text)
 {
     s.remarks.removeDuplicates();
     for (const QString& remark : std::exchange(s.remarks, {}))
-        text += (text.isEmpty() ? "" : "\n\n") + remark + '.';
+        text += (text.isEmpty() ? "" : "\n\n") + remark + (remark.endsWith('!') ? "" : ".");
     s.form2.Picture1().repaint();
     s.form9.Image1().repaint();
     s.dialogs.Tell(icon, title::Warning, text);

@@ -117,7 +117,11 @@ std::vector<GivenCommand> FileCommands()
     const auto answering = [](bool save, const std::function<void(Desk&)>& then) {
         return [save, then](Desk& d) {
             d.dialogs.answers.push_back(save);
-            if (save) d.dialogs.saveNames.push_back(AtHome("salvata.bmp"));
+            if (save) {
+                // Where nobody can look whether the file is there, it is not replaced unasked.
+                d.dialogs.answers.push_back(true);
+                d.dialogs.saveNames.push_back(AtHome("salvata.bmp"));
+            }
             then(d);
         };
     };
@@ -137,7 +141,12 @@ std::vector<GivenCommand> FileCommands()
         {.name = "drop, no", .give = answering(false, drops)},
         {.name = "paste", .give = pastes, .scenes = {Scene::Opened}, .before = copies},
         {.name = "paste, no", .give = answering(false, pastes), .before = copies},
-        {.name = "save", .give = [](Desk& d) { d.SaveAs(AtHome("salvata.bmp")); }},
+        {.name = "save",
+         .give =
+             [](Desk& d) {
+                 d.dialogs.answers.push_back(true);
+                 d.SaveAs(AtHome("salvata.bmp"));
+             }},
         {.name = "close the canvas, yes",
          .give = answering(true, [](Desk& d) { d.session.form2.close(); })},
         {.name = "close the preview, no",
