@@ -104,6 +104,66 @@ TEST_F(SheetRun, NeedsItsFolderAndItsPicture)
     EXPECT_FALSE(Exists("foglio/index.html"));
 }
 
+TEST_F(SheetRun, StartsFromTheSeedThatIsAskedFor)
+{
+    Draw("a.bmp", Letters(48, std::string(64, 'a')));
+    ASSERT_EQ(Run({"--tutti", "-d", "foglio", "--seme", "7", "a.bmp"}).status, 0);
+    EXPECT_EQ(Count(Page(), "pixano-batch --seme 7 -e "), 46);
+}
+
+TEST_F(SheetRun, SaysOnceThatItsPictureIsDamaged)
+{
+    Draw("a.bmp", Letters(48, std::string(64, 'a')));
+    WriteBytes(File("cut.bmp"), Bytes("a.bmp").substr(0, 5000));
+    const Ran ran = Run({"--tutti", "-d", "foglio", "cut.bmp"});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "pixano-batch: cut.bmp: attenzione, il file è incompleto o danneggiato; "
+                       "quel che manca resta grigio\n");
+}
+
+TEST_F(SheetRun, GoesOnWhereOnePictureCannotBeWritten)
+{
+    Draw("a.bmp", Letters(48, std::string(64, 'a')));
+    std::filesystem::create_directory(File("foglio/vetro.jpg"));
+    const Ran ran = Run({"--tutti", "-d", "foglio", "a.bmp"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err, "pixano-batch: Impossibile salvare «foglio/vetro.jpg»: è una cartella\n");
+    EXPECT_EQ(Count(Page(), "<code>"), 45);
+    EXPECT_TRUE(Exists("foglio/specchio.jpg"));
+}
+
+TEST_F(SheetRun, SaysThatItsPageCannotBeWrittenOrTold)
+{
+    Draw("a.bmp", {"ab"});
+    const Ran untold =
+        RunProgram({"sh", "-c", "\"$0\" --tutti -d foglio a.bmp >/dev/full", program}, Folder());
+    EXPECT_EQ(untold.status, 1);
+    std::filesystem::remove(File("foglio/index.html"));
+    std::filesystem::create_directory(File("foglio/index.html"));
+    const Ran ran = Run({"--tutti", "--silenzioso", "-d", "foglio", "a.bmp"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("Impossibile salvare «foglio/index.html»: è una cartella\n"));
+}
+
+TEST_F(SheetRun, ShowsPicturesOf240PixelsAtMost)
+{
+    SaveBitmap(Surface(480, 120, 0x123456), File("a.bmp"));
+    ASSERT_EQ(Run({"--tutti", "-d", "foglio", "a.bmp"}).status, 0);
+    EXPECT_EQ(Count(Page(), " width=\"240\" height=\"60\""), Count(Page(), "<img "));
+    EXPECT_EQ(ReadPicture(File("foglio/originale.jpg")).picture.Width(), 240);
+}
+
+TEST_F(SheetRun, NeedsAFolderAndNoFileOfThatName)
+{
+    Draw("a.bmp", {"ab"});
+    WriteBytes(File("file"), "x");
+    for (const std::string task : {"--tutti", "--silenzioso"}) {
+        const Ran ran = Run({task, "-d", "file", "a.bmp"});
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_EQ(ran.err, "pixano-batch: La cartella \"file\" non esiste\n");
+    }
+}
+
 TEST_F(Tool, MakesLargerPicturesSmallerBeforeTheEffects)
 {
     Draw("a.bmp", {"aabb", "aabb", "ccdd", "ccdd"});

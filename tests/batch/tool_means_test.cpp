@@ -49,6 +49,23 @@ TEST_F(Means, WorksWithAsManyThreadsAsAskedFor)
     }
 }
 
+// A thread takes a thousand megabytes of address space here, of which there are three thousand.
+TEST_F(Means, GoesOnWithTheThreadsThatThereAre)
+{
+    std::filesystem::create_directory(File("fatte"));
+    std::string pictures;
+    for (int i = 0; i < 8; ++i) {
+        Draw(std::to_string(i) + ".bmp", {"abc"});
+        pictures += " " + std::to_string(i) + ".bmp";
+    }
+    const std::string limits = "ulimit -s 1000000 && ulimit -v 3000000 && ";
+    if (Shell(limits + "\"$0\" --versione").status != 0) GTEST_SKIP() << "no such limits here";
+    const Ran ran = Shell(limits + "\"$0\" -j 8 -d fatte" + pictures);
+    EXPECT_EQ(ran.status, 0) << ran.err;
+    for (int i = 0; i < 8; ++i)
+        EXPECT_TRUE(Exists("fatte/" + std::to_string(i) + ".bmp")) << i;
+}
+
 /// What is told under limits that grow, megabyte by megabyte, until there is enough for `task`.
 std::set<std::string> ToldWithTooLittleMemory(const std::function<Ran(const std::string&)>& shell,
                                               const std::string& task)
