@@ -111,6 +111,8 @@ TEST_F(BringingBack, LetsTheWorkGoOn)
     dialogs.answers = {false};
     EXPECT_TRUE(session.form1.close());
     EXPECT_FALSE(Exists(Path("elabor.tmp")));
+    // The user's own picture is none that the program keeps for itself.
+    EXPECT_TRUE(Exists(Path("a.bmp")));
 }
 
 TEST_F(BringingBack, MovesItsCopyIntoTheFolderOfTheNextStart)

@@ -35,6 +35,19 @@ TEST(Palette, ShowsEveryButtonAsItIsTabled)
     }
 }
 
+TEST(Palette, NamesEveryButtonForThoseWhoDoNotSeeIt)
+{
+    const Form10 palette(PaletteButtons());
+    for (const ExpectedButton& expected : ExpectedButtons) {
+        QString name = QString::fromUtf8(expected.toolTip).trimmed();
+        if (name.isEmpty()) name = QString::fromUtf8(expected.caption);
+        if (expected.zoom != 0)
+            name = expected.zoom > 0 ? "Ingrandisci l'anteprima" : "Riduci l'anteprima";
+        EXPECT_EQ(palette.findChild<QPushButton*>(expected.name)->accessibleName(), name)
+            << expected;
+    }
+}
+
 TEST(Palette, ShowsPicturesOnTheButtonsWithoutCaption)
 {
     const Form10 palette(PaletteButtons());

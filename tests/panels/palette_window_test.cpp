@@ -47,6 +47,36 @@ TEST_F(PaletteWindow, StandsThereAgainWhenItWasClosed)
     EXPECT_EQ(palette.pos(), place);
 }
 
+TEST_F(PaletteWindow, CanBeClosedAndNothingElse)
+{
+    const Qt::WindowFlags flags = palette.windowFlags();
+    EXPECT_TRUE(flags.testFlag(Qt::WindowTitleHint));
+    EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_EQ(palette.minimumSize(), palette.maximumSize());
+}
+
+TEST_F(PaletteWindow, HasSoManyButtonsInEachRow)
+{
+    std::vector<std::vector<int>> rows;
+    for (const char* const first : {"SSCommand15", "SSCommand7", "SSCommand2", "Command1"}) {
+        std::vector<int>& box = rows.emplace_back();
+        const auto* const parent = palette.findChild<QPushButton*>(first)->parentWidget();
+        int top = -1;
+        for (const auto* button : parent->findChildren<QPushButton*>()) {
+            if (button->y() != std::exchange(top, button->y())) box.push_back(0);
+            ++box.back();
+        }
+    }
+    EXPECT_EQ(rows, (std::vector<std::vector<int>>{{3}, {4, 4, 3}, {2, 2, 2, 2, 2, 2}, {2}}));
+}
+
+TEST_F(PaletteWindow, StartsWithTheKeyboardOnTheFirstReflection)
+{
+    EXPECT_EQ(palette.focusWidget(), palette.findChild<QPushButton*>("SSCommand7"));
+}
+
 TEST_F(PaletteWindow, HasItsThreeFramesInOrder)
 {
     QStringList captions;

@@ -77,6 +77,8 @@ TEST_F(SliderWindow, RunsFromNothingToTenThousand)
     EXPECT_EQ(Slider().maximum(), 10000);
     EXPECT_EQ(Slider().singleStep(), 100);
     EXPECT_EQ(Slider().pageStep(), 1000);
+    EXPECT_EQ(Slider().tickInterval(), 1000);
+    EXPECT_EQ(Slider().tickPosition(), QSlider::TicksBelow);
 }
 
 TEST_F(SliderWindow, ShowsTheStrengthAsItIsWrittenAndTheSliderAtTheNearestPlace)
@@ -177,6 +179,26 @@ TEST_F(SliderWindow, TakesTypedDigits)
     ExpectMovedTo(2534);
     Type("5");
     ExpectMovedTo(10000);
+}
+
+TEST_F(SliderWindow, ShowsWhatIsTypedInAPlaceThatStays)
+{
+    const QSize before = window.size();
+    const auto* const typed = window.findChild<QLabel*>("Typed");
+    const QRect place = typed->geometry();
+    int resized = 0;
+    QObject::connect(&window, &Form11::Resized, [&] { ++resized; });
+    Type("12");
+    EXPECT_EQ(typed->text(), "12");
+    Key(Qt::Key_Right);
+    EXPECT_EQ(typed->text(), "");
+    // No more than a person can mean by a number.
+    Type("00000000000000009");
+    EXPECT_EQ(typed->text(), "0000000000000000");
+    EXPECT_EQ(Slider().value(), 0);
+    EXPECT_EQ(typed->geometry(), place);
+    EXPECT_EQ(window.size(), before);
+    EXPECT_EQ(resized, 0);
 }
 
 TEST_F(SliderWindow, BeginsANewNumberAfterAnotherKey)

@@ -29,6 +29,9 @@ TEST_F(MenusAtHand, OpenAtTheirKeysFromEveryWindow)
             Do(QString("key ") + keys);
             EXPECT_TRUE(ComesToHold([&, name = menu] { return IsOpen(name); }))
                 << keys << " in " << window->objectName().toStdString();
+            const auto* const open = session.form1.findChild<QMenu*>(menu);
+            EXPECT_TRUE(
+                ComesToHold([&] { return open->activeAction() == open->actions().front(); }));
             EXPECT_TRUE(ComesToHold([this] { return IsActive(session.form1); }));
             CloseMenus();
         }

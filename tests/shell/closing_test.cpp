@@ -70,6 +70,18 @@ TEST_F(Program, LeavesAFileThatIsNotItsOwnPreviewCopy)
     EXPECT_EQ(Bytes("elabor.tmp"), "di altri");
 }
 
+TEST_F(Program, DeletesTheCopyInTheDataFolderToo)
+{
+    QDir().mkdir("elabor.tmp");
+    Open("a.bmp", Drawn({"abc"}));
+    Apply("Specchio");
+    ASSERT_TRUE(Exists(Data("elabor.tmp")));
+    dialogs.answers = {false};
+    EXPECT_TRUE(session.form1.close());
+    EXPECT_FALSE(Exists(Data("elabor.tmp")));
+    EXPECT_TRUE(Exists(Path("elabor.tmp"))) << "the user's own folder";
+}
+
 TEST_F(Ending, ThrowsTheChangesAwayAfterNo)
 {
     dialogs.answers = {false};

@@ -151,6 +151,38 @@ TEST_F(Faults, EndOnlyTheCommandWhereThePictureIsRefused)
     EXPECT_FALSE(session.ending.has_value());
 }
 
+TEST_F(Faults, AreToldBeforeWhatElseThereIsToTellAndEachThingOnce)
+{
+    const auto tell = [this](bool failing) {
+        dialogs.told.clear();
+        RunCommand(session, "Prova", Fatal::None, [&] {
+            session.remarks += "Prima cosa";
+            session.remarks += "Seconda cosa";
+            session.remarks += "Prima cosa";
+            if (failing) throw Fault(FaultKind::DivisionByZero);
+        });
+    };
+    const QString remarks = "Prima cosa.\n\nSeconda cosa.";
+    tell(true);
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    EXPECT_EQ(dialogs.told[0].icon, BoxIcon::Critical);
+    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando \"Prova\":\n"));
+    EXPECT_TRUE(dialogs.told[0].text.endsWith(".\n\n" + remarks)) << dialogs.told[0];
+    // Nothing of it is left for the next command.
+    tell(false);
+    EXPECT_EQ(dialogs.told,
+              (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!", remarks}}));
+}
+
+TEST_F(Faults, LeaveNoProgressWindowWhenTheProgramEnds)
+{
+    FailHalfway();
+    ASSERT_TRUE(session.form4.isVisible());
+    EXPECT_TRUE(session.form1.close());
+    for (const QWidget* const window : QApplication::topLevelWidgets())
+        EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
+}
+
 // ---- where they end the program ----
 
 /// A picture is open that is too wide for a matrix.

@@ -155,6 +155,7 @@ TEST_F(MenuTree, IsAllThatTheMainWindowHolds)
     EXPECT_EQ(session.form1.centralWidget(), nullptr);
     session.form1.show();
     EXPECT_EQ(session.form1.height(), session.form1.menuBar()->height());
+    EXPECT_EQ(session.form1.minimumSize(), session.form1.maximumSize());
 }
 
 }  // namespace

@@ -33,6 +33,13 @@ TEST_F(Canvas, PaintsEveryPixelInItsColourInsideTheBorder)
     EXPECT_EQ(window.Picture1().size(), QSize(7, 6));
 }
 
+TEST_F(Canvas, LiesInASunkenBorder)
+{
+    EXPECT_EQ(window.Picture1().frameShape(), QFrame::WinPanel);
+    EXPECT_EQ(window.Picture1().frameShadow(), QFrame::Sunken);
+    EXPECT_EQ(window.Picture1().contentsRect(), QRect(2, 2, 3, 2));
+}
+
 TEST_F(Canvas, KeepsRedGreenAndBlueApart)
 {
     surface.PSet(0, 0, 0xFF);

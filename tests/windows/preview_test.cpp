@@ -2,6 +2,10 @@
 #include "support/letters.h"
 #include "windows/form9.h"
 
+#include <QApplication>
+#include <QTest>
+#include <QWheelEvent>
+
 #include <gtest/gtest.h>
 
 namespace pixano::test {
@@ -51,6 +55,37 @@ TEST_F(Preview, KeepsItsSizeForAnotherPictureWhileItStretches)
     image_.resize(4, 2);
     image_.SetPicture(Drawn({"ab"}));
     EXPECT_EQ(image_.size(), QSize(4, 2));
+}
+
+TEST_F(Preview, IsHeldByAHandWhileTheMouseIsPressed)
+{
+    window_.show();
+    const auto pointer = [this] { return window_.viewport()->cursor().shape(); };
+    QTest::mousePress(window_.viewport(), Qt::LeftButton);
+    EXPECT_EQ(pointer(), Qt::ClosedHandCursor);
+    QTest::mouseRelease(window_.viewport(), Qt::LeftButton);
+    EXPECT_EQ(pointer(), Qt::ArrowCursor);
+    QTest::mousePress(window_.viewport(), Qt::RightButton);
+    EXPECT_EQ(pointer(), Qt::ArrowCursor);
+    QTest::mouseRelease(window_.viewport(), Qt::RightButton);
+}
+
+TEST_F(Preview, TellsEveryNotchOfTheWheelWithTheControlKey)
+{
+    std::vector<bool> zoomed;
+    QObject::connect(&window_, &Form9::Zoomed, [&](bool larger) { zoomed.push_back(larger); });
+    const auto turn = [this](int eighths, Qt::KeyboardModifiers keys) {
+        QWheelEvent event({1, 1}, {1, 1}, {}, {0, eighths}, Qt::NoButton, keys, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(window_.viewport(), &event);
+    };
+    turn(120, Qt::NoModifier);
+    turn(60, Qt::ControlModifier);
+    EXPECT_TRUE(zoomed.empty());
+    turn(60, Qt::ControlModifier);
+    turn(-120, Qt::ControlModifier);
+    turn(120, Qt::ControlModifier);
+    EXPECT_EQ(zoomed, (std::vector<bool>{true, false, true}));
 }
 
 TEST_F(Preview, HoldsItsOwnCopy)

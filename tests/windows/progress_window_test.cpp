@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -75,6 +76,14 @@ TEST_F(ProgressShown, RepaintsAtMostTwentyFiveTimesASecond)
     EXPECT_GE(paints.count, 1);
     EXPECT_LE(paints.count, most);
     EXPECT_GT(step, 2 * paints.count);
+}
+
+TEST_F(ProgressShown, StandsInTheMiddleOfTheScreen)
+{
+    window.Show();
+    const QPoint apart = window.geometry().center() - window.screen()->availableGeometry().center();
+    // As far as half a frame is.
+    EXPECT_LE(apart.manhattanLength(), 40);
 }
 
 TEST_F(ProgressShown, TellsThatTheUserClosedIt)
