@@ -100,9 +100,9 @@ TEST_F(Program, OpensAPictureThatWasNamedInAdvanceWithoutADialog)
     EXPECT_TRUE(dialogs.openFolders.empty());
 }
 
-TEST_F(Program, TellsThatAPictureNamedInAdvanceDoesNotExist)
+TEST_F(Program, TellsThatADroppedPictureDoesNotExist)
 {
-    OpenNamed(session, Path("no.bmp"));
+    emit session.drops.Dropped(Path("no.bmp"));
     EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
                                                     "File " + Path("no.bmp") + " non trovato!"}}));
 }
