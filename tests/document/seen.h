@@ -27,7 +27,7 @@ struct Seen {
           previewSize(s.form9.size()),
           preview(s.form9.Image1().Picture())
     {
-        for (int position = 0; position < 62; ++position)
+        for (int position = 0; position < EntryCount(); ++position)
             enabled.push_back(s.form1.Control(position).isEnabled());
         for (const auto* button : s.form10.findChildren<QPushButton*>())
             enabled.push_back(button->isEnabled());

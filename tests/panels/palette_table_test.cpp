@@ -25,7 +25,7 @@ TEST(PaletteTable, HasTheseButtonsInThisOrder)
 TEST(Palette, ShowsEveryButtonAsItIsTabled)
 {
     const Form10 palette(PaletteButtons());
-    EXPECT_EQ(palette.findChildren<QPushButton*>().size(), 28);
+    EXPECT_EQ(palette.findChildren<QPushButton*>().size(), std::ssize(ExpectedButtons));
     for (const ExpectedButton& expected : ExpectedButtons) {
         const auto* const button = palette.findChild<QPushButton*>(expected.name);
         ASSERT_NE(button, nullptr) << expected;

@@ -73,7 +73,7 @@ std::vector<Act> Acts()
         {"Ctrl+O", [](Session& s) { QTest::keyClick(&s.form1, Qt::Key_O, Qt::ControlModifier); }},
         {"Ctrl+Z", [](Session& s) { QTest::keyClick(&s.form1, Qt::Key_Z, Qt::ControlModifier); }},
     };
-    for (int entry = 1; entry <= 62; ++entry)
+    for (int entry = 1; entry <= EntryCount(); ++entry)
         acts.push_back(
             {"a menu entry", [entry](Session& s) { s.form1.Control(entry - 1).trigger(); }});
     for (const PaletteButton& button : PaletteButtons())

@@ -30,7 +30,7 @@ constexpr int Redo_ = 60;
 // The timer starts from 1, as the program's does.
 Model::Model() : mirror_(Surface(), 1)
 {
-    for (int entry = 1; entry <= 62; ++entry)
+    for (int entry = 1; entry <= EntryCount(); ++entry)
         on_.insert(entry);
     Switch(Undo_, false);
     Switch(Redo_, false);
@@ -49,9 +49,10 @@ void Model::Disable()
 {
     Switch(Salva, false);
     Switch(24, false);
-    for (int entry = 5; entry <= 60; ++entry)
-        // "Sinbot", "Men", "Super", "Infer", "Dopfoto", "Menon" and "Effetti" are left alone.
-        if (!std::set{14, 17, 22, 23, 24, 34, 36}.contains(entry)) Switch(entry, false);
+    for (int entry = 5; entry <= EntryCount(); ++entry)
+        // "Sinbot", "Men", "Super", "Infer", "Dopfoto", "Menon" and "Effetti" are left alone, and
+        // what informs the user is always on.
+        if (!std::set{14, 17, 22, 23, 24, 34, 36, 61, 62}.contains(entry)) Switch(entry, false);
     Switch(35, true);
 }
 
@@ -82,7 +83,7 @@ void Model::Load(const Surface& picture)
     canvasCaption = Sized(shortName_);
     previewCaption = shortName_ + "  (" + std::to_string(mirror_.work.Larg) + " x " +
                      std::to_string(mirror_.work.Alt) + ") - 100%";
-    for (int entry = 4; entry <= 57; ++entry)
+    for (int entry = 4; entry <= EntryCount(); ++entry)
         Switch(entry, true);
     DisableHistory();
     Switch(Salva, false);

@@ -359,7 +359,7 @@ std::string Difference(Session& session, const Model& model)
     compare("preview caption", session.form9.windowTitle(),
             QString::fromStdString(model.previewCaption));
     compare("NomeSalvato", d.NomeSalvato, QString::fromStdString(model.saved));
-    for (int index = 1; index <= 62; ++index) {
+    for (int index = 1; index <= EntryCount(); ++index) {
         const QAction& action = session.form1.Control(index - 1);
         compare("enabled " + action.objectName(), action.isEnabled(), model.Enabled(index));
         compare("checked " + action.objectName(), action.isChecked(), model.checked == index);

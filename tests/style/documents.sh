@@ -51,5 +51,6 @@ packaging/man/it/pixano.1:"Pixano VERSION"
 packaging/man/it/pixano-batch.1:"Pixano VERSION"
 resources/descrizione.html:<b>Pixano VERSION</b>
 TEXTS
-[[ $(grep -c '<a id="' docs/guida.md) -eq 46 ]] || complain "The guide does not describe 46 effects"
+effects=$(grep -c '\.run = ' src/effects/catalogue.h)
+[[ $(grep -c '<a id="' docs/guida.md) -eq $effects ]] || complain "The guide does not describe all $effects effects"
 exit "$failed"

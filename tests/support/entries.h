@@ -19,6 +19,12 @@ inline constexpr int Inf = 61;
 inline constexpr int Inter = 62;
 }  // namespace entry
 
+/// How many entries there are.
+inline int EntryCount()
+{
+    return static_cast<int>(MenuEntries().size());
+}
+
 struct EffectEntry {
     int index;
     const char* effect;
