@@ -1,4 +1,4 @@
-// What the tool does with the means that it has: threads, memory, a terminal, its standard streams.
+// What the tool does with the means that it has: threads, memory, its standard streams.
 #include "batch/tool_run.h"
 
 #include "support/effect_run.h"
@@ -145,31 +145,6 @@ TEST_F(Means, WritesNoPictureToATerminal)
     EXPECT_EQ(ran.status, 2);
     EXPECT_THAT(ran.out, HasSubstr("Un'immagine non si scrive su un terminale"));
     EXPECT_THAT(ran.out, Not(HasSubstr("BM")));
-}
-
-// The progress line counts the pictures that are done, where there are several.
-TEST_F(Means, CountsThePicturesThatAreDone)
-{
-    std::string work = "TERM=xterm '" + program + "' -j 1";
-    for (int i = 0; i < 30; ++i)
-        work += " -e Vetro=2500";
-    for (const char* const name : {"a.bmp", "b.bmp"})
-        SaveBitmap(Surface(1400, 1400, 0x123456), File(name));
-    std::filesystem::create_directory(File("fatte"));
-    const auto onTerminal = [&](const std::string& pictures) {
-        return RunProgram({"script", "-qec", work + pictures, "/dev/null"}, Folder()).out;
-    };
-    const std::string two = onTerminal(" -d fatte a.bmp b.bmp");
-    const std::size_t first = two.find("fatte/a.bmp: Vetro");
-    ASSERT_NE(first, std::string::npos);
-    EXPECT_THAT(two.substr(0, first), AllOf(HasSubstr("\r\033[K0 immagini su 2   Vetro  ("),
-                                            Not(HasSubstr("1 immagini"))));
-    EXPECT_THAT(two.substr(first), AllOf(HasSubstr("\r\033[K1 immagini su 2   Vetro  ("),
-                                         Not(HasSubstr("0 immagini"))));
-    const std::string one = onTerminal(" -o c.bmp a.bmp");
-    EXPECT_THAT(one, AllOf(HasSubstr("\r\033[KVetro  ("), Not(HasSubstr("immagini"))));
-    // Whole percents of one effect, not the bar's quarters.
-    EXPECT_THAT(one, Not(testing::ContainsRegex("\\([1-9][0-9][1-9]%")));
 }
 
 }  // namespace

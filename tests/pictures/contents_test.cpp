@@ -28,7 +28,7 @@ struct Sides {
     const char* refused;  ///< what is said; nullptr when such a picture is opened
 };
 
-// 16384 x 16384 is 256 times 1024 times 1024.
+// 16384 x 16384 is 256 times 1024 times 1024, 268 million.
 constexpr Sides Limits[] = {
     {1, 1, nullptr},
     {32767, 1, nullptr},
@@ -37,8 +37,8 @@ constexpr Sides Limits[] = {
     {1, 32768, "troppo grande (1 x 32768): i lati possono avere al massimo 32767 pixel"},
     {16384, 16384, nullptr},
     {32767, 8192, nullptr},
-    {16384, 16385, "troppo grande (16384 x 16385): può avere al massimo 256 milioni di pixel"},
-    {16385, 16384, "troppo grande (16385 x 16384): può avere al massimo 256 milioni di pixel"},
+    {16384, 16385, "troppo grande (16384 x 16385): può avere al massimo 268 milioni di pixel"},
+    {16385, 16384, "troppo grande (16385 x 16384): può avere al massimo 268 milioni di pixel"},
     {0, 1, "le dimensioni dell'immagine non sono valide (0 x 1)"},
     {1, 0, "le dimensioni dell'immagine non sono valide (1 x 0)"},
     {-1, 1, "le dimensioni dell'immagine non sono valide (-1 x 1)"},
