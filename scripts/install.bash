@@ -19,8 +19,8 @@ test_packages=(
 )
 # What handing pictures to several machines needs to be tried; Debian starts a server of its own with it.
 machines_test_packages=(openssh-client openssh-server)
-# What its long form builds with as well.
-clang_packages=(clang)
+# What its long form builds with as well, and the window manager that it tries beside the others.
+long_test_packages=(clang xfwm4)
 # What building the batch tool for another processor needs, and running it here.
 arm64_packages=(g++-aarch64-linux-gnu qemu-user-static mmdebstrap)
 # What measuring it beside other tools needs on top of both.

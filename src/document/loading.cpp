@@ -12,6 +12,8 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <initializer_list>
+#include <vector>
 
 namespace pixano {
 namespace {
@@ -79,6 +81,9 @@ void Carica(Session& s, Surface picture)
     constexpr double CanvasHeight = 16.8;
     constexpr double PreviewWidth = 15;
     constexpr double PreviewHeight = 15.2;
+    std::vector<QWidget*> raised{&s.form10};
+    for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9})
+        if (window->isMinimized()) raised.push_back(window);
     Work& w = s.work;
     PutOnCanvas(w, std::move(picture));
     s.form2.Picture1().FitPicture();
@@ -99,6 +104,8 @@ void Carica(Session& s, Surface picture)
     OpenOnScreenOf(s.form1, s.form10);
     ShowInFront(s.form10);
     BringForward(s.form1);
+    for (QWidget* const window : raised)
+        KeepFocus(s.form1, *window);
     s.form2.setWindowTitle(PictureCaption(s));
     s.form9.setWindowTitle(PreviewCaption(s, 1));
 }

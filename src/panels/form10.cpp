@@ -2,6 +2,7 @@
 
 #include "panels/built_in.h"
 #include "windows/belonging.h"
+#include "windows/free_screen.h"
 #include "windows/palette_strip.h"
 #include "windows/window_operation.h"
 
@@ -19,7 +20,7 @@ namespace pixano {
 namespace {
 
 /// What a window manager's frame is taken to be: left and right together, top and bottom together.
-constexpr int Borders = 8;
+constexpr int Borders = UsualFrame.left() + UsualFrame.right();
 constexpr int TitleAndBorder = 30;
 constexpr int Margin = 4;
 constexpr int Spacing = 3;

@@ -15,7 +15,7 @@ constexpr int MillisecondsPerRepaint = 40;
 /// clicks meanwhile stays queued.
 void WaitForExpose(const QWidget& widget)
 {
-    constexpr int Patience = 300;
+    constexpr int Patience = 1000;
     QElapsedTimer waited;
     waited.start();
     // One that was hidden just now may count as exposed still, but paints nothing.

@@ -22,12 +22,15 @@ inline void ShowInFront(QWidget& window)
     window.raise();
 }
 
+/// Where raising the other window takes the focus from this one, as some window managers do a
+/// moment later, this one takes it back, unless the other one was brought forward meanwhile.
+void KeepFocus(QWidget& window, QWidget& raised);
+
+/// Whether a window that was raised just now may still take the focus.
+bool FocusIsKeptFrom(const QWidget& raised);
+
 /// Shows the window, brings it to the front and gives it the focus.
-inline void BringForward(QWidget& window)
-{
-    ShowInFront(window);
-    window.activateWindow();
-}
+void BringForward(QWidget& window);
 
 /// A window that is about to be shown opens on the screen that holds `main`.
 inline void OpenOnScreenOf(const QWidget& main, QWidget& window)

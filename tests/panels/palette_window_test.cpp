@@ -33,7 +33,8 @@ TEST_F(PaletteWindow, StandsAtTheTopAgainstTheRightEdge)
     EXPECT_EQ(palette.windowTitle(), "Strumenti");
     EXPECT_FALSE(palette.isModal());
     EXPECT_EQ(palette.pos(), QPoint(palette.screen()->size().width() - FromRightEdge, 0));
-    EXPECT_LE(palette.width(), FromRightEdge);
+    // With the wide frame of some desktops, too: they would move it away from there.
+    EXPECT_LE(5 + palette.width() + 5, FromRightEdge);
 }
 
 TEST_F(PaletteWindow, StandsThereAgainWhenItWasClosed)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "support/program.h"
+#include "windows/window_operation.h"
 
 #include <QProcess>
 #include <QScreen>
@@ -77,6 +78,18 @@ class Desktop : public Program {
         const std::vector<WId> stack = Windows("_NET_CLIENT_LIST_STACKING");
         return std::ranges::find(stack, window.winId()) > std::ranges::find(stack, other.winId());
     }
+    /// Whether the window manager takes a window that raises itself for one that wants the focus.
+    static bool RaisesWithFocus()
+    {
+        const WId check = Windows("_NET_SUPPORTING_WM_CHECK").front();
+        return Output("xprop", {"-id", QString::number(check), "_NET_WM_NAME"}).contains("Xfwm4");
+    }
+    /// Puts the window above the other one. One that has the focus with it does not stay there.
+    static void Cover(const QWidget& covered, const QWidget& window)
+    {
+        Do("windowraise " + Id(window));
+        EXPECT_TRUE(RaisesWithFocus() || ComesToHold([&] { return IsAbove(window, covered); }));
+    }
     static bool IsIconic(const QWidget& window)
     {
         return Output("xprop", {"-id", Id(window), "WM_STATE"}).contains("Iconic");
@@ -104,8 +117,10 @@ class Desktop : public Program {
             return window.windowHandle()->isExposed() &&
                    !window.windowHandle()->frameMargins().isNull();
         };
-        EXPECT_TRUE(Stays(
-            [&] { return shown(session.form2) && shown(session.form9) && shown(session.form10); }));
+        EXPECT_TRUE(Stays([&] {
+            return shown(session.form2) && shown(session.form9) && shown(session.form10) &&
+                   !FocusIsKeptFrom(session.form10);
+        }));
     }
 
     std::vector<QWidget*> Companions() { return {&session.form2, &session.form9, &session.form10}; }

@@ -38,7 +38,7 @@ TEST_F(Places, LeaveThePaletteFreeWhereAPictureIsHeld)
         for (const HeldWindow* const window :
              std::initializer_list<HeldWindow*>{&session.form2, &session.form9}) {
             if (!IsHeld(*window)) continue;
-            EXPECT_LT(window->frameGeometry().right(), StripLeft())
+            EXPECT_TRUE(Stays([&] { return window->frameGeometry().right() < StripLeft(); }))
                 << window->objectName().toStdString() << " of " << width << "x" << height;
         }
     }
@@ -50,10 +50,10 @@ TEST_F(Places, ThePreviewInItsCornerOnEveryOpening)
     const QPoint corner = Preview().bottomRight();
     OpenSized(2000, 2000);
     OpenSized(200, 100);
-    EXPECT_EQ(Preview().bottomRight(), corner);
+    EXPECT_TRUE(Stays([&] { return Preview().bottomRight() == corner; }));
     EXPECT_FALSE(Preview().intersects(Canvas()));
     OpenSized(400, 300);
-    EXPECT_EQ(Preview().bottomRight(), corner);
+    EXPECT_TRUE(Stays([&] { return Preview().bottomRight() == corner; }));
 }
 
 TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
@@ -75,8 +75,10 @@ TEST_F(Places, TheTitlesOfCanvasAndPreviewApart)
 {
     for (const int side : {2000, 890}) {
         OpenSized(side, side);
-        EXPECT_FALSE(TitleOf(session.form9).intersects(TitleOf(session.form2))) << side;
-        EXPECT_FALSE(Preview().contains(TitleOf(session.form2))) << side;
+        EXPECT_TRUE(Stays([this] {
+            return !TitleOf(session.form9).intersects(TitleOf(session.form2)) &&
+                   !Preview().contains(TitleOf(session.form2));
+        })) << side;
         EXPECT_TRUE(ComesToHold([this] {
             return session.form9.screen()->geometry().contains(Preview());
         })) << side;
