@@ -49,6 +49,16 @@ TEST_F(Preview, StretchesAPictureToItsSizeWithCrispPixels)
     EXPECT_EQ(Painted(), (std::vector<std::vector<Colour>>{{a_, a_, b_, b_}, {a_, a_, b_, b_}}));
 }
 
+TEST_F(Preview, MixesNeighboursWhereAPictureIsNotEnlargedByAWholeFactor)
+{
+    image_.SetPicture(Drawn({"ab"}));
+    image_.SetStretch(true);
+    image_.resize(3, 1);
+    const Colour middle = Painted()[0][1];
+    EXPECT_NE(middle, a_);
+    EXPECT_NE(middle, b_);
+}
+
 TEST_F(Preview, KeepsItsSizeForAnotherPictureWhileItStretches)
 {
     image_.SetStretch(true);
