@@ -27,7 +27,7 @@ arm64_packages=(g++-aarch64-linux-gnu qemu-user-static mmdebstrap)
 bench_packages=(graphicsmagick imagemagick time)
 
 # What making the Debian package needs on top of the first list.
-package_packages=(debhelper dpkg-dev)
+package_packages=(build-essential debhelper dpkg-dev)
 # What checking it needs on top of that.
 package_test_packages=(
     lintian desktop-file-utils appstream man-db groff-base mmdebstrap autopkgtest bash-completion

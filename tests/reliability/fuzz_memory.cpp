@@ -43,6 +43,12 @@ void* operator new(std::size_t count)
     return Filled(memory, count);
 }
 
+/// The sanitizer's own would be told that its memory comes back by another way.
+void* operator new(std::size_t count, const std::nothrow_t& /*unused*/) noexcept
+{
+    return Take(count) ? Filled(std::malloc(count), count) : nullptr;
+}
+
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
