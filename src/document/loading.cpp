@@ -19,11 +19,11 @@ namespace pixano {
 namespace {
 
 /// Where the preview belongs: in the lower right corner, where neither canvas nor palette covers
-/// it.
-QPoint BesidePalette(const QWidget& preview)
+/// it, with an inside of that size.
+QPoint BesidePalette(const QWidget& preview, QSize inside)
 {
     // The same before its frame is known and after.
-    const QSize whole = preview.size().grownBy(FrameOf(preview) | UsualFrame);
+    const QSize whole = inside.grownBy(FrameOf(preview) | UsualFrame);
     const QRect screen = preview.screen()->geometry();
     const QRect free = preview.screen()->availableGeometry();
     const QPoint corner(screen.left() + screen.width() - PaletteStrip(), free.bottom());
@@ -36,14 +36,12 @@ void PlacePreview(HeldWindow& preview, QSize inside, const HeldWindow& canvas)
 {
     preview.setScreen(canvas.screen());
     preview.alwaysBelow = false;
-    preview.SetInside(inside);
     const QPoint titleEnd = canvas.pos() + QPoint(canvas.width(), FrameOf(canvas).top());
-    QPoint place = BesidePalette(preview);
-    if (place.x() < titleEnd.x() && place.y() < titleEnd.y()) {
-        preview.alwaysBelow = true;
-        preview.SetInside(inside);
-        place.setY(titleEnd.y());
-    }
+    QPoint place = BesidePalette(preview, preview.Held(inside));
+    preview.alwaysBelow = place.x() < titleEnd.x() && place.y() < titleEnd.y();
+    if (preview.alwaysBelow) place.setY(titleEnd.y());
+    // Once: of two sizes asked for in a row some window managers give the first.
+    preview.SetInside(inside);
     preview.PlaceAt(place);
 }
 

@@ -28,7 +28,7 @@ void HeldWindow::SetInside(QSize size)
     stated_ = size.expandedTo(QSize(1, 1));
     const QSize before = this->size();
     const bool moved = MovedByUser();
-    resize(Held());
+    resize(Held(stated_));
     ShowBarsOnlyWhenHeld();
     // Grown where it stands, it would grow off the screen.
     if (isVisible() && this->size() != before) KeepWithin(Room(IsHeld()), *this);
@@ -45,13 +45,13 @@ QRect HeldWindow::Room(bool held) const
     return room;
 }
 
-QSize HeldWindow::Held() const
+QSize HeldWindow::Held(QSize size) const
 {
     const auto most = [this](bool held) {
         return Room(held).size().shrunkBy(FrameOf(*this)).expandedTo({1, 1});
     };
-    const bool fits = stated_.boundedTo(most(false)) == stated_;
-    return fits ? stated_ : stated_.boundedTo(most(true));
+    const bool fits = size.boundedTo(most(false)) == size;
+    return fits ? size : size.boundedTo(most(true));
 }
 
 void HeldWindow::PlaceAt(QPoint place)

@@ -19,6 +19,8 @@ class HeldWindow : public QScrollArea {
     /// Gives the window's inside this size in pixels. Where the free screen is smaller it is held
     /// to what `leftFree` and `titleFree` leave of that.
     void SetInside(QSize size);
+    /// The inside that it would then have, in pixels.
+    QSize Held(QSize size) const;
 
     /// Moves the window there.
     void PlaceAt(QPoint place);
@@ -51,7 +53,6 @@ class HeldWindow : public QScrollArea {
   private:
     /// What it has of the free screen, with its frame.
     QRect Room(bool held) const;
-    QSize Held() const;
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();
