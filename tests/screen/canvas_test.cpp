@@ -4,6 +4,9 @@
 #include "panels/form6.h"
 #include "screen/desktop.h"
 
+#include <QDeadlineTimer>
+#include <QThread>
+
 #include <QClipboard>
 
 namespace pixano::test {
@@ -71,7 +74,11 @@ TEST_F(SeenCanvas, ShowsWhatAnErrorSpeaksOfBeforeItIsTold)
                          .family = Family::Geometry};
     ExpectSeen("opening");
     bool seen = false;
-    dialogs.meanwhile = [&] { seen = Shows(Canvas()); };
+    // No events are handled meanwhile; a compositor, though, may take its time.
+    dialogs.meanwhile = [&] {
+        for (QDeadlineTimer late(1000); !seen && !late.hasExpired(); QThread::msleep(10))
+            seen = Shows(Canvas());
+    };
     RunInFrame(failing);
     EXPECT_EQ(dialogs.told.size(), 1U);
     EXPECT_TRUE(seen);
