@@ -4,10 +4,9 @@
 #include "panels/form6.h"
 #include "screen/desktop.h"
 
+#include <QClipboard>
 #include <QDeadlineTimer>
 #include <QThread>
-
-#include <QClipboard>
 
 namespace pixano::test {
 namespace {
