@@ -41,10 +41,12 @@ shot 4-aperta
 
 # "I&nversione" > "Capovolgi" and "Specchio"
 focus "Pixano 2.3"
-keys alt+f n Down Return
+menus alt+f n
+keys Down Return
 expect_title "Capovolgi   $size"
 focus "Pixano 2.3"
-keys alt+f n Return
+menus alt+f n
+keys Return
 expect_title "Specchio   $size"
 wait_for test ! -e "$sandbox/folder/elab.ser" || fail "the pixel working file stays"
 shot 5-specchio
@@ -64,7 +66,8 @@ expect_title "Specchio   $size"
 
 # "&Salva File"
 focus "Pixano 2.3"
-keys alt+f s
+menus alt+f
+keys s
 wait_for is_active "Salva con nome" || fail "no save dialog, but $(active_title)"
 xdotool type --delay 5 "$saved"
 shot 6-salva
@@ -82,11 +85,13 @@ cmp "$photo" "$sandbox/foto.jpg" || fail "the opened file was changed"
 
 # An unsaved change, and the question about it: yes, and the file saved before holds it.
 focus "Pixano 2.3"
-keys alt+f n Return
+menus alt+f n
+keys Return
 expect_title "Specchio   $size"
 test -e "$XDG_DATA_HOME/pixano/temp.bml" || fail "no snapshot for undo"
 focus "Pixano 2.3"
-keys alt+f e
+menus alt+f
+keys e
 wait_for is_active "Avviso!" || fail "no question about the unsaved changes, but $(active_title)"
 shot 7-domanda
 keys Return

@@ -86,7 +86,8 @@ wait_for test -s "$XDG_DATA_HOME/pixano/temp2.bml" || fail "\"Annulla\" does not
 shot palette-8-annullata
 
 focus "Pixano 2.3"
-keys alt+f s
+menus alt+f
+keys s
 wait_for is_active "Salva con nome" || fail "no save dialog, but $(active_title)"
 xdotool type --delay 5 "$saved"
 keys Return
@@ -98,7 +99,8 @@ cmp "$saved" "$sandbox/atteso.bmp" || fail "the saved pixels differ from the bat
 cmp "$XDG_DATA_HOME/pixano/temp2.bml" "$sandbox/mix.bmp" || fail "the mix differs from the batch tool's"
 
 focus "Pixano 2.3"
-keys alt+f e
+menus alt+f
+keys e
 ended=0
 wait "$program" || ended=$?
 program=

@@ -140,6 +140,16 @@ keys() {
     xdotool key --clearmodifiers --delay 1 "$@"
 }
 
+# Opens menus by their keys, each when the one before it is there: keys that come sooner may be lost, or taken by another.
+menus() {
+    local key before
+    for key in "$@"; do
+        before=$(visible_windows)
+        keys "$key"
+        wait_for more_windows_than "$before" || fail "no menu opens at $key"
+    done
+}
+
 # The start-up picture is up and has the keyboard. It has no title.
 expect_opening_picture() {
     wait_for is_active " " || fail "no start-up picture, but $(active_title)"

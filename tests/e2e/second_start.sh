@@ -46,7 +46,8 @@ wait_for is_active "Pixano 2.3" || fail "the running program did not come forwar
 xdotool windowminimize "$(window_titled "Pixano 2.3")"
 hand_over
 wait_for is_active "Pixano 2.3" || fail "the running program did not come forward, but $(active_title)"
-keys alt+f a
+menus alt+f
+keys a
 wait_for is_active "Apri" || fail "no open dialog, but $(active_title)"
 hand_over "$picture"
 # It hears one after the other: the first has been heard when the second is answered.

@@ -24,7 +24,8 @@ expect_title "foto.jpg   $size"
 
 # "I&nversione" > "Specchio", and at once whatever a nervous user presses.
 focus "Pixano 2.3"
-xdotool key --clearmodifiers alt+f n Return
+menus alt+f n
+keys Return
 for _ in $(seq 15); do
     xdotool key --delay 5 ctrl+z ctrl+y Escape click 1
 done
