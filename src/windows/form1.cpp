@@ -10,7 +10,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
-#include <QTimer>
 
 #include <algorithm>
 #include <stdexcept>
@@ -41,6 +40,8 @@ Form1::Form1(MenuTable entries) : entries_(entries)
     auto* const menus = new QShortcut(QKeySequence(Qt::Key_F10), this);
     menus->setContext(Qt::ApplicationShortcut);
     connect(menus, &QShortcut::activated, this, [this] { OpenMenu(*controls_.front()); });
+    opening_.setSingleShot(true);
+    connect(&opening_, &QTimer::timeout, this, &Form1::OpenAwaitedMenu);
     setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
 }
 
@@ -129,11 +130,13 @@ void Form1::OpenMenu(QAction& entry)
     if (isActiveWindow() || DesktopAloneArranges())
         OpenAwaitedMenu();
     else
-        QTimer::singleShot(Patience, this, &Form1::OpenAwaitedMenu);
+        opening_.start(Patience);
 }
 
 void Form1::OpenAwaitedMenu()
 {
+    // The patience with this entry must not run out on the next one.
+    opening_.stop();
     QAction* const entry = std::exchange(awaited_, nullptr);
     if (entry == nullptr) return;
     menuBar()->setActiveAction(entry);
@@ -142,8 +145,7 @@ void Form1::OpenAwaitedMenu()
 
 bool Form1::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && awaited_ != nullptr)
-        QTimer::singleShot(0, this, &Form1::OpenAwaitedMenu);
+    if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) opening_.start(0);
     return QMainWindow::event(event);
 }
 

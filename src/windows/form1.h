@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -67,6 +68,8 @@ class Form1 : public QMainWindow {
     std::vector<QAction*> controls_;
     /// The entry whose menu opens once the window has the focus.
     QAction* awaited_ = nullptr;
+    /// Opens it when the focus comes, or when it is long in coming.
+    QTimer opening_;
 };
 
 }  // namespace pixano

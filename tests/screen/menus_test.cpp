@@ -1,7 +1,9 @@
 // The menus at hand from every window, whatever lies above the main window.
 #include "screen/desktop.h"
 
+#include <QElapsedTimer>
 #include <QMenu>
+#include <QWindow>
 
 namespace pixano::test {
 namespace {
@@ -45,6 +47,26 @@ TEST_F(MenusAtHand, OpenFromAMinimisedMainWindow)
     Do("key alt+f");
     EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); }));
     EXPECT_TRUE(ComesToHold([this] { return !IsIconic(session.form1); }));
+    CloseMenus();
+}
+
+TEST_F(MenusAtHand, WaitForTheFocusAsLongEachTime)
+{
+    constexpr int Patience = 1000;
+    OpenSized(300, 200);
+    Activate(session.form10);
+    QElapsedTimer sinceTheFirst;
+    sinceTheFirst.start();
+    Do("key F10");
+    EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); }));
+    CloseMenus();
+    Activate(session.form10);
+    session.form1.windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
+    QTest::qWait(Patience / 2 - static_cast<int>(sinceTheFirst.elapsed()));
+    Do("key F10");
+    const int left = Patience + Patience / 5 - static_cast<int>(sinceTheFirst.elapsed());
+    EXPECT_FALSE(QTest::qWaitFor([this] { return IsOpen("File"); }, left));
+    EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); }));
     CloseMenus();
 }
 
