@@ -1,11 +1,8 @@
-// What the tool does with the means that it has: threads, memory, its standard streams.
+// What the tool does with the means that it has: threads, its standard streams.
 #include "batch/tool_run.h"
 
 #include "support/effect_run.h"
 
-#include <functional>
-#include <set>
-#include <sstream>
 #include <thread>
 
 namespace pixano::batch::test {
@@ -15,14 +12,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
-class Means : public Tool {
-  protected:
-    /// Runs a line of the shell, in which "$0" is the tool.
-    Ran Shell(const std::string& line) const
-    {
-        return RunProgram({"sh", "-c", line, program}, Folder());
-    }
-};
+class Means : public Tool {};
 
 TEST_F(Means, WorksWithAsManyThreadsAsAskedFor)
 {
@@ -47,62 +37,6 @@ TEST_F(Means, WorksWithAsManyThreadsAsAskedFor)
             wait $! && echo $most)");
         EXPECT_EQ(ran.out, std::to_string(threads) + "\n") << option << ran.err;
     }
-}
-
-// A thread takes a thousand megabytes of address space here, of which there are three thousand.
-TEST_F(Means, GoesOnWithTheThreadsThatThereAre)
-{
-    std::filesystem::create_directory(File("fatte"));
-    std::string pictures;
-    for (int i = 0; i < 8; ++i) {
-        Draw(std::to_string(i) + ".bmp", {"abc"});
-        pictures += " " + std::to_string(i) + ".bmp";
-    }
-    const std::string limits = "ulimit -s 1000000 && ulimit -v 3000000 && ";
-    if (Shell(limits + "\"$0\" --versione").status != 0) GTEST_SKIP() << "no such limits here";
-    const Ran ran = Shell(limits + "\"$0\" -j 8 -d fatte" + pictures);
-    EXPECT_EQ(ran.status, 0) << ran.err;
-    for (int i = 0; i < 8; ++i)
-        EXPECT_TRUE(Exists("fatte/" + std::to_string(i) + ".bmp")) << i;
-}
-
-/// What is told under limits that grow, megabyte by megabyte, until there is enough for `task`.
-std::set<std::string> ToldWithTooLittleMemory(const std::function<Ran(const std::string&)>& shell,
-                                              const std::string& task)
-{
-    std::set<std::string> told;
-    for (int megabytes = 2; megabytes < 200; ++megabytes) {
-        const std::string limit = "ulimit -v " + std::to_string(megabytes << 10) + "; ";
-        // Less than this starts no program.
-        if (shell(limit + "\"$0\" --versione").status != 0) continue;
-        const Ran ran = shell(limit + "exec \"$0\" " + task);
-        if (ran.status == 0) break;
-        EXPECT_EQ(ran.status, 1) << megabytes << " MB: " << ran.err;
-        std::istringstream lines(ran.err);
-        for (std::string line; std::getline(lines, line);)
-            told.insert(line);
-    }
-    return told;
-}
-
-// While the picture is read, and when there is no room for the effects beside it.
-TEST_F(Means, SaysInItalianThatThereIsTooLittleMemory)
-{
-    SaveBitmap(pixano::test::Varied(900, 700), File("a.bmp"));
-    const auto shell = [this](const std::string& line) { return Shell(line); };
-    if (shell("ulimit -v 500000; \"$0\" --versione").status != 0)
-        GTEST_SKIP() << "the sanitizers take more room than any limit leaves";
-    const std::string unread = "pixano-batch: Impossibile leggere «a.bmp»: la memoria non basta";
-    const std::string undone = "pixano-batch: a.bmp: memoria insufficiente";
-    EXPECT_THAT(
-        ToldWithTooLittleMemory(shell, "-e Multifoto -o c.bmp a.bmp"),
-        AllOf(testing::IsSupersetOf({unread, undone}), testing::Each(HasSubstr(" memoria "))));
-    // And wherever else there may be too little.
-    std::filesystem::create_directory(File("foglio"));
-    SaveBitmap(pixano::test::Varied(300, 200), File("b.bmp"));
-    EXPECT_THAT(ToldWithTooLittleMemory(shell, "--tutti -j 1 -d foglio b.bmp"),
-                AllOf(testing::Contains("pixano-batch: b.bmp: memoria insufficiente"),
-                      testing::Each(HasSubstr(" memoria "))));
 }
 
 // A file of that name is meant by a path only.

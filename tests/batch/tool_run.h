@@ -38,6 +38,11 @@ class Tool : public testing::Test {
         arguments.insert(arguments.begin(), program);
         return RunProgram(arguments, Folder(), input);
     }
+    /// Runs a line of the shell, in which "$0" is the tool.
+    Ran Shell(const std::string& line) const
+    {
+        return RunProgram({"sh", "-c", line, program}, Folder());
+    }
 
     void Draw(const std::string& name, const Letters& rows) const
     {
