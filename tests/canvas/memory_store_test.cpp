@@ -67,5 +67,14 @@ TEST_F(MemoryFile, CannotBeWrittenBeforeItIsOpened)
     EXPECT_EQ(FaultIn([&] { file.Write(1); }), FaultKind::InvalidCall);
 }
 
+// It would take what is being written for what follows.
+TEST_F(MemoryFile, IsNotReadOnWhereItsWritingStands)
+{
+    file.OpenForOutput();
+    for (int value = 0; value < 262144; ++value)
+        file.Write(value);
+    EXPECT_EQ(FaultIn([&] { file.Input(); }), FaultKind::InvalidCall);
+}
+
 }  // namespace
 }  // namespace pixano::test
