@@ -2,26 +2,15 @@
 #include "pictures/bmp_maker.h"
 #include "pictures/gif_maker.h"
 #include "pictures/jpeg_maker.h"
+#include "reliability/fuzz_bounds.h"
 #include "reliability/fuzz_kinds.h"
-#include "reliability/fuzz_memory.h"
-#include "reliability/fuzz_time.h"
 
 #include <gmock/gmock.h>
-
-#include <csignal>
-
-#include <fcntl.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace pixano::test {
 namespace {
 
 using testing::HasSubstr;
-
-constexpr int Side = 4096;
-constexpr double Pixels = double{Side} * Side;
 
 Bytes LargeBitmap()
 {
@@ -115,34 +104,9 @@ constexpr Large Larges[] = {{"Bitmap", LargeBitmap, 4},
 
 class SmallFileOfALargePicture : public testing::TestWithParam<Large> {};
 
-/// The most memory that this process has used at once.
-double MemoryUsed()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_maxrss) * 1024;
-}
-
-/// Runs `step` in a process of its own, which starts with little memory used.
-template <class Step>
-void InAProcessOfItsOwn(Step step)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        step();
-        std::fflush(stdout);
-        _exit(testing::Test::HasFailure() ? 1 : 0);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
-}
-
 TEST_P(SmallFileOfALargePicture, TakesBoundedTimeAndMemory)
 {
     constexpr double Longest = 5;
-    // The address sanitizer keeps books on every piece.
-    constexpr double Besides = MallocIsBounded ? 4 << 20 : 48 << 20;
     const Bytes file = GetParam().file();
     InAProcessOfItsOwn([&] {
         const double memory = MemoryUsed();
@@ -175,70 +139,6 @@ TEST_P(SmallFileOfALargePicture, IsRefusedWhereMemoryIsShort)
 
 INSTANTIATE_TEST_SUITE_P(Bounds, SmallFileOfALargePicture, testing::ValuesIn(Larges),
                          [](const auto& tried) { return std::string(tried.param.name); });
-
-/// A stream that begins as `head` does and goes on with `more` again and again, for ever.
-struct Endless {
-    const char* name;
-    Bytes head;
-    Bytes more;
-};
-
-std::vector<Endless> EndlessStreams()
-{
-    // Orders that draw nothing, and marks of a JPEG that say nothing.
-    const BmpHead runs{.width = Side, .height = Side, .bits = 8, .compression = 1, .colours = 1};
-    return {{"rubbish between a GIF's blocks", GifScreen(9, 9), {0}},
-            {"a GIF's extensions", GifScreen(9, 9), Bytes{0x21, 0xFE, 250}.Zeros(250).Add({0})},
-            {"rubbish in a JPEG", {0xFF, 0xD8}, {0}},
-            {"a JPEG's comments", {0xFF, 0xD8}, Bytes{0xFF, 0xFE, 0x7F, 0xFF}.Zeros(0x7FFD)},
-            {"runs", Bmp(runs, {1, 2, 3, 0}, {}), {0, 2, 0, 0}}};
-}
-
-/// Writes the stream until nobody reads it any more.
-void WriteWithoutEnd(int pipe, const Endless& stream)
-{
-    std::signal(SIGPIPE, SIG_IGN);
-    Bytes much;
-    while (much.Size() < 1 << 16)
-        much.Add(stream.more);
-    Bytes next = stream.head;
-    while (write(pipe, next.Vector().data(), next.Size()) == static_cast<ssize_t>(next.Size()))
-        next = much;
-}
-
-TEST(LargeStream, IsRefusedInTheEnd)
-{
-    constexpr double Longest = 60;
-    constexpr double Besides = MallocIsBounded ? 4 << 20 : 48 << 20;
-    for (const Endless& stream : EndlessStreams()) {
-        SCOPED_TRACE(stream.name);
-        int ends[2];
-        ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
-        const pid_t writer = fork();
-        if (writer == 0) {
-            close(ends[0]);
-            WriteWithoutEnd(ends[1], stream);
-            _exit(0);
-        }
-        close(ends[1]);
-        InAProcessOfItsOwn([&] {
-            const double memory = MemoryUsed();
-            const double before = SecondsUsed();
-            try {
-                ReadPictureFrom(ends[0], "prova");
-                ADD_FAILURE() << "it was read";
-            } catch (const PictureError& error) {
-                EXPECT_THAT(error.what(), HasSubstr("arrivano più di 1074 milioni di byte"));
-            }
-            EXPECT_LT(SecondsUsed() - before, Longest);
-            EXPECT_LT(MemoryUsed() - memory, Pixels * 4 + Besides);
-            std::printf("%s: %.2f s, %.0f MB\n", stream.name, SecondsUsed() - before,
-                        (MemoryUsed() - memory) / 1e6);
-        });
-        close(ends[0]);
-        EXPECT_EQ(waitpid(writer, nullptr, 0), writer);
-    }
-}
 
 TEST(SlowJpeg, IsReadOrRefusedInBoundedTime)
 {
