@@ -86,6 +86,16 @@ void HeldWindow::resizeEvent(QResizeEvent* event)
     QScrollArea::resizeEvent(event);
 }
 
+/// Some window managers draw the frame anew for another title, and lose what was painted inside
+/// meanwhile: it is painted once more.
+void HeldWindow::changeEvent(QEvent* event)
+{
+    constexpr int UntilDrawn = 200;
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::WindowTitleChange)
+        QTimer::singleShot(UntilDrawn, widget(), qOverload<>(&QWidget::update));
+}
+
 void HeldWindow::wheelEvent(QWheelEvent* event)
 {
     if (!event->modifiers().testFlag(Qt::ShiftModifier)) {

@@ -42,6 +42,7 @@ class HeldWindow : public QScrollArea {
     void Pressed();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     /// The second press of two quick ones is a press like any other.
