@@ -62,8 +62,8 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
         read = ReadPicture(FileBytes(name));
         if (read->truncated)
             s.remarks +=
-                "Il file " + name +
-                " è incompleto o danneggiato: alcuni pixel mancano o non sono quelli giusti";
+                "Il file «" + name +
+                "» è incompleto o danneggiato: alcuni pixel mancano o non sono quelli giusti";
     }
     if (!s.doc.pasted.contains(name)) RememberPath(s.doc, name);
     if (!read) {

@@ -118,7 +118,7 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
 
 void Offer(Session& s, const RecoveryNote& note)
 {
-    const QString ofPicture = " all'immagine " + QFileInfo(note.picture).fileName();
+    const QString ofPicture = " all'immagine «" + QFileInfo(note.picture).fileName() + "»";
     Surface picture;
     try {
         picture = ReadNotedPicture(note);
@@ -135,7 +135,7 @@ void Offer(Session& s, const RecoveryNote& note)
         BringBack(s, note, std::move(picture));
     else
         s.dialogs.Tell(BoxIcon::None, title::Notice,
-                       "L'immagine resta nel file " + PutAside(note.copy, picture) + '.');
+                       "L'immagine resta nel file «" + PutAside(note.copy, picture) + "».");
 }
 
 }  // namespace

@@ -83,7 +83,7 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
 {
     SettlePalette(s);
     const QString sentence =
-        "Errore durante il comando \"" + name + "\":\n" + QString::fromUtf8(fault.what());
+        "Errore durante il comando «" + name + "»:\n" + QString::fromUtf8(fault.what());
     if (!EndsProgram(fatal, fault.Kind())) {
         s.remarks.prepend(sentence);
         s.failed = true;

@@ -74,9 +74,9 @@ TEST_F(BringingBack, TakesTheWorkUpWhereItWas)
     Kill();
     dialogs.answers = {true};
     Offer();
-    EXPECT_EQ(dialogs.asked,
-              (std::vector<ShownBox>{{BoxIcon::Exclamation, "Avviso!",
-                                      Unexpectedly + " all'immagine a.bmp.\nVuoi recuperarle?"}}));
+    EXPECT_EQ(dialogs.asked, (std::vector<ShownBox>{
+                                 {BoxIcon::Exclamation, "Avviso!",
+                                  Unexpectedly + " all'immagine «a.bmp».\nVuoi recuperarle?"}}));
     EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
     EXPECT_EQ(PreviewLetters(), (Letters{"~ab"}));
     EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
@@ -139,7 +139,7 @@ TEST_F(BringingBack, NamesTheFileOfWhatIsNotWanted)
     ASSERT_EQ(Aside().size(), 1);
     EXPECT_EQ(dialogs.told,
               (std::vector<ShownBox>{{BoxIcon::None, "Avviso!",
-                                      "L'immagine resta nel file " + Data(Aside()[0]) + '.'}}));
+                                      "L'immagine resta nel file «" + Data(Aside()[0]) + "»."}}));
     EXPECT_EQ(Kept(Data(Aside()[0])), (Letters{"~ab"}));
     EXPECT_FALSE(Exists(Path("elabor.tmp")));
     EXPECT_FALSE(RecoveryNoteThere());
@@ -153,7 +153,7 @@ TEST_F(BringingBack, KeepsAllThatIsLeftWhereTheCopyIsNoLongerThePicture)
     Write("elabor.tmp", lost);
     Offer();
     ExpectAsideNamedIn(ToldAfter(Unexpectedly +
-                                 " all'immagine a.bmp, ma non è possibile recuperarle.\n"
+                                 " all'immagine «a.bmp», ma non è possibile recuperarle.\n"
                                  "Impossibile leggere «" +
                                  Path("elabor.tmp") + "»: non è un'immagine BMP, JPEG o GIF"));
     // The copy itself, the picture before the last effect, and the one that was taken back.
@@ -165,9 +165,9 @@ TEST_F(BringingBack, KeepsThePictureThatWasTakenBackWhereTheOneBeforeItIsAnother
     Kill("abu");
     SaveBitmap(Drawn({"xy"}), Data("temp.bml").toStdString());
     Offer();
-    ExpectAsideNamedIn(ToldAfter(Unexpectedly +
-                                 " all'immagine a.bmp, ma non è possibile recuperarle.\nIl file «" +
-                                 Data("temp.bml") + "» non è più quello di allora"));
+    ExpectAsideNamedIn(ToldAfter(
+        Unexpectedly + " all'immagine «a.bmp», ma non è possibile recuperarle.\nIl file «" +
+        Data("temp.bml") + "» non è più quello di allora"));
     EXPECT_EQ(ContentsAside(), (std::set<std::string>{"xy", "~ab"}));
 }
 

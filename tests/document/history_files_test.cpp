@@ -30,7 +30,7 @@ class DamagedHistory : public Program {
         ASSERT_EQ(dialogs.told.size(), 1U);
         EXPECT_EQ(dialogs.told[0].icon, BoxIcon::Critical);
         EXPECT_THAT(dialogs.told[0].text.toStdString(),
-                    testing::StartsWith("Errore durante il comando \"Ripristina\":\n"));
+                    testing::StartsWith("Errore durante il comando «Ripristina»:\n"));
         EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
         EXPECT_FALSE(session.ending.has_value());
     }
@@ -101,7 +101,7 @@ TEST_F(DamagedHistory, TellsThatThereIsNoPictureToGoForwardTo)
     ClickEntry(entry::Redo);
     EXPECT_EQ(dialogs.told,
               (std::vector<ShownBox>{{BoxIcon::Critical, "Attenzione!",
-                                      "Errore durante il comando \"Ripristina\":\n"
+                                      "Errore durante il comando «Ripristina»:\n"
                                       "Impossibile leggere «" +
                                           Data("temp2.bml") + "»: il file non esiste."}}));
     EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));

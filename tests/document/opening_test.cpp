@@ -84,10 +84,11 @@ TEST_F(Program, OpensATruncatedPictureWithANotice)
     Write("a.bmp", whole.substr(0, 66));
     Open(Path("a.bmp"));
     EXPECT_EQ(CanvasLetters(), (Letters{"....", "efgh"}));
-    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
-                                                    "Il file " + Path("a.bmp") +
-                                                        " è incompleto o danneggiato: alcuni pixel "
-                                                        "mancano o non sono quelli giusti."}}));
+    EXPECT_EQ(dialogs.told,
+              (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
+                                      "Il file «" + Path("a.bmp") +
+                                          "» è incompleto o danneggiato: alcuni pixel "
+                                          "mancano o non sono quelli giusti."}}));
     EXPECT_EQ(CanvasCaption(), "a.bmp   4x2");
 }
 

@@ -207,7 +207,7 @@ TEST_F(Pasting, TellsThatAPictureCannotBeKept)
         Paste();
     }
     ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando \"Incolla\":\n"))
+    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando «Incolla»:\n"))
         << dialogs.told[0].text.toStdString();
     EXPECT_FALSE(session.doc.open);
     EXPECT_EQ(KeptFiles(), QStringList());

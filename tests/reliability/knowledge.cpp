@@ -89,10 +89,10 @@ std::string Knowledge::Line(const std::string& line)
 std::string Knowledge::Told(const std::string& text)
 {
     if (text.find("non è possibile recuperarle") != std::string::npos) return text;
-    const std::string before = "L'immagine resta nel file ";
+    const std::string before = "L'immagine resta nel file «";
     const std::size_t at = text.find(before);
     if (at == std::string::npos) return {};
-    const QString path = QString::fromStdString(text.substr(at + before.size())).chopped(1);
+    const QString path = QString::fromStdString(text.substr(at + before.size())).chopped(2);
     if (!good_.contains(ChecksumOfFile(path))) return "put aside, but another picture: " + text;
     ++putAside;
     return {};

@@ -77,7 +77,7 @@ TEST_F(Recovery, KeepsWhatIsNotWantedAndNamesIt)
 {
     Crash();
     EXPECT_THAT(NextStart("no"),
-                AllOf(Offered, Contains(StartsWith("told L'immagine resta nel file " +
+                AllOf(Offered, Contains(StartsWith("told L'immagine resta nel file «" +
                                                    folders.Data("recupero-").toStdString()))));
     EXPECT_TRUE(Aside().contains(unsaved));
     EXPECT_THAT(NextStart(), Not(Offered));

@@ -165,7 +165,7 @@ TEST_F(Ending, EndsWithAnErrorWhenASnapshotCannotBeDeleted)
     dialogs.answers = {false};
     session.form1.close();
     ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_EQ(dialogs.told[0].text, "Errore durante il comando \"Esci\":\nImpossibile eliminare «" +
+    EXPECT_EQ(dialogs.told[0].text, "Errore durante il comando «Esci»:\nImpossibile eliminare «" +
                                         Data("temp.bml") +
                                         "»: è una cartella.\n\nIl programma termina.");
     EXPECT_EQ(session.ending, 1);

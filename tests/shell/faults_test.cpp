@@ -38,7 +38,7 @@ class Faults : public Program {
 ShownBox ErrorIn(const QString& command, const QString& what)
 {
     return {BoxIcon::Critical, "Attenzione!",
-            "Errore durante il comando \"" + command + "\":\n" + what + "."};
+            "Errore durante il comando «" + command + "»:\n" + what + "."};
 }
 
 TEST_F(Faults, AreToldInOneBoxThatNamesTheCommand)
@@ -123,7 +123,7 @@ TEST_F(Faults, ChangeNothingWhenThePixelFileCannotBeMade)
     Apply("Specchio");
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_THAT(dialogs.told[0].text.toStdString(),
-                testing::StartsWith("Errore durante il comando \"Specchio\":\n"));
+                testing::StartsWith("Errore durante il comando «Specchio»:\n"));
     EXPECT_EQ(CanvasLetters(), (Letters{"abc", "def"}));
     EXPECT_FALSE(session.form4.isVisible());
     EXPECT_EQ(session.doc.Modificato, 0);
@@ -166,7 +166,7 @@ TEST_F(Faults, AreToldBeforeWhatElseThereIsToTellAndEachThingOnce)
     tell(true);
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_EQ(dialogs.told[0].icon, BoxIcon::Critical);
-    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando \"Prova\":\n"));
+    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando «Prova»:\n"));
     EXPECT_TRUE(dialogs.told[0].text.endsWith(".\n\n" + remarks)) << dialogs.told[0];
     // Nothing of it is left for the next command.
     tell(false);
@@ -197,7 +197,7 @@ TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
     EXPECT_EQ(dialogs.told,
               (std::vector<ShownBox>{
                   {BoxIcon::Critical, "Attenzione!",
-                   "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla "
+                   "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla "
                    "matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo stretta per "
                    "questo effetto.\n\nIl programma termina."}}));
     EXPECT_EQ(session.ending, 1);
@@ -214,7 +214,7 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
     ASSERT_EQ(Conserved().size(), 1);
     const QString path = Data(Conserved()[0]);
     EXPECT_EQ(dialogs.told.back().text,
-              "Errore durante il comando \"Multi Step Orizzontale\":\nIndice fuori dalla matrice "
+              "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla matrice "
               "(ammessi da 0 a 1500): l'immagine è troppo grande o troppo stretta per questo "
               "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
                   path + "».\n\nIl programma termina.");

@@ -204,7 +204,7 @@ TEST_F(RealBoxes, TellOfAnErrorWithItsCommand)
     QFile::remove(Data("temp.bml"));
     QDir().mkpath(Data("temp.bml"));
     const Steps steps({Return({QMessageBox::Critical, "Attenzione!",
-                               "Errore durante il comando \"Capovolgi\":\nImpossibile salvare «" +
+                               "Errore durante il comando «Capovolgi»:\nImpossibile salvare «" +
                                    Data("temp.bml") + "»: è una cartella.",
                                Ok})});
     session.form1.Control(31).trigger();
