@@ -145,7 +145,7 @@ int RunBatch(std::span<const std::string_view> arguments, const std::string& own
     } catch (const Fault& fault) {
         return Complain(Harmless(fault.what()), SomethingFailed);
     } catch (const std::bad_alloc&) {
-        return Complain("memoria insufficiente", SomethingFailed);
+        return Complain("la memoria non basta", SomethingFailed);
     }
 }
 

@@ -64,7 +64,7 @@ Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, Chain
     } catch (const PictureError& error) {
         return {false, "", "", error.what()};  // which names the file
     } catch (const std::bad_alloc&) {
-        return {false, "", "", picture.input + ": memoria insufficiente"};
+        return {false, "", "", picture.input + ": la memoria non basta"};
     } catch (const std::exception& error) {
         return {false, "", "", picture.input + ": " + error.what()};
     }

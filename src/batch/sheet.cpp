@@ -78,7 +78,7 @@ Outcome Sheet::Try(std::size_t place, ChainProgress& progress)
     } catch (const PictureError& error) {
         return {false, "", "", error.what()};
     } catch (const std::bad_alloc&) {
-        return {false, "", "", planned.input + ": memoria insufficiente"};
+        return {false, "", "", planned.input + ": la memoria non basta"};
     }
 }
 

@@ -8,7 +8,7 @@ std::string_view Sentence(FaultKind kind)
     switch (kind) {
     case FaultKind::SubscriptOutOfRange:
         return "Indice fuori dalla matrice (ammessi da 0 a 1500): l'immagine è troppo grande o "
-               "troppo stretta per questo effetto";
+               "troppo allungata per questo effetto";
     case FaultKind::DivisionByZero:
         return "Divisione per zero";
     case FaultKind::Overflow:

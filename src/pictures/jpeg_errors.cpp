@@ -30,7 +30,7 @@ std::string JpegErrors::Reason() const
         return "l'immagine è troppo grande (più di " + std::to_string(JPEG_MAX_DIMENSION) +
                " pixel per lato): " + LongestSideText();
     case JERR_EMPTY_IMAGE:
-        return "le dimensioni dell'immagine non sono valide";
+        return "le misure dell'immagine non sono valide";
     case JERR_BAD_PRECISION:
     case JERR_SOF_UNSUPPORTED:
     case JERR_CONVERSION_NOTIMPL:

@@ -13,7 +13,7 @@ void CheckSize(std::int64_t width, std::int64_t height)
 {
     const std::string size = std::to_string(width) + " x " + std::to_string(height);
     if (width <= 0 || height <= 0)
-        throw Refusal("le dimensioni dell'immagine non sono valide (" + size + ")");
+        throw Refusal("le misure dell'immagine non sono valide (" + size + ")");
     if (width > LongestSide || height > LongestSide)
         throw Refusal("l'immagine è troppo grande (" + size + "): " + LongestSideText());
     if (width * height > MostPixels)

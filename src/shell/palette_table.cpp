@@ -58,8 +58,8 @@ constexpr auto Buttons = std::to_array<PaletteButton>({
     {"SSCommand22", "Foto Color Rnd",  "",                                   Effetti,  "Foto Color Rnd",                 EffectOf(ColorRnd)},
     {"SSCommand23", "Forbici",         "",                                   Effetti,  "Forbici",                        EffectOf(Forbici)},
 
-    {"Command1",    "",                "",                                   None,     "Ingrandisci l'anteprima",        Command{"Zoom", Command1_Click}, "ingrandisci.jpg"},
-    {"Command2",    "",                "",                                   None,     "Riduci l'anteprima",             Command{"Zoom", Command2_Click}, "riduci.jpg"},
+    {"Command1",    "",                "",                                   None,     "Ingrandisci l'anteprima",        Command{"Scala dell'anteprima", Command1_Click}, "ingrandisci.jpg"},
+    {"Command2",    "",                "",                                   None,     "Riduci l'anteprima",             Command{"Scala dell'anteprima", Command2_Click}, "riduci.jpg"},
 });
 // clang-format on
 

@@ -166,7 +166,8 @@ int RunAsOnlyInstance(Session& session, const Options& options)
     const OnlyInstance only(folder + "/pixano.lock");
     if (!only) {
         if (HandOver(folder, PictureIn(options))) return 0;
-        session.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
+        session.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
+                             "Pixano è già in esecuzione, ma non risponde: riprova tra poco.");
         return 1;
     }
     RemoveUnfinishedFiles(folder);
@@ -184,7 +185,8 @@ int StartProgram(int argc, char* argv[])
     const QStringList arguments = ArgumentsOf(argc, argv);
     if (ScreenIsMissing(arguments)) {
         if (!OptionsFrom(arguments)) return TellUsage();
-        std::fputs("Pixano: non c'è uno schermo (DISPLAY e WAYLAND_DISPLAY sono vuote). "
+        std::fputs("Pixano: non c'è uno schermo (le variabili DISPLAY e "
+                   "WAYLAND_DISPLAY sono vuote). "
                    "Senza finestre lavora pixano-batch.\n",
                    stderr);
         return 1;

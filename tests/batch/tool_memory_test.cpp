@@ -55,14 +55,14 @@ TEST_F(TooLittleMemory, IsToldInItalian)
 {
     SaveBitmap(pixano::test::Varied(900, 700), File("a.bmp"));
     const std::string unread = "pixano-batch: Impossibile leggere «a.bmp»: la memoria non basta";
-    const std::string undone = "pixano-batch: a.bmp: memoria insufficiente";
+    const std::string undone = "pixano-batch: a.bmp: la memoria non basta";
     EXPECT_THAT(Told("-e Multifoto -o c.bmp a.bmp"), AllOf(testing::IsSupersetOf({unread, undone}),
                                                            testing::Each(HasSubstr(" memoria "))));
     // And wherever else there may be too little.
     std::filesystem::create_directory(File("foglio"));
     SaveBitmap(pixano::test::Varied(300, 200), File("b.bmp"));
     EXPECT_THAT(Told("--tutti -j 1 -d foglio b.bmp"),
-                AllOf(testing::Contains("pixano-batch: b.bmp: memoria insufficiente"),
+                AllOf(testing::Contains("pixano-batch: b.bmp: la memoria non basta"),
                       testing::Each(HasSubstr(" memoria "))));
 }
 

@@ -19,7 +19,7 @@ struct Told {
 constexpr std::array<Told, 10> Sentences{{
     {K::SubscriptOutOfRange,
      "Indice fuori dalla matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo "
-     "stretta per questo effetto"},
+     "allungata per questo effetto"},
     {K::DivisionByZero, "Divisione per zero"},
     {K::Overflow, "Numero troppo grande"},
     {K::TypeMismatch, "È stato letto un testo al posto di un numero"},

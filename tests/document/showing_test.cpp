@@ -127,7 +127,7 @@ TEST_F(Showing, TellsThatThePreviewsCopyCannotBeWritten)
     Enlarge();
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_THAT(dialogs.told[0].text.toStdString(),
-                testing::StartsWith("Errore durante il comando «Zoom»:\n"));
+                testing::StartsWith("Errore durante il comando «Scala dell'anteprima»:\n"));
 }
 
 TEST_F(Showing, ShowsPreviewAndPaletteAgainThatWereHidden)

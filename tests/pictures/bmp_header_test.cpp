@@ -17,12 +17,10 @@ std::string RefusalOf(const BmpHead& head)
 
 TEST(BmpHeader, SizesThatCannotBe)
 {
-    EXPECT_THAT(RefusalOf({.width = 0}),
-                HasSubstr("dimensioni dell'immagine non sono valide (0 x 1)"));
-    EXPECT_THAT(RefusalOf({.height = 0}), HasSubstr("dimensioni dell'immagine non sono valide"));
-    EXPECT_THAT(RefusalOf({.width = -5}), HasSubstr("dimensioni dell'immagine non sono valide"));
-    EXPECT_THAT(RefusalOf({.width = INT_MIN}),
-                HasSubstr("dimensioni dell'immagine non sono valide"));
+    EXPECT_THAT(RefusalOf({.width = 0}), HasSubstr("misure dell'immagine non sono valide (0 x 1)"));
+    EXPECT_THAT(RefusalOf({.height = 0}), HasSubstr("misure dell'immagine non sono valide"));
+    EXPECT_THAT(RefusalOf({.width = -5}), HasSubstr("misure dell'immagine non sono valide"));
+    EXPECT_THAT(RefusalOf({.width = INT_MIN}), HasSubstr("misure dell'immagine non sono valide"));
 }
 
 TEST(BmpHeader, SizesBeyondTheBounds)
@@ -102,7 +100,7 @@ TEST(BmpHeader, AFileThatEndsInItsHeader)
 TEST(BmpHeader, AMessageNamesTheFile)
 {
     EXPECT_EQ(RefusalOf({.width = 0}),
-              "Impossibile leggere «prova»: le dimensioni dell'immagine non sono valide (0 x 1)");
+              "Impossibile leggere «prova»: le misure dell'immagine non sono valide (0 x 1)");
 }
 
 }  // namespace

@@ -39,10 +39,10 @@ constexpr Sides Limits[] = {
     {32767, 8192, nullptr},
     {16384, 16385, "troppo grande (16384 x 16385): può avere al massimo 268 milioni di pixel"},
     {16385, 16384, "troppo grande (16385 x 16384): può avere al massimo 268 milioni di pixel"},
-    {0, 1, "le dimensioni dell'immagine non sono valide (0 x 1)"},
-    {1, 0, "le dimensioni dell'immagine non sono valide (1 x 0)"},
-    {-1, 1, "le dimensioni dell'immagine non sono valide (-1 x 1)"},
-    {1, -1, "le dimensioni dell'immagine non sono valide (1 x -1)"},
+    {0, 1, "le misure dell'immagine non sono valide (0 x 1)"},
+    {1, 0, "le misure dell'immagine non sono valide (1 x 0)"},
+    {-1, 1, "le misure dell'immagine non sono valide (-1 x 1)"},
+    {1, -1, "le misure dell'immagine non sono valide (1 x -1)"},
 };
 
 TEST(Contents, AreOpenedUpToTheirLargestSizes)
