@@ -85,7 +85,7 @@ void RequireFolder(const CommandLine& line)
 {
     std::error_code error;
     if (line.folder && !std::filesystem::is_directory(*line.folder, error))
-        throw Fault(FaultKind::FileNotFound, "La cartella \"" + *line.folder + "\" non esiste");
+        throw Fault(FaultKind::FileNotFound, "La cartella «" + *line.folder + "» non esiste");
 }
 
 int RunSheet(const CommandLine& line, const std::string& ownFolder)
@@ -106,7 +106,7 @@ int RunSheet(const CommandLine& line, const std::string& ownFolder)
 int RunPictures(const CommandLine& line, const std::string& ownFolder)
 {
     if (line.output == StandardStream && ::isatty(STDOUT_FILENO) == 1)
-        throw WrongCommandLine("Un'immagine non si scrive su un terminale: manca \"> FILE\"");
+        throw WrongCommandLine("Un'immagine non si scrive su un terminale: manca «> FILE»");
     const auto pictures = PlanPictures(line);
     RequireFolder(line);
     const Recipe recipe = ReadRecipe(line, ownFolder);

@@ -10,7 +10,7 @@ namespace {
 
 std::string Quoted(std::string_view text)
 {
-    return "\"" + std::string(text) + "\"";
+    return "«" + std::string(text) + "»";
 }
 
 /// A whole number of at least `least` and at most `most`, decimal digits only.
@@ -156,7 +156,7 @@ void CheckSheet(const CommandLine& line)
     if (line.inputs.size() > 1)
         throw WrongCommandLine("--tutti prova una sola immagine alla volta");
     if (line.inputs.front() == StandardStream)
-        throw WrongCommandLine("--tutti ha bisogno di un file: \"-\" non ha un nome da ripetere");
+        throw WrongCommandLine("--tutti ha bisogno di un file: «-» non ha un nome da ripetere");
     if (!line.steps.empty())
         throw WrongCommandLine("--tutti prova da sé ogni effetto: -e non può stargli accanto");
     if (line.output || !line.folder)
@@ -173,7 +173,7 @@ void CheckPictures(const CommandLine& line)
     if (line.output && line.inputs.size() > 1)
         throw WrongCommandLine("Con più immagini serve -d: -o dà il nome a una sola");
     if (line.folder && std::ranges::find(line.inputs, StandardStream) != line.inputs.end())
-        throw WrongCommandLine("Lo standard input non ha un nome: con \"-\" serve -o, non -d");
+        throw WrongCommandLine("Lo standard input non ha un nome: con «-» serve -o, non -d");
 }
 
 }  // namespace

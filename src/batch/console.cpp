@@ -93,7 +93,8 @@ void Console::ClearProgress()
 std::string Console::Count() const
 {
     if (pictures_.size() == 1) return {};
-    return std::to_string(ended_) + " immagini su " + std::to_string(pictures_.size()) + "   ";
+    return std::to_string(ended_) + (ended_ == 1 ? " immagine su " : " immagini su ") +
+           std::to_string(pictures_.size()) + "   ";
 }
 
 }  // namespace pixano::batch

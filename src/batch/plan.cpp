@@ -35,9 +35,8 @@ void RefuseSharedResults(const std::vector<PlannedPicture>& pictures)
     for (const auto& [input, output] : pictures) {
         const auto [other, isNew] = inputOf.emplace(output, input);
         if (!isNew)
-            throw WrongCommandLine("Il risultato di \"" + input + "\" e quello di \"" +
-                                   other->second + "\" avrebbero lo stesso nome: \"" + output +
-                                   "\"");
+            throw WrongCommandLine("Il risultato di «" + input + "» e quello di «" + other->second +
+                                   "» avrebbero lo stesso nome: «" + output + "»");
     }
 }
 
@@ -60,8 +59,8 @@ void RefuseOverwrittenInputs(const std::vector<PlannedPicture>& pictures)
         const auto identity = IdentityOf(picture.output);
         if (identity && read.contains(*identity))
             throw WrongCommandLine(
-                "Il risultato prenderebbe il posto di un'immagine da leggere: \"" + picture.output +
-                "\"");
+                "Il risultato prenderebbe il posto di un'immagine da leggere: «" + picture.output +
+                "»");
     }
 }
 

@@ -34,11 +34,11 @@ std::size_t Distance(std::string_view from, std::string_view to)
 
 std::string UnknownEffect(std::string_view name)
 {
-    std::string text = "Effetto sconosciuto: \"" + std::string(name) + "\"";
+    std::string text = "Effetto sconosciuto: «" + std::string(name) + "»";
     const auto nearest = std::ranges::min(
         Effects, {}, [name](const Effect& effect) { return Distance(name, effect.name); });
     if (Distance(name, nearest.name) <= nearest.name.size() / 3 + 1)
-        text += " (forse \"" + std::string(nearest.name) + "\"?)";
+        text += " (forse «" + std::string(nearest.name) + "»?)";
     return text + "; --elenco dà tutti i nomi";
 }
 
@@ -48,9 +48,9 @@ double ParseStrength(std::string_view name, std::string_view text)
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     if (error != std::errc() || stop != end || !std::isfinite(number))
-        throw WrongCommandLine("La forza di \"" + std::string(name) +
-                               "\" deve essere un numero (col punto decimale), non \"" +
-                               std::string(text) + "\"");
+        throw WrongCommandLine("La forza di «" + std::string(name) +
+                               "» deve essere un numero (con il punto decimale), non «" +
+                               std::string(text) + "»");
     return number;
 }
 
@@ -64,7 +64,7 @@ Step ParseStep(std::string_view text)
     if (effect == nullptr) throw WrongCommandLine(UnknownEffect(name));
     if (equals == std::string_view::npos) return {effect, std::nullopt};
     if (effect->selector == 0)
-        throw WrongCommandLine("L'effetto \"" + std::string(name) + "\" non ha una forza");
+        throw WrongCommandLine("L'effetto «" + std::string(name) + "» non ha una forza");
     return {effect, ParseStrength(name, text.substr(equals + 1))};
 }
 

@@ -168,7 +168,7 @@ TEST(Step, NeedsTheExactName)
 
 TEST(Step, NamesTheNearestEffectWhenThereIsNone)
 {
-    EXPECT_THAT(Complaint({"-e", "specio", "-o", "b", "a"}), HasSubstr("forse \"Specchio\"?"));
+    EXPECT_THAT(Complaint({"-e", "specio", "-o", "b", "a"}), HasSubstr("forse «Specchio»?"));
     EXPECT_THAT(Complaint({"-e", "qwertyuiop", "-o", "b", "a"}),
                 testing::AllOf(HasSubstr("--elenco"), testing::Not(HasSubstr("forse"))));
 }

@@ -32,11 +32,11 @@ TEST_F(Help, SaysWhatEachOptionDoes)
           "INGRESSO... pixano-batch [OPZIONI] --tutti -d CARTELLA FOTO",
           "a una o più immagini (BMP, JPEG o GIF), senza finestre.",
           "-e, --effetto NOME[=FORZA] applica l'effetto; ripetibile, nell'ordine dato.",
-          "senza, vale quella del file \"valori.tip\" accanto al programma",
+          "senza, vale quella del file «valori.tip» accanto al programma",
           "-o, --uscita FILE scrive il risultato in FILE: PNG se finisce in .png, JPEG se finisce "
           "in .jpg o .jpeg, BMP se finisce in .bmp o non ha estensione",
           "-d, --cartella CARTELLA scrive il risultato di NOME.* in CARTELLA/NOME.bmp",
-          "-j, --insieme N elabora N immagini alla volta (tutti i processori se manca)",
+          "-j, --insieme N elabora N immagini alla volta (una per processore se manca)",
           "--entro N prima degli effetti riduce le immagini che hanno un lato più lungo di N",
           "--tutti prova tutti gli effetti su FOTO: in CARTELLA scrive una piccola immagine per "
           "ognuno e una pagina, index.html,",
@@ -45,13 +45,14 @@ TEST_F(Help, SaysWhatEachOptionDoes)
           "--silenzioso scrive soltanto errori e avvisi",
           "--elenco elenca gli effetti: nome, famiglia, valori della forza",
           "--versione, --version scrive la versione",
-          "-h, --aiuto, --help scrive questo testo",
+          "-h, --aiuto, --help scrive questo testo -- quello che segue è il nome di un'immagine",
           "Un'opzione lunga si può abbreviare, finché non si confonde con un'altra.",
-          "Al posto di INGRESSO o di FILE, \"-\" è lo standard input o lo standard output.",
-          "con -o - la riga va sullo standard error.",
+          "Al posto di INGRESSO o di FILE, «-» è lo standard input o lo standard output.",
+          "e il titolo che l'immagine avrebbe nella sua finestra; con -o - la riga va sullo "
+          "standard error.",
           "Il profilo ICC di un'immagine passa al suo risultato JPEG o PNG.",
-          "Esce con 0 se tutto è riuscito, con 1 se un'immagine non è riuscita (nessun file viene "
-          "allora scritto o cambiato per essa), con 2 se il comando è sbagliato."})
+          "Esce con 0 se tutto è riuscito, con 1 se qualcosa non è riuscito (di un'immagine non "
+          "riuscita nessun file viene scritto o cambiato), con 2 se il comando è sbagliato."})
         EXPECT_THAT(text, HasSubstr(said));
 }
 

@@ -145,7 +145,7 @@ TEST_F(Tool, RefusesAWrongCommandBeforeReadingAnything)
     const Ran ran = Run({"-e", "Specio", "-o", "b.bmp", "missing.bmp"});
     EXPECT_EQ(ran.status, 2);
     EXPECT_EQ(ran.out, "");
-    EXPECT_THAT(ran.err, HasSubstr("forse \"Specchio\"?"));
+    EXPECT_THAT(ran.err, HasSubstr("forse «Specchio»?"));
     EXPECT_THAT(ran.err, HasSubstr("\nUso: pixano-batch"));
     EXPECT_THAT(ran.err, testing::Not(HasSubstr("missing.bmp")));
     EXPECT_EQ(Run({}).status, 2);
@@ -228,9 +228,9 @@ TEST_F(Tool, TellsNamesWithControlCharactersHarmlessly)
     EXPECT_EQ(Run({"-o", "b.bmp", "no" + name}).err,
               "pixano-batch: Impossibile leggere «no" + shown + "»: il file non esiste\n");
     EXPECT_THAT(Run({"-" + name}).err,
-                StartsWith("pixano-batch: Opzione sconosciuta: \"-" + shown.substr(0, 1)));
+                StartsWith("pixano-batch: Opzione sconosciuta: «-" + shown.substr(0, 1)));
     EXPECT_EQ(Run({"-d", name + "/", name}).err,
-              "pixano-batch: La cartella \"" + shown + "/\" non esiste\n");
+              "pixano-batch: La cartella «" + shown + "/» non esiste\n");
     for (const char* const option : {"-e", "-o", "-j"})
         EXPECT_THAT(Run({option, name, "-" + name}).err, testing::Not(HasSubstr("\x1B")));
 }

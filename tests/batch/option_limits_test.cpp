@@ -66,22 +66,22 @@ struct Number {
 constexpr Number Numbers[] = {
     {"-j", "1", nullptr},
     {"-j", "4294967295", nullptr},
-    {"-j", "0", "da 1 in su, non \"0\""},
-    {"-j", "4294967296", "da 1 in su, non \"4294967296\""},
-    {"-j", "2x", "da 1 in su, non \"2x\""},
+    {"-j", "0", "da 1 in su, non «0»"},
+    {"-j", "4294967296", "da 1 in su, non «4294967296»"},
+    {"-j", "2x", "da 1 in su, non «2x»"},
     {"--entro", "1", nullptr},
     {"--entro", "2147483647", nullptr},
-    {"--entro", "0", "da 1 in su, non \"0\""},
-    {"--entro", "2147483648", "da 1 in su, non \"2147483648\""},
+    {"--entro", "0", "da 1 in su, non «0»"},
+    {"--entro", "2147483648", "da 1 in su, non «2147483648»"},
     {"--seme", "0", nullptr},
     {"--seme", "18446744073709551615", nullptr},
-    {"--seme", "-1", "da 0 in su, non \"-1\""},
-    {"--seme", "18446744073709551616", "da 0 in su, non \"18446744073709551616\""},
+    {"--seme", "-1", "da 0 in su, non «-1»"},
+    {"--seme", "18446744073709551616", "da 0 in su, non «18446744073709551616»"},
     {"--qualita", "1", nullptr},
     {"--qualita", "100", nullptr},
-    {"--qualita", "0", "da 1 a 100, non \"0\""},
-    {"--qualita", "101", "da 1 a 100, non \"101\""},
-    {"--qualita", "90 ", "da 1 a 100, non \"90 \""},
+    {"--qualita", "0", "da 1 a 100, non «0»"},
+    {"--qualita", "101", "da 1 a 100, non «101»"},
+    {"--qualita", "90 ", "da 1 a 100, non «90 »"},
 };
 
 TEST(OptionLimits, ANumberIsWholeAndWithinItsBounds)
@@ -95,12 +95,12 @@ TEST(OptionLimits, ANumberIsWholeAndWithinItsBounds)
 
 TEST(OptionLimits, AnOptionIsToldAsItWasWritten)
 {
-    EXPECT_EQ(ComplaintOf({"--forse=3", "a"}), "Opzione sconosciuta: \"--forse=3\"");
-    EXPECT_EQ(ComplaintOf({"-x7", "a"}), "Opzione sconosciuta: \"-x7\"");
-    EXPECT_EQ(ComplaintOf({"--=7", "a"}), "Opzione sconosciuta: \"--=7\"");
+    EXPECT_EQ(ComplaintOf({"--forse=3", "a"}), "Opzione sconosciuta: «--forse=3»");
+    EXPECT_EQ(ComplaintOf({"-x7", "a"}), "Opzione sconosciuta: «-x7»");
+    EXPECT_EQ(ComplaintOf({"--=7", "a"}), "Opzione sconosciuta: «--=7»");
     EXPECT_EQ(ComplaintOf({"--elenco=7"}), "L'opzione --elenco non prende un valore");
     EXPECT_EQ(ComplaintOf({"-h7"}), "L'opzione --aiuto non prende un valore");
-    EXPECT_EQ(ComplaintOf({"--e", "a"}), "Opzione ambigua: \"--e\" può essere --effetto o --entro");
+    EXPECT_EQ(ComplaintOf({"--e", "a"}), "Opzione ambigua: «--e» può essere --effetto o --entro");
 }
 
 TEST(OptionLimits, StandardInputHasNoNameForAFolderWhereverItStands)
@@ -108,8 +108,7 @@ TEST(OptionLimits, StandardInputHasNoNameForAFolderWhereverItStands)
     for (const Arguments& inputs : {Arguments{"-"}, {"-", "a"}, {"a", "-"}, {"a", "-", "b"}}) {
         Arguments line{"-d", "f"};
         line.insert(line.end(), inputs.begin(), inputs.end());
-        EXPECT_EQ(ComplaintOf(line),
-                  "Lo standard input non ha un nome: con \"-\" serve -o, non -d");
+        EXPECT_EQ(ComplaintOf(line), "Lo standard input non ha un nome: con «-» serve -o, non -d");
     }
 }
 
@@ -146,8 +145,8 @@ constexpr Guess Guesses[] = {{"Vet", "Vetro"},
 TEST(OptionLimits, ANameIsGuessedUpToAThirdOfItsLetters)
 {
     for (const auto& [written, meant] : Guesses) {
-        std::string expected = "Effetto sconosciuto: \"" + std::string(written) + "\"";
-        if (meant != nullptr) expected += " (forse \"" + std::string(meant) + "\"?)";
+        std::string expected = "Effetto sconosciuto: «" + std::string(written) + "»";
+        if (meant != nullptr) expected += " (forse «" + std::string(meant) + "»?)";
         EXPECT_EQ(ComplaintOf({"-e", written, "-o", "b", "a"}),
                   expected + "; --elenco dà tutti i nomi");
     }
@@ -156,11 +155,11 @@ TEST(OptionLimits, ANameIsGuessedUpToAThirdOfItsLetters)
 TEST(OptionLimits, AStrengthIsToldAsItWasWritten)
 {
     EXPECT_EQ(ComplaintOf({"-e", "Specchio=3", "-o", "b", "a"}),
-              "L'effetto \"Specchio\" non ha una forza");
+              "L'effetto «Specchio» non ha una forza");
     EXPECT_EQ(ComplaintOf({"-e", "Vetro=1,5", "-o", "b", "a"}),
-              "La forza di \"Vetro\" deve essere un numero (col punto decimale), non \"1,5\"");
+              "La forza di «Vetro» deve essere un numero (con il punto decimale), non «1,5»");
     EXPECT_EQ(ComplaintOf({"-e", "Vetro=1=2", "-o", "b", "a"}),
-              "La forza di \"Vetro\" deve essere un numero (col punto decimale), non \"1=2\"");
+              "La forza di «Vetro» deve essere un numero (con il punto decimale), non «1=2»");
 }
 
 }  // namespace

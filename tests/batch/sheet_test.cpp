@@ -97,7 +97,7 @@ TEST_F(SheetRun, GivesCommandsThatRepeatItsPictures)
 TEST_F(SheetRun, NeedsItsFolderAndItsPicture)
 {
     Draw("a.bmp", {"ab"});
-    EXPECT_THAT(Run({"--tutti", "-d", "manca", "a.bmp"}).err, HasSubstr("\"manca\" non esiste"));
+    EXPECT_THAT(Run({"--tutti", "-d", "manca", "a.bmp"}).err, HasSubstr("«manca» non esiste"));
     const Ran ran = Run({"--tutti", "-d", "foglio", "manca.bmp"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err, HasSubstr("manca.bmp"));
@@ -160,7 +160,7 @@ TEST_F(SheetRun, NeedsAFolderAndNoFileOfThatName)
     for (const std::string task : {"--tutti", "--silenzioso"}) {
         const Ran ran = Run({task, "-d", "file", "a.bmp"});
         EXPECT_EQ(ran.status, 1);
-        EXPECT_EQ(ran.err, "pixano-batch: La cartella \"file\" non esiste\n");
+        EXPECT_EQ(ran.err, "pixano-batch: La cartella «file» non esiste\n");
     }
 }
 

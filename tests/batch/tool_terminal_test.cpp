@@ -40,12 +40,12 @@ TEST_F(OnTerminal, CountsThePicturesThatAreDone)
     const std::size_t first = two.find("fatte/a.bmp: Vetro");
     ASSERT_NE(first, std::string::npos);
     EXPECT_THAT(two.substr(0, first), AllOf(HasSubstr("\r\033[K0 immagini su 2   Vetro  ("),
-                                            Not(HasSubstr("1 immagini"))));
-    EXPECT_THAT(two.substr(first), AllOf(HasSubstr("\r\033[K1 immagini su 2   Vetro  ("),
+                                            Not(HasSubstr("1 immagine"))));
+    EXPECT_THAT(two.substr(first), AllOf(HasSubstr("\r\033[K1 immagine su 2   Vetro  ("),
                                          Not(HasSubstr("0 immagini"))));
     // Done is what has ended, even where its line waits for the one before.
     EXPECT_THAT(Shown("-j 2 -d fatte a.bmp small.bmp"),
-                HasSubstr("\r\033[K1 immagini su 2   Vetro  ("));
+                HasSubstr("\r\033[K1 immagine su 2   Vetro  ("));
 }
 
 TEST_F(OnTerminal, ShowsThePercentTenTimesASecondAtMost)
