@@ -39,7 +39,8 @@ const char* const UsageText = "Uso: pixano [--da-menu] [--] [IMMAGINE]\n"
                               "  IMMAGINE     l'immagine da aprire (anche come URL file:)\n"
                               "  --da-menu    lavora nella cartella dei dati dell'utente\n"
                               "  --aiuto      mostra questo testo (anche --help, -h)\n"
-                              "  --versione   mostra la versione (anche --version)\n";
+                              "  --versione   mostra la versione (anche --version)\n"
+                              "  --           quello che segue è il nome dell'immagine\n";
 
 const char* AnswerWithoutScreen(int argc, const char* const argv[])
 {
