@@ -71,7 +71,7 @@ install_missing() {
     local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0)
     # Its chatter goes where messages go: standard output is for results.
     "${apt[@]}" update >&2 ||
-        printf 'Gli elenchi dei pacchetti non si lasciano aggiornare: provo con quelli che ci sono.\n' >&2
+        printf 'Non è stato possibile aggiornare gli elenchi dei pacchetti: provo con quelli che ci sono.\n' >&2
     "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >&2 ||
-        fail 'I pacchetti non si lasciano installare: il motivo è qui sopra. Senza rete non si può.'
+        fail 'Non è stato possibile installare i pacchetti: il motivo è qui sopra. Serve la rete.'
 }
