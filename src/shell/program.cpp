@@ -166,8 +166,7 @@ int RunAsOnlyInstance(Session& session, const Options& options)
     const OnlyInstance only(folder + "/pixano.lock");
     if (!only) {
         if (HandOver(folder, PictureIn(options))) return 0;
-        session.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
-                             "Pixano è già in esecuzione, ma non risponde: riprova tra poco.");
+        session.dialogs.Tell(BoxIcon::Exclamation, title::Warning, "Pixano è già in esecuzione.");
         return 1;
     }
     RemoveUnfinishedFiles(folder);
