@@ -138,10 +138,8 @@ TEST_F(Recovery, NeverTakesARunningProgramForACrash)
     {
         const OnlyInstance running(folders.Data("pixano.lock"));
         ASSERT_TRUE(running);
-        EXPECT_THAT(
-            NextStart(),
-            AllOf(Contains("told Pixano è già in esecuzione."),
-                  Not(Offered), Contains("status 1")));
+        EXPECT_THAT(NextStart(), AllOf(Contains("told Pixano è già in esecuzione."), Not(Offered),
+                                       Contains("status 1")));
     }
     EXPECT_THAT(NextStart(), AllOf(Offered, Contains(Ready(unsaved))));
 }

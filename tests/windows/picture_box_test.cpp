@@ -1,5 +1,6 @@
 // The canvas window and its picture box, as they are painted.
 #include "support/letters.h"
+#include "support/paint_count.h"
 #include "windows/form2.h"
 
 #include <QTest>
@@ -38,6 +39,17 @@ TEST_F(Canvas, LiesInASunkenBorder)
     EXPECT_EQ(window.Picture1().frameShape(), QFrame::WinPanel);
     EXPECT_EQ(window.Picture1().frameShadow(), QFrame::Sunken);
     EXPECT_EQ(window.Picture1().contentsRect(), QRect(2, 2, 3, 2));
+}
+
+// Where the window manager draws the frame for the new title, what is inside may be lost.
+TEST_F(Canvas, IsPaintedOnceMoreAfterItsTitleHasChanged)
+{
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    const PaintCount paints(window.Picture1());
+    window.setWindowTitle("foto.bmp   3x2");
+    EXPECT_FALSE(QTest::qWaitFor([&] { return paints.count > 0; }, 100)) << "too early";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count == 1; }));
 }
 
 TEST_F(Canvas, KeepsRedGreenAndBlueApart)

@@ -1,4 +1,5 @@
 // The progress window: really seen while the event loop stands still, and cheap.
+#include "support/paint_count.h"
 #include "windows/form4.h"
 
 #include <QApplication>
@@ -10,20 +11,6 @@
 
 namespace pixano::test {
 namespace {
-
-/// Counts how often a widget paints itself.
-class PaintCount : public QObject {
-  public:
-    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
-    int count = 0;
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) ++count;
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 class ProgressShown : public testing::Test {
   protected:
