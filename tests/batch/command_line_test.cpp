@@ -116,7 +116,7 @@ TEST(CommandLine, TakesTheBeginningOfALongOptionThatIsNoOthers)
     EXPECT_EQ(line.quality, 80);
     EXPECT_TRUE(line.quiet);
     EXPECT_THAT(Complaint({"--s", "a"}),
-                AllOf(HasSubstr("\"--s\""), HasSubstr("--seme"), HasSubstr("--silenzioso")));
+                AllOf(HasSubstr("«--s»"), HasSubstr("--seme"), HasSubstr("--silenzioso")));
     for (const auto* const text : {"--silenziosoo", "--x", "-elenco=", "--=7"})
         EXPECT_NE(Complaint({text, "-d", "f", "a"}), "(none)") << text;
 }
@@ -139,8 +139,8 @@ TEST(CommandLine, RefusesWhatItCannotFollow)
     EXPECT_THAT(Complaint({"--tutti", "a"}), HasSubstr("serve -d"));
     EXPECT_THAT(Complaint({"--tutti", "-o", "b", "a"}), HasSubstr("serve -d"));
     EXPECT_THAT(Complaint({"--tutti", "-d", "f", "-e", "Specchio", "a"}), HasSubstr("-e non"));
-    EXPECT_THAT(Complaint({"-x", "a"}), HasSubstr("\"-x\""));
-    EXPECT_THAT(Complaint({"--chissà", "a"}), HasSubstr("\"--chissà\""));
+    EXPECT_THAT(Complaint({"-x", "a"}), HasSubstr("«-x»"));
+    EXPECT_THAT(Complaint({"--chissà", "a"}), HasSubstr("«--chissà»"));
     EXPECT_THAT(Complaint({"--silenzioso=1", "a"}), HasSubstr("non prende un valore"));
 }
 

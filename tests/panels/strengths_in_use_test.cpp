@@ -240,7 +240,7 @@ TEST_F(UnreadableStrengths, EndTheProgramWithItsMessage)
     const ShownBox& box = dialogs.told.front();
     EXPECT_EQ(box.icon, BoxIcon::Critical);
     EXPECT_EQ(box.title, "Attenzione!");
-    EXPECT_TRUE(box.text.contains("\"Vetro\"")) << box;
+    EXPECT_TRUE(box.text.contains("«Vetro»")) << box;
     EXPECT_TRUE(box.text.contains(Root() + "/program/valori.tip")) << box;
     EXPECT_TRUE(box.text.endsWith("Il programma termina.")) << box;
     EXPECT_EQ(session.ending, 1);
