@@ -68,5 +68,11 @@ sleep 0.5
 shot wayland-2
 requested popup_done 1 && fail "the menu does not stay open"
 keys Escape Escape
+# A second start hands its picture over there too.
+convert -size 60x40 xc:red "$sandbox/folder/altra.bmp"
+env -u DISPLAY timeout 10 "$pixano" altra.bmp || fail "the second start ended with status $?"
+wait_for requested 'set_title("altra.bmp   60x40")' 1 || fail "the running program does not open the second picture"
+# The keyboard has to be with a window of the program again before its keys are pressed.
+wait_for requested 'set_title("altra.bmp  (60 x 40) - 100%")' 1 || fail "no preview of the second picture"
 leave "without X" open_menu
 echo "Wayland went well; its pictures are in $EVIDENCE"
