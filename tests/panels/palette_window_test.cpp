@@ -78,6 +78,14 @@ TEST_F(PaletteWindow, StartsWithTheKeyboardOnTheFirstReflection)
     EXPECT_EQ(palette.focusWidget(), palette.findChild<QPushButton*>("SSCommand7"));
 }
 
+TEST_F(PaletteWindow, MovesTheKeyboardOnlyFromAButtonThatIsSwitchedOff)
+{
+    auto* const used = palette.findChild<QPushButton*>("SSCommand2");
+    used->setFocus();
+    palette.EnableHistory({.annulla = false, .originale = false, .ripristina = false});
+    EXPECT_EQ(palette.focusWidget(), used);
+}
+
 TEST_F(PaletteWindow, HasItsThreeFramesInOrder)
 {
     QStringList captions;

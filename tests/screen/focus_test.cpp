@@ -1,6 +1,11 @@
 // Where the keyboard is after a command, and what becomes of windows that were minimised.
 #include "screen/desktop.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <set>
+
 namespace pixano::test {
 namespace {
 
@@ -14,6 +19,22 @@ TEST_F(Focus, EndsWithTheMainWindowAfterTheFirstOpeningAndEveryOther)
         EXPECT_TRUE(IsAbove(session.form1, session.form2));
         EXPECT_TRUE(IsAbove(session.form10, session.form2));
     }
+}
+
+// Not even for a moment: what is typed meanwhile would go astray.
+TEST_F(Focus, IsGivenToNoWindowThatOnlyAppears)
+{
+    std::set<QString> focused;
+    const auto seen =
+        QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, [&](const QWindow* now) {
+            for (const QWidget* const window : Companions())
+                if (now != nullptr && now == window->windowHandle())
+                    focused.insert(window->objectName());
+        });
+    OpenSized(300, 200);
+    EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
+    QObject::disconnect(seen);
+    EXPECT_TRUE(focused.empty() || RaisesWithFocus()) << focused.begin()->toStdString();
 }
 
 TEST_F(Focus, LeavesABlankWithNothingToDoOnceItsButtonIsOff)
