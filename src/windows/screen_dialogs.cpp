@@ -103,13 +103,15 @@ void PlaceText(QMessageBox& box)
     text->setContentsMargins(0, 0, 0, 0);
     text->setIndent(0);
     text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // A short text stands at the middle of its icon.
-    if (!box.iconPixmap().isNull())
-        text->setMinimumHeight(qRound(box.iconPixmap().deviceIndependentSize().height()));
+    // A short text stands at the middle of its icon; a longer one is seen whole.
+    const qreal beside = box.iconPixmap().deviceIndependentSize().height();
+    text->setMinimumHeight(std::max(qRound(beside), text->sizeHint().height()));
     QLayoutItem* const first = grid->itemAtPosition(0, 0);
     if (first == nullptr || first->spacerItem() == nullptr) return;
-    first->spacerItem()->changeSize(0, 0);
+    first->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
     grid->setHorizontalSpacing(0);
+    // What the buttons need besides is the text's.
+    grid->setColumnStretch(1, 1);
 }
 
 void Fill(QMessageBox& box, BoxIcon icon, const QString& title, const QString& text)

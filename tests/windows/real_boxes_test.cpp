@@ -1,5 +1,6 @@
 // Every kind of box that the program shows, as it really stands on the screen: its title, its text,
 // its picture, its buttons, and what the return key means.
+#include "support/modal_steps.h"
 #include "support/program.h"
 #include "windows/screen_dialogs.h"
 
@@ -7,38 +8,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
-#include <deque>
-
 namespace pixano::test {
 namespace {
-
-/// Lets a step be done in each modal window that comes up, one after the other.
-class Steps : public QObject {
-  public:
-    using Step = std::function<void(QDialog&)>;
-
-    explicit Steps(std::deque<Step> steps) : steps_(std::move(steps)) { startTimer(0); }
-    ~Steps() override { EXPECT_TRUE(steps_.empty()) << "a box did not come"; }
-    Steps(const Steps&) = delete;
-    Steps& operator=(const Steps&) = delete;
-
-  protected:
-    void timerEvent(QTimerEvent* /*event*/) override
-    {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || dialog->property("seen").toBool()) return;
-        dialog->setProperty("seen", true);
-        ASSERT_FALSE(steps_.empty()) << dialog->windowTitle().toStdString();
-        const Step step = std::move(steps_.front());
-        steps_.pop_front();
-        step(*dialog);
-        // A box that did not go must not hold the test up.
-        if (dialog->isVisible()) dialog->done(0);
-    }
-
-  private:
-    std::deque<Step> steps_;
-};
 
 struct Box {
     QMessageBox::Icon icon;
@@ -77,7 +48,7 @@ class RealBoxes : public testing::Test, protected Folders {
         SaveBitmap(Drawn({"abc"}), Path("a.bmp").toStdString());
         SaveBitmap(Drawn({"xy"}), Path("b.bmp").toStdString());
         {
-            const Steps steps({Name("a.bmp")});
+            const ModalSteps steps({Name("a.bmp")});
             Click(entry::Apri);
         }
         RunCommand(session, "Specchio", Fatal::None,
@@ -86,7 +57,7 @@ class RealBoxes : public testing::Test, protected Folders {
 
     void Click(int index) { session.form1.Control(index - 1).trigger(); }
     /// Types the name into the file dialog.
-    static Steps::Step Name(const QString& name)
+    static ModalSteps::Step Name(const QString& name)
     {
         return [name](QDialog& dialog) {
             auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
@@ -95,7 +66,7 @@ class RealBoxes : public testing::Test, protected Folders {
             QTest::keyClick(edit, Qt::Key_Return);
         };
     }
-    static Steps::Step Cancel()
+    static ModalSteps::Step Cancel()
     {
         return [](QDialog& dialog) {
             EXPECT_NE(qobject_cast<QFileDialog*>(&dialog), nullptr);
@@ -103,7 +74,7 @@ class RealBoxes : public testing::Test, protected Folders {
         };
     }
     /// Compares the box, then presses the button of that name.
-    static Steps::Step Press(const QString& name, const Box& expected)
+    static ModalSteps::Step Press(const QString& name, const Box& expected)
     {
         return [name, expected](QDialog& dialog) {
             ExpectBox(dialog, expected);
@@ -112,7 +83,7 @@ class RealBoxes : public testing::Test, protected Folders {
             ADD_FAILURE() << "no button " << name.toStdString();
         };
     }
-    static Steps::Step Return(const Box& expected)
+    static ModalSteps::Step Return(const Box& expected)
     {
         return [expected](QDialog& dialog) {
             ExpectBox(dialog, expected);
@@ -137,14 +108,15 @@ class RealBoxes : public testing::Test, protected Folders {
 
 TEST_F(RealBoxes, AskBeforeAnotherPictureIsOpened)
 {
-    const Steps steps({Press("No", About(QMessageBox::Question, "Messaggio!")), Name("b.bmp")});
+    const ModalSteps steps(
+        {Press("No", About(QMessageBox::Question, "Messaggio!")), Name("b.bmp")});
     Click(entry::Apri);
     EXPECT_EQ(session.doc.FileAperto, Path("b.bmp"));
 }
 
 TEST_F(RealBoxes, TakeTheReturnKeyForYesSoThatNoWorkIsLost)
 {
-    const Steps steps(
+    const ModalSteps steps(
         {Return(About(QMessageBox::Question, "Messaggio!")), Name("s.bmp"), Cancel()});
     Click(entry::Apri);
     EXPECT_TRUE(Saved());
@@ -155,11 +127,11 @@ TEST_F(RealBoxes, TellThatAFileDoesNotExistOrIsNoPicture)
     WriteBytes(Path("testo.bmp").toStdString(), "solo testo");
     Click(entry::Orig);
     {
-        const Steps steps(
+        const ModalSteps steps(
             {Name("no.bmp"), Return(Warning("File " + Path("no.bmp") + " non trovato!"))});
         Click(entry::Apri);
     }
-    const Steps steps(
+    const ModalSteps steps(
         {Name("testo.bmp"), Press("OK", Warning("Impossibile leggere «" + Path("testo.bmp") +
                                                 "»: non è un'immagine BMP, JPEG o "
                                                 "GIF."))});
@@ -168,14 +140,14 @@ TEST_F(RealBoxes, TellThatAFileDoesNotExistOrIsNoPicture)
 
 TEST_F(RealBoxes, AskBeforeAFileIsReplaced)
 {
-    const Steps steps({Name("b.bmp"), Press("No", Replace), Name("b.bmp"), Return(Replace)});
+    const ModalSteps steps({Name("b.bmp"), Press("No", Replace), Name("b.bmp"), Return(Replace)});
     Click(entry::Salva);
     EXPECT_EQ(session.doc.NomeSalvato, Path("b.bmp"));
 }
 
 TEST_F(RealBoxes, TellThatAPictureCannotBeSaved)
 {
-    const Steps steps(
+    const ModalSteps steps(
         {Name("manca/s.bmp"), Return(Warning("Impossibile salvare «" + Path("manca/s.bmp") +
                                              "»: la cartella non esiste."))});
     Click(entry::Salva);
@@ -187,14 +159,14 @@ TEST_F(RealBoxes, AskWithoutIconAndTitleWhenAWindowOfThePictureIsClosed)
     for (QWidget* const window :
          {static_cast<QWidget*>(&session.form2), static_cast<QWidget*>(&session.form9)}) {
         session.doc.Modificato = 1;
-        const Steps steps({Press("No", About(QMessageBox::NoIcon, ""))});
+        const ModalSteps steps({Press("No", About(QMessageBox::NoIcon, ""))});
         EXPECT_TRUE(window->close());
     }
 }
 
 TEST_F(RealBoxes, AskBeforeTheProgramEnds)
 {
-    const Steps steps({Press("No", About(QMessageBox::Warning, "Avviso!"))});
+    const ModalSteps steps({Press("No", About(QMessageBox::Warning, "Avviso!"))});
     EXPECT_TRUE(session.form1.close());
     EXPECT_EQ(session.ending, 0);
 }
@@ -203,10 +175,11 @@ TEST_F(RealBoxes, TellOfAnErrorWithItsCommand)
 {
     QFile::remove(Data("temp.bml"));
     QDir().mkpath(Data("temp.bml"));
-    const Steps steps({Return({QMessageBox::Critical, "Attenzione!",
-                               "Errore durante il comando «Capovolgi»:\nImpossibile salvare «" +
-                                   Data("temp.bml") + "»: è una cartella.",
-                               Ok})});
+    const ModalSteps steps(
+        {Return({QMessageBox::Critical, "Attenzione!",
+                 "Errore durante il comando «Capovolgi»:\nImpossibile salvare «" +
+                     Data("temp.bml") + "»: è una cartella.",
+                 Ok})});
     session.form1.Control(31).trigger();
 }
 
