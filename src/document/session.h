@@ -12,6 +12,7 @@
 #include "windows/form4.h"
 #include "windows/form9.h"
 #include "windows/never_covered.h"
+#include "windows/never_minimised.h"
 
 #include <QCoreApplication>
 
@@ -45,6 +46,7 @@ struct Session {
     /// Beside a picture its window is larger, and takes what is dropped there too.
     FileDrops drops{&form1, form2.viewport(), form9.viewport(), &form10};
     NeverCovered atHand{{&form1, &form10}, {&form2, &form9}};
+    NeverMinimised answerable;
 
     /// A command is running: whatever else the user starts meanwhile is ignored.
     bool busy = false;

@@ -40,9 +40,12 @@ void Mostra(Session& s)
     };
     s.form9.Stretch({sideOf(width), sideOf(height)});
     OpenOnScreenOf(s.form1, s.form9);
+    // Some window managers give a window that comes back the focus, however it is asked for.
+    const bool comesBack = s.form9.isMinimized();
     ShowAgain(s.form9);
     OpenOnScreenOf(s.form1, s.form10);
     BringForward(s.form10);
+    if (comesBack) KeepFocus(s.form10, s.form9);
     s.form9.setWindowTitle(PreviewCaption(s, s.doc.Zoom));
     fault.Throw();
 }
@@ -50,6 +53,9 @@ void Mostra(Session& s)
 void ChangeZoom(Session& s, double change)
 {
     s.doc.Zoom += change;
+    // What is scaled is seen.
+    s.form9.raise();
+    KeepFocus(s.form10, s.form9);
     Mostra(s);
 }
 

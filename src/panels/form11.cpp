@@ -19,7 +19,7 @@ constexpr int Page = 1000;
 /// What a title bar with an icon and three buttons needs so that nothing of the title is left out.
 int TitleWidth(const QString& title)
 {
-    constexpr int IconAndButtons = 100;
+    constexpr int IconAndButtons = 120;
     QFont bold;
     bold.setBold(true);
     return QFontMetrics(bold).horizontalAdvance(title) + IconAndButtons;

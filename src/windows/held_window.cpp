@@ -31,7 +31,7 @@ void HeldWindow::SetInside(QSize size)
     resize(Held(stated_));
     ShowBarsOnlyWhenHeld();
     // Grown where it stands, it would grow off the screen.
-    if (isVisible() && this->size() != before) KeepWithin(Room(IsHeld()), *this);
+    if (isVisible() && this->size() != before) KeepWithin(RoomToGrow(), *this);
     if (!moved) placed_ = pos();
     sincePlaced_.invalidate();
 }
@@ -42,6 +42,14 @@ QRect HeldWindow::Room(bool held) const
     if (held) room.setRight(room.right() - leftFree);
     if (titleFree != nullptr && titleFree->isVisible() && (held || alwaysBelow))
         room.setTop(std::max(room.top(), titleFree->y() + FrameOf(*titleFree).top()));
+    return room;
+}
+
+QRect HeldWindow::RoomToGrow() const
+{
+    QRect room = Room(IsHeld());
+    const QRect beside = Room(true);
+    if (size().grownBy(FrameOf(*this)).width() <= beside.width()) room.setRight(beside.right());
     return room;
 }
 

@@ -54,6 +54,8 @@ class HeldWindow : public QScrollArea {
   private:
     /// What it has of the free screen, with its frame.
     QRect Room(bool held) const;
+    /// What it is kept within when its size changes: beside `leftFree` too if it fits there.
+    QRect RoomToGrow() const;
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();

@@ -1,6 +1,11 @@
 // Where the keyboard is after a command, and what becomes of windows that were minimised.
+#include "panels/form11.h"
+#include "panels/form6.h"
 #include "screen/desktop.h"
+#include "support/modal_steps.h"
+#include "windows/screen_dialogs.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -96,6 +101,31 @@ TEST_F(Minimised, WindowsComeBackWhenThePreviewIsShown)
     Apply("Specchio");
     ExpectBack(session.form9);
     ExpectBack(session.form10);
+    EXPECT_TRUE(Stays([this] { return IsActive(session.form10); }));
+}
+
+// Behind it no other window takes a click.
+TEST_F(Minimised, AWindowThatWaitsForAnAnswerComesBack)
+{
+    OpenSized(300, 200);
+    ScreenDialogs real;
+    const std::vector<std::function<void()>> questions{
+        [&] { real.Ask(BoxIcon::Question, "Messaggio!", "Salvare?"); },
+        [&] { real.Tell(BoxIcon::Exclamation, "Attenzione!", "Fatto."); },
+        [&] { real.AskOpenName(QDir::currentPath()); },
+        [&] { real.AskSaveName(QDir::currentPath()); },
+        [&] { Form11("Vetro", session.form10).exec(); },
+        [&] { Form6().exec(); },
+    };
+    for (std::size_t i = 0; i < questions.size(); ++i) {
+        const ModalSteps steps({[&](QDialog& dialog) {
+            EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); })) << i;
+            Do("windowminimize " + Id(dialog));
+            EXPECT_TRUE(Stays([&] { return !IsIconic(dialog) && IsActive(dialog); })) << i;
+        }});
+        questions[i]();
+    }
+    EXPECT_FALSE(IsIconic(session.form1));
 }
 
 }  // namespace

@@ -56,6 +56,16 @@ TEST_F(Places, ThePreviewInItsCornerOnEveryOpening)
     EXPECT_TRUE(Stays([&] { return Preview().bottomRight() == corner; }));
 }
 
+TEST_F(Places, ThePreviewBesideThePaletteAsLongAsItFitsThere)
+{
+    OpenSized(500, 300);
+    for (int width = 500; width < StripLeft() - 50; width = width * 13 / 10) {
+        SCOPED_TRACE(width);
+        EXPECT_TRUE(Stays([&] { return Preview().right() < StripLeft(); }));
+        Button("Command1").click();
+    }
+}
+
 TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
 {
     OpenSized(200, 100);

@@ -82,6 +82,19 @@ TEST_F(SeenPreview, KeepsItsMiddleWhileItIsZoomed)
     }
 }
 
+TEST_F(SeenPreview, ComesToTheFrontWhenItIsScaled)
+{
+    OpenSized(900, 700);
+    for (const char* const magnifier : {"Command1", "Command2"}) {
+        Activate(session.form10);
+        Cover(session.form9, session.form2);
+        Button(magnifier).click();
+        EXPECT_TRUE(ComesToHold([this] { return IsAbove(session.form9, session.form2); }));
+        EXPECT_TRUE(Stays([this] { return IsActive(session.form10); })) << magnifier;
+        EXPECT_TRUE(IsAbove(session.form10, session.form9));
+    }
+}
+
 TEST_F(SeenPreview, FollowsWheelAndHand)
 {
     OpenSized(400, 400);
