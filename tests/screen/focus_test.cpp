@@ -104,6 +104,19 @@ TEST_F(Minimised, WindowsComeBackWhenThePreviewIsShown)
     EXPECT_TRUE(Stays([this] { return IsActive(session.form10); }));
 }
 
+// The palette was there all the time.
+TEST_F(Minimised, APreviewThatComesBackTakesNoFocus)
+{
+    OpenSized(300, 200);
+    for (const char* const effect : {"Specchio", "Capovolgi", "Specchio"}) {
+        Minimise(session.form9);
+        Activate(session.form1);
+        Apply(effect);
+        ExpectBack(session.form9);
+        EXPECT_TRUE(Stays([this] { return IsActive(session.form10); })) << effect;
+    }
+}
+
 // Behind it no other window takes a click.
 TEST_F(Minimised, AWindowThatWaitsForAnAnswerComesBack)
 {
