@@ -88,6 +88,8 @@ TEST_F(SliderWindow, ShowsTheStrengthAsItIsWrittenAndTheSliderAtTheNearestPlace)
     ExpectMovedTo(2);
     window.ShowStrength(2.25);
     EXPECT_EQ(Label(), "2.25") << "the slider stands at 2 already";
+    window.ShowStrength(2.2500000001);
+    EXPECT_EQ(Label(), "2.2500000001");
     EXPECT_EQ(moves, (std::vector<int>{2}));
 }
 

@@ -39,6 +39,7 @@ TEST_F(SubtractionWindow, OffersTenSteps)
     EXPECT_EQ(window.windowTitle(), "Parametri");
     EXPECT_EQ(window.findChild<QLabel*>("Label1")->text(), "Sottrazione Colore");
     EXPECT_EQ(window.findChild<QPushButton*>("Command1")->text(), "OK");
+    EXPECT_TRUE(window.findChild<QPushButton*>("Command1")->isDefault());
     EXPECT_EQ(window.findChild<QPushButton*>("Command2")->text(), "Annulla");
     EXPECT_EQ(Text(), "20");
     QStringList offered;
