@@ -158,17 +158,35 @@ TEST_F(Ending, IsCalledOffWhenTheNameUsedLastCannotBeWritten)
     EXPECT_TRUE(Exists(Data("temp.bml")));
 }
 
-TEST_F(Ending, EndsWithAnErrorWhenASnapshotCannotBeDeleted)
+/// A folder stands where a snapshot is to be deleted.
+class HinderedEnding : public Ending {
+  protected:
+    HinderedEnding()
+    {
+        QFile::remove(Data("temp.bml"));
+        QDir().mkpath(Data("temp.bml/occupata"));
+        dialogs.answers = {false};
+    }
+    void ExpectEndWithAnError()
+    {
+        ASSERT_EQ(dialogs.told.size(), 1U);
+        EXPECT_EQ(dialogs.told[0].text,
+                  "Errore durante il comando «Esci»:\nImpossibile eliminare «" + Data("temp.bml") +
+                      "»: è una cartella.\n\nIl programma termina.");
+        EXPECT_EQ(session.ending, 1);
+    }
+};
+
+TEST_F(HinderedEnding, EndsWithAnErrorAtTheWindowsOwnButton)
 {
-    QFile::remove(Data("temp.bml"));
-    QDir().mkpath(Data("temp.bml/occupata"));
-    dialogs.answers = {false};
     session.form1.close();
-    ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_EQ(dialogs.told[0].text, "Errore durante il comando «Esci»:\nImpossibile eliminare «" +
-                                        Data("temp.bml") +
-                                        "»: è una cartella.\n\nIl programma termina.");
-    EXPECT_EQ(session.ending, 1);
+    ExpectEndWithAnError();
+}
+
+TEST_F(HinderedEnding, EndsWithAnErrorAtTheEntry)
+{
+    ClickEntry(entry::Esci);
+    ExpectEndWithAnError();
 }
 
 TEST_F(Ending, ClosesAllWindows)
