@@ -22,6 +22,13 @@ inline EffectRun& Use(EffectRun& run, int selector, double strength)
     return run;
 }
 
+/// Runs the catalogue's row of that name. That takes two readings of the timer before the effect:
+/// the generator's own and the reseeding. The scripted one is the second.
+inline EffectRun& ApplyRow(EffectRun& run, const char* name)
+{
+    return run.Apply(*FindEffect(name));
+}
+
 /// The picture after the effect.
 inline Values After(void (*effect)(Work&), const Values& picture)
 {

@@ -1,108 +1,16 @@
+// "Deformazione Casuale" on patterns worked out by hand, and where it fails.
 #include "effects/composite/composite.h"
-#include "effects/composite/expected_draws.h"
+#include "effects/composite/deformation_draws.h"
 #include "effects/geometry/geometry.h"
 #include "support/effect_run.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cmath>
-#include <optional>
-#include <vector>
+#include <utility>
 
 namespace pixano::test {
 namespace {
-
-/// Band lengths and largest steps: columns, rows, columns, rows.
-struct Pattern {
-    int r1 = 0;
-    int r2 = 0;
-    int r3 = 0;
-    int r4 = 0;
-
-    bool operator==(const Pattern&) const = default;
-};
-
-Pattern Drawn4(ExpectedDraws draws)
-{
-    Pattern pattern;
-    pattern.r1 = draws.OneOf(20, 15);
-    pattern.r2 = draws.OneOf(20, 10);
-    pattern.r3 = draws.OneOf(2, 2);
-    pattern.r4 = draws.OneOf(2, 2);
-    return pattern;
-}
-
-/// A timer reading after which exactly that pattern is drawn.
-std::uint64_t SeedFor(const Pattern& pattern)
-{
-    return ReadingWhere([&](const ExpectedDraws& draws) { return Drawn4(draws) == pattern; });
-}
-
-/// The lines that a squeeze reads, told step by step.
-std::vector<int> LinesRead(int lines, int band, int largest)
-{
-    std::vector<int> read;
-    int x = 0;
-    int sx = 1;
-    int nx = 0;
-    for (;;) {
-        read.push_back(x);
-        nx = nx + 1;
-        if (nx == band) {
-            nx = 0;
-            sx = sx + 1;
-        }
-        x = x + sx;
-        if (x > lines - 1) return read;
-        if (sx > largest) {
-            nx = 0;
-            sx = 1;
-        }
-    }
-}
-
-int HalfToEven(double value)
-{
-    const double below = std::floor(value);
-    const double rest = value - below;
-    const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(below, 2) != 0);
-    return static_cast<int>(below) + (up ? 1 : 0);
-}
-
-/// What the effect makes of a picture with untouched matrices; nothing where it must fail.
-std::optional<Surface> Expected(const Surface& picture, const Pattern& pattern)
-{
-    const int larg = picture.Width();
-    const int alt = picture.Height();
-    const std::vector<int> columns = LinesRead(larg, pattern.r1, pattern.r3);
-    const std::vector<int> rows = LinesRead(alt, pattern.r2, pattern.r4);
-    const int c = static_cast<int>(columns.size());
-    const int t = static_cast<int>(rows.size());
-    if (c == larg - 1 || t == alt - 1 || c > 1501 || t > 1501) return std::nullopt;
-    const double fx = (static_cast<double>(larg - 1) / (larg - 1 - c)) / 4.7;
-    const double fy = (static_cast<double>(alt - 1) / (alt - 1 - t)) / 4.5;
-    Surface result = picture;
-    double v = 0;
-    for (int y = 0; y <= alt - 1; ++y) {
-        double u = 0;
-        for (int x = 0; x <= larg - 1; ++x) {
-            const int column = HalfToEven(u);
-            const int row = HalfToEven(v);
-            if (column < 0 || row < 0) return std::nullopt;
-            Colour colour = 0;
-            if (column < c && row < t)
-                colour = picture.Point(columns[static_cast<std::size_t>(column)],
-                                       rows[static_cast<std::size_t>(row)]);
-            result.PSet(x, y, colour);
-            u += fx;
-            if (u > c) break;
-        }
-        v += fy;
-        if (v > t) break;
-    }
-    return result;
-}
 
 // R1 = 15: columns 0 to 14 and 16 are C = 16 cells; FX = 17 / (17 - 16) / 4.7 = 3.617, so U is
 // 0, 3.617, 7.234, 10.851, 14.468, then 18.085, beyond C. R2 = 10: rows 0 to 9 and 11 are T = 11
@@ -224,51 +132,6 @@ TEST(DeformazioneCasuale, GoesOnWherePositionAndCountAreEqual)
     EXPECT_EQ(run.progress.values, Steps(0, 21));
 }
 
-TEST(DeformazioneCasuale, PaintsAsItsDescriptionSaysAtManySizes)
-{
-    int compared = 0;
-    for (const auto& [width, height] :
-         {std::pair(1, 1), std::pair(1, 2), std::pair(2, 1), std::pair(2, 2), std::pair(3, 3),
-          std::pair(7, 5), std::pair(16, 16), std::pair(1, 40), std::pair(40, 1), std::pair(45, 32),
-          std::pair(99, 99), std::pair(101, 81), std::pair(1501, 90), std::pair(90, 1501),
-          std::pair(700, 600), std::pair(1500, 1500)}) {
-        for (const std::uint64_t reading : {1U, 2U, 3U}) {
-            const Surface picture = Varied(width, height);
-            const auto expected = Expected(picture, Drawn4(ExpectedDraws(reading)));
-            EffectRun run(picture, reading);
-            if (expected) {
-                EXPECT_TRUE(run.Apply(MulStepRnd).work.Picture1 == *expected)
-                    << width << "x" << height << " from " << reading;
-                ++compared;
-            } else {
-                EXPECT_THROW(run.Apply(MulStepRnd), Fault) << width << "x" << height;
-            }
-        }
-    }
-    EXPECT_GT(compared, 30);
-}
-
-// The frame reseeds, not the effect: exactly four numbers are drawn.
-TEST(DeformazioneCasuale, DrawsFourNumbersAndNoMore)
-{
-    EffectRun run(Varied(60, 60), 9);
-    run.Apply(MulStepRnd);
-    ExpectedDraws draws(9);
-    for (int i = 0; i < 4; ++i)
-        draws.Next();
-    EXPECT_EQ(run.work.Rnd(), draws.Next());
-}
-
-TEST(DeformazioneCasuale, DiffersFromRunToRun)
-{
-    const Surface picture = Varied(120, 90);
-    EffectRun run(picture);
-    const Surface first = run.Apply(MulStepRnd).work.Picture1;
-    run.Load(picture);
-    run.work.Randomize();
-    EXPECT_NE(run.Apply(MulStepRnd).work.Picture1, first);
-}
-
 // Larg - 1 or Alt - 1 is 0: the factor is 0 / -1, and cell 0 is painted all over.
 TEST(DeformazioneCasuale, OfOnePixel)
 {
@@ -326,25 +189,6 @@ TEST(DeformazioneCasuale, FailsWhereTheSqueezedPictureDoesNotFitIntoTheMatrix)
         EXPECT_EQ(run.progress.shownAfter, -1);
     }
     EXPECT_NO_THROW(EffectRun(Varied(2200, 30), SeedFor({15, 10, 2, 2})).Apply(MulStepRnd));
-}
-
-// After an effect that made the size even the canvas is wider and higher: the rest stays.
-TEST(DeformazioneCasuale, LeavesWhatLiesOutsideTheMeasuredPicture)
-{
-    const Surface before = Varied(61, 71);
-    EffectRun run(before, 4);
-    run.work.Larg = 60;
-    run.work.Alt = 70;
-    run.Apply(MulStepRnd);
-    Surface measured(60, 70);
-    for (int y = 0; y < 70; ++y)
-        for (int x = 0; x < 60; ++x)
-            measured.PSet(x, y, before.Point(x, y));
-    const Surface expected = Expected(measured, Drawn4(ExpectedDraws(4))).value();
-    for (int y = 0; y < 71; ++y)
-        for (int x = 0; x < 61; ++x)
-            ASSERT_EQ(run.work.Picture1.Point(x, y),
-                      x < 60 && y < 70 ? expected.Point(x, y) : before.Point(x, y));
 }
 
 }  // namespace
