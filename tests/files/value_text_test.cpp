@@ -1,45 +1,12 @@
 // What counts as a value when the pixel working file is read.
-#include "files/text_store.h"
+#include "files/value_reading.h"
 #include "files/value_text.h"
-#include "support/faults.h"
-#include "support/temporary_folder.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string>
 #include <vector>
 
 namespace pixano::test {
 namespace {
-
-class ValueText : public testing::Test {
-  protected:
-    /// Reads the text to its first fault; `fault` tells which.
-    std::vector<Colour> Read(const std::string& text)
-    {
-        const auto path = folder / "elab.ser";
-        WriteBytes(path, text);
-        PixelFile file(TextStore(path));
-        std::vector<Colour> values;
-        fault = FaultIn([&] {
-            for (;;)
-                values.push_back(file.Input());
-        });
-        return values;
-    }
-    /// Reads a text in which all is well up to its end.
-    std::vector<Colour> ReadAll(const std::string& text)
-    {
-        std::vector<Colour> values = Read(text);
-        EXPECT_EQ(fault, FaultKind::InputPastEnd) << text;
-        return values;
-    }
-
-    TemporaryFolder folder;
-    std::optional<FaultKind> fault;
-};
-
-using Numbers = std::vector<Colour>;
 
 TEST_F(ValueText, IsANumberALine)
 {
@@ -113,115 +80,6 @@ TEST_F(ValueText, OfEndlessLengthIsNoNumber)
 {
     EXPECT_TRUE(Read(std::string(1000000, 'x')).empty());
     EXPECT_EQ(fault, FaultKind::TypeMismatch);
-}
-
-// The text is read in pieces of 65536 characters. Lines of ten characters after a first one of
-// three to twelve put the border of the pieces at each place of a line, also between CR and LF.
-TEST_F(ValueText, MayBeCutAnywhereByTheReading)
-{
-    for (std::size_t digits = 1; digits <= 10; ++digits) {
-        std::string text = std::string(digits, '1') + "\r\n";
-        constexpr std::size_t Count = 60000;
-        for (std::size_t i = 0; i < Count; ++i)
-            text += std::to_string(10000000 + i) + "\r\n";
-        const Numbers values = ReadAll(text);
-        ASSERT_EQ(values.size(), Count + 1);
-        EXPECT_EQ(values[0], std::stoi(std::string(digits, '1')));
-        for (std::size_t i = 0; i < Count; ++i)
-            ASSERT_EQ(values[i + 1], static_cast<Colour>(10000000 + i));
-    }
-}
-
-// The same for lines that are no plain whole numbers, too long to be looked at in one piece: blanks
-// before the first one push the border through all of a line and of the empty one after it.
-TEST_F(ValueText, OfALongLineMayBeCutAnywhereByTheReading)
-{
-    const std::string lines = "7.4" + std::string(20, '0') + "\r\n\r\n";
-    const std::size_t count = 270000 / lines.size();
-    for (std::size_t blanks = 0; blanks <= lines.size(); ++blanks) {
-        std::string text(blanks, ' ');
-        for (std::size_t i = 0; i < count; ++i)
-            text += lines;
-        const Numbers values = ReadAll(text);
-        ASSERT_EQ(values.size(), 2 * count) << blanks;
-        for (std::size_t i = 0; i < count; ++i) {
-            ASSERT_EQ(values[2 * i], 7);
-            ASSERT_EQ(values[2 * i + 1], 0);
-        }
-    }
-}
-
-/// More plain lines than fit in all pieces that are read ahead.
-std::string ManyLines(std::size_t count = 100000)
-{
-    std::string text;
-    for (std::size_t i = 0; i < count; ++i)
-        text += std::to_string(i * 151) + "\r\n";
-    return text;
-}
-
-Numbers ManyValues(std::size_t count = 100000)
-{
-    Numbers values;
-    for (std::size_t i = 0; i < count; ++i)
-        values.push_back(static_cast<Colour>(i * 151));
-    return values;
-}
-
-// What is no plain line may come when pieces far behind it are read already, or in the last one.
-TEST_F(ValueText, IsReadByGeneralRulesFromAnyPlaceOn)
-{
-    for (const std::size_t before : {1, 5000, 30000, 99999}) {
-        const std::string text = ManyLines(before) + "7,8\n\r\n" + ManyLines() + "-5";
-        Numbers expected = ManyValues(before);
-        expected.insert(expected.end(), {7, 8, 0});
-        std::ranges::copy(ManyValues(), std::back_inserter(expected));
-        expected.push_back(-5);
-        EXPECT_EQ(ReadAll(text), expected);
-    }
-}
-
-// A quoted text with a line end in it is one item, also where a piece ends with that line end.
-TEST_F(ValueText, InQuotesIsNotCutByTheReading)
-{
-    for (std::size_t digits = 1; digits <= 10; ++digits) {
-        std::string text = std::string(digits, '1') + "\r\n";
-        while (text.size() < 65520)
-            text += "10000000\r\n";
-        const std::size_t count = Read(text + "\"12\r\n13\"\r\n" + ManyLines()).size();
-        EXPECT_EQ(count, text.size() / 10 + (text.size() % 10 > 2 ? 1 : 0)) << digits;
-        EXPECT_EQ(fault, FaultKind::TypeMismatch);
-    }
-}
-
-TEST_F(ValueText, FailsAtTheSamePlaceInALongText)
-{
-    for (const char* const text : {"abc", "99999999999", "12x", "- 1"}) {
-        EXPECT_EQ(Read(ManyLines() + text + "\r\n" + ManyLines()), ManyValues()) << text;
-        EXPECT_TRUE(fault == FaultKind::TypeMismatch || fault == FaultKind::Overflow) << text;
-    }
-}
-
-TEST_F(ValueText, OfALongTextEndsAtAnyLineEnd)
-{
-    for (const char* const end : {"\n", "\r", ","}) {
-        std::string text;
-        for (int i = 0; i < 100000; ++i)
-            text += std::to_string(i) + end;
-        const Numbers values = ReadAll(text);
-        ASSERT_EQ(values.size(), 100000U);
-        EXPECT_EQ(values[65432], 65432);
-    }
-}
-
-TEST_F(ValueText, CutShortInALongTextGivesWhatIsThere)
-{
-    Numbers expected = ManyValues();
-    expected.push_back(0);
-    for (const char* const last : {"1", "-1", "123456", "12345678", "12345678\r"}) {
-        expected.back() = std::stoi(last);
-        EXPECT_EQ(ReadAll(ManyLines() + last), expected) << last;
-    }
 }
 
 TEST_F(ValueText, IsTheSameByLinesAndOneByOne)
