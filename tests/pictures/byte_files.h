@@ -8,6 +8,8 @@
 #include <iterator>
 #include <string>
 
+#include <sys/stat.h>
+
 namespace pixano::test {
 
 inline void WriteFile(const std::string& path, const Bytes& content)
@@ -22,6 +24,13 @@ inline Bytes ReadFile(const std::string& path)
     std::ifstream file(path, std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     return Bytes().Add(std::string_view(text));
+}
+
+inline unsigned PermissionsOf(const std::string& path)
+{
+    struct stat status = {};
+    stat(path.c_str(), &status);
+    return status.st_mode & 07777;
 }
 
 }  // namespace pixano::test

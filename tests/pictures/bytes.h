@@ -4,6 +4,8 @@
 #include "canvas/surface.h"
 #include "pictures/picture_files.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <initializer_list>
 #include <string>

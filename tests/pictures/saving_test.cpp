@@ -1,12 +1,8 @@
-// Saving: the exact bytes, the old file kept when anything fails, links kept.
-#include "pictures/byte_files.h"
-#include "support/hindrances.h"
+// Saving: the exact bytes, the permissions, and links that are kept.
+#include "pictures/small_picture.h"
 
 #include <gmock/gmock.h>
 
-#include <csignal>
-
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,15 +13,6 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::UnorderedElementsAre;
-
-/// Two rows of three pixels.
-Surface Small()
-{
-    Surface surface(3, 2);
-    for (int i = 0; i < 6; ++i)
-        surface.PSet(i % 3, i / 3, Rgb(10 * i + 1, 10 * i + 2, 10 * i + 3));
-    return surface;
-}
 
 /// Its file, worked out by hand: nine bytes a row and three of padding, the lower row first.
 const Bytes SmallFile = Bytes()
@@ -46,32 +33,6 @@ const Bytes SmallFile = Bytes()
                             .U32(0)
                             .Add({33, 32, 31, 43, 42, 41, 53, 52, 51, 0, 0, 0})
                             .Add({3, 2, 1, 13, 12, 11, 23, 22, 21, 0, 0, 0});
-
-template <class Save>
-std::string RefusalOf(Save save, const Surface& surface, const std::string& path)
-{
-    try {
-        save(surface, path);
-    } catch (const PictureError& error) {
-        EXPECT_THAT(error.what(), HasSubstr("Impossibile salvare «" + path + "»: "));
-        return error.what();
-    }
-    return {};
-}
-
-unsigned PermissionsOf(const std::string& path)
-{
-    struct stat status = {};
-    stat(path.c_str(), &status);
-    return status.st_mode & 07777;
-}
-
-class Saving : public testing::Test {
-  protected:
-    TemporaryFolder folder;
-    std::string path = folder / "figura.bmp";
-    const Bytes old = Bytes().Add("vecchio");
-};
 
 TEST_F(Saving, TheBytesOfABitmap)
 {
@@ -186,83 +147,6 @@ TEST_F(Saving, ARescuedPictureIsTheUsersOwnAndFollowsNoLink)
     EXPECT_FALSE(fs::is_symlink(folder / "a.bmp"));
     EXPECT_EQ(ReadFile(folder / "a.bmp"), SmallFile);
     EXPECT_EQ(fs::status(folder / "a.bmp").permissions(), fs::perms(0600));
-}
-
-TEST_F(Saving, OntoWhatIsNoFile)
-{
-    fs::create_directory(path);
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), path), HasSubstr("è una cartella"));
-    EXPECT_THAT(RefusalOf(WriteWorkingBitmap, Small(), path), HasSubstr("è una cartella"));
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder.Path() + "/"), HasSubstr("manca il nome"));
-    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / "pipe"), HasSubstr("è una pipe"));
-    ASSERT_EQ(symlink("/dev/full", (folder / "pieno").c_str()), 0);
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / "pieno"), HasSubstr("è un dispositivo"));
-    EXPECT_THAT(folder.Names(), UnorderedElementsAre("figura.bmp", "pipe", "pieno"));
-}
-
-TEST_F(Saving, IntoAFolderThatIsNotThere)
-{
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / "manca/figura.bmp"),
-                HasSubstr("la cartella non esiste"));
-    WriteFile(folder / "file", old);
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / "file/figura.bmp"),
-                HasSubstr("non è una cartella"));
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), "/proc/figura.bmp"),
-                HasSubstr("«/proc/figura.bmp»"));
-}
-
-TEST_F(Saving, AFailureOnTheWayKeepsTheOldFile)
-{
-    WriteFile(path, old);
-    const Surface large(400, 400);
-    {
-        const FileSizeLimit limit(100000);
-        EXPECT_THAT(RefusalOf(SaveBitmap, large, path),
-                    HasSubstr("supera la dimensione consentita"));
-        EXPECT_THAT(RefusalOf(WriteWorkingBitmap, large, path),
-                    HasSubstr("supera la dimensione consentita"));
-        EXPECT_THAT(RefusalOf(SavePicture, Surface(3000, 3000), folder / "nuova.jpg"),
-                    HasSubstr("supera la dimensione consentita"));
-    }
-    EXPECT_EQ(ReadFile(path), old);
-    EXPECT_THAT(folder.Names(), ElementsAre("figura.bmp"));
-    SaveBitmap(large, path);
-    EXPECT_EQ(ReadPicture(path).picture, large);
-}
-
-TEST_F(Saving, TheLimitsSignalIsNotLeftWaiting)
-{
-    const FileSizeLimit limit(1000);
-    EXPECT_NE(RefusalOf(SaveBitmap, Surface(100, 100), path), "");
-    sigset_t waiting;
-    sigpending(&waiting);
-    EXPECT_EQ(sigismember(&waiting, SIGXFSZ), 0);
-    sigset_t blocked;
-    pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
-    EXPECT_EQ(sigismember(&blocked, SIGXFSZ), 0);
-}
-
-TEST_F(Saving, WhatIsProtectedIsKept)
-{
-    WriteFile(path, old);
-    const OrdinaryUser user{folder.Path(), path};
-    chmod(path.c_str(), 0444);
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), path), HasSubstr("protetto da scrittura"));
-    chmod(folder.Path().c_str(), 0555);
-    EXPECT_THAT(RefusalOf(SaveBitmap, Small(), folder / "nuova.bmp"),
-                HasSubstr("manca il permesso di scrivere nella cartella"));
-    chmod(folder.Path().c_str(), 0755);
-    EXPECT_EQ(ReadFile(path), old);
-    EXPECT_THAT(folder.Names(), ElementsAre("figura.bmp"));
-    chmod(path.c_str(), 0000);
-    EXPECT_THROW(ReadPicture(path), PictureError);
-}
-
-TEST_F(Saving, NoPicture)
-{
-    EXPECT_THAT(RefusalOf(SaveBitmap, Surface(), path), HasSubstr("nessuna immagine"));
-    EXPECT_TRUE(folder.Names().empty());
 }
 
 }  // namespace
