@@ -1,4 +1,4 @@
-// Openings that come to nothing, and the question about unsaved changes that comes before.
+// Openings that come to nothing: what is told, and everything as it was before.
 #include "document/seen.h"
 #include "support/hindrances.h"
 #include "support/program.h"
@@ -7,16 +7,6 @@
 
 namespace pixano::test {
 namespace {
-
-/// A picture is open that was changed once: "cba" instead of "abc".
-class ChangedPicture : public Program {
-  protected:
-    ChangedPicture()
-    {
-        Open("a.bmp", Drawn({"abc"}));
-        Apply("Specchio");
-    }
-};
 
 /// The box that says why the picture at `path` cannot be read.
 ShownBox Unreadable(const QString& path, const QString& why)
@@ -106,119 +96,6 @@ TEST_F(Program, MakesTheStartUpFolderCurrentAgainAfterAnUnreadableFile)
     };
     Open(name);
     EXPECT_EQ(QDir::currentPath(), session.doc.CartellaAvvio);
-}
-
-// ---- with unsaved changes ----
-
-TEST_F(ChangedPicture, AsksWhatIsToBecomeOfTheChanges)
-{
-    dialogs.answers = {false};
-    Open("b.bmp", Drawn({"xy"}));
-    EXPECT_EQ(dialogs.asked,
-              (std::vector<ShownBox>{
-                  {BoxIcon::Question, "Messaggio!", "Salvare i cambiamenti del file elaborato?"}}));
-    EXPECT_EQ(CanvasLetters(), (Letters{"xy"}));
-    EXPECT_EQ(session.doc.Modificato, 0);
-}
-
-TEST_F(ChangedPicture, NamesTheFileThatTheChangesWereSavedUnder)
-{
-    SaveAs(Path("s.bmp"));
-    Apply("Specchio");
-    dialogs.answers = {false};
-    dialogs.openNames.push_back(std::nullopt);
-    ClickEntry(entry::Apri);
-    EXPECT_EQ(dialogs.asked,
-              (std::vector<ShownBox>{{BoxIcon::Question, "Messaggio!",
-                                      "Salvare i cambiamenti del file " + Path("s.bmp") + "?"}}));
-}
-
-TEST_F(ChangedPicture, StaysMarkedWhenNoIsFollowedByACancelledDialog)
-{
-    const Seen before(session);
-    dialogs.answers = {false};
-    dialogs.openNames.push_back(std::nullopt);
-    ClickEntry(entry::Apri);
-    EXPECT_TRUE(Seen(session) == before);
-}
-
-TEST_F(ChangedPicture, StaysMarkedWhenNoIsFollowedByAMissingFile)
-{
-    const Seen before(session);
-    dialogs.answers = {false};
-    Open(Path("no.bmp"));
-    EXPECT_TRUE(Seen(session) == before);
-}
-
-TEST_F(ChangedPicture, StaysMarkedWhenNoIsFollowedByAnUnreadableFile)
-{
-    const Seen before(session);
-    Write("b.bmp", "solo testo");
-    dialogs.answers = {false};
-    Open(Path("b.bmp"));
-    EXPECT_EQ(dialogs.told.size(), 1U);
-    EXPECT_TRUE(Seen(session) == before);
-}
-
-TEST_F(ChangedPicture, IsSavedWithYesBeforeTheNextIsOpened)
-{
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(Path("s.bmp"));
-    Open("b.bmp", Drawn({"xy"}));
-    EXPECT_EQ(Kept(Path("s.bmp")), (Letters{"cba"}));
-    EXPECT_EQ(CanvasLetters(), (Letters{"xy"}));
-    EXPECT_EQ(session.doc.Modificato, 0);
-}
-
-TEST_F(ChangedPicture, IsNoLongerMarkedWhenItWasSavedAndTheOpeningCancelled)
-{
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(Path("s.bmp"));
-    dialogs.openNames.push_back(std::nullopt);
-    ClickEntry(entry::Apri);
-    EXPECT_EQ(session.doc.Modificato, 0);
-    EXPECT_EQ(session.doc.NomeSalvato, Path("s.bmp"));
-    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
-}
-
-TEST_F(ChangedPicture, GivesWayToTheNextWhenTheSaveWasCancelled)
-{
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(std::nullopt);
-    Open("b.bmp", Drawn({"xy"}));
-    EXPECT_EQ(CanvasLetters(), (Letters{"xy"}));
-    EXPECT_EQ(session.doc.Modificato, 0);
-}
-
-TEST_F(ChangedPicture, StaysMarkedWhenSaveAndOpeningWereCancelled)
-{
-    const Seen before(session);
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(std::nullopt);
-    dialogs.openNames.push_back(std::nullopt);
-    ClickEntry(entry::Apri);
-    EXPECT_TRUE(Seen(session) == before);
-}
-
-TEST_F(ChangedPicture, CallsTheOpeningOffWhenTheSaveFailed)
-{
-    const Seen before(session);
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(Path("manca/s.bmp"));
-    dialogs.openFolders.clear();
-    ClickEntry(entry::Apri);
-    EXPECT_TRUE(dialogs.openFolders.empty());
-    EXPECT_EQ(dialogs.told.size(), 1U);
-    EXPECT_TRUE(Seen(session) == before);
-}
-
-TEST_F(ChangedPicture, IsNotReadAgainWhenTheSameIsChosenAfterSaving)
-{
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(Path("s.bmp"));
-    Open(Path("a.bmp"));
-    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
-    EXPECT_EQ(session.doc.Modificato, 0);
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "document/session.h"
+#include "support/entries.h"
+
+#include <QPushButton>
 
 #include <vector>
 

@@ -1,0 +1,108 @@
+// Run-time errors that end the program: what is told, and what is kept of unsaved work.
+#include "document/recovery_note.h"
+#include "shell/failing_halfway.h"
+
+namespace pixano::test {
+namespace {
+
+/// A picture is open that is too wide for a matrix.
+class FatalFaults : public Faults {
+  protected:
+    FatalFaults() { Open("larga.bmp", Varied(1502, 6)); }
+};
+
+TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
+{
+    Apply("Multi Step Orizzontale");
+    EXPECT_EQ(
+        dialogs.told,
+        (std::vector<ShownBox>{
+            {BoxIcon::Critical, "Attenzione!",
+             "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla "
+             "matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo allungata per "
+             "questo effetto.\n\nIl programma termina."}}));
+    EXPECT_EQ(session.ending, 1);
+    EXPECT_FALSE(session.form1.isVisible());
+    EXPECT_FALSE(session.form2.isVisible());
+    EXPECT_EQ(Conserved(), QStringList());
+}
+
+TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
+{
+    Apply("Specchio");
+    const Surface mirrored = Canvas();
+    Apply("Multi Step Orizzontale");
+    ASSERT_EQ(Conserved().size(), 1);
+    const QString path = Data(Conserved()[0]);
+    EXPECT_EQ(dialogs.told.back().text,
+              "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla matrice "
+              "(ammessi da 0 a 1500): l'immagine è troppo grande o troppo allungata per questo "
+              "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
+                  path + "».\n\nIl programma termina.");
+    EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
+    EXPECT_EQ(session.ending, 1);
+}
+
+TEST_F(FatalFaults, LeaveNoFileThatNothingNeeds)
+{
+    Apply("Multi Step Orizzontale");
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp"),
+                                Path("elab.ser"), Data("recupero.txt")})
+        EXPECT_FALSE(Exists(file)) << file.toStdString();
+}
+
+TEST_F(FatalFaults, LeaveWhatTheNextStartOffersAndNothingElse)
+{
+    Apply("Specchio");
+    Apply("Capovolgi");
+    ClickEntry(entry::Undo);
+    ASSERT_TRUE(Exists(Data("temp2.bml")));
+    Apply("Multi Step Orizzontale");
+    ASSERT_EQ(session.ending, 1);
+    const std::optional<RecoveryNote> note = ReadRecoveryNote();
+    ASSERT_TRUE(note.has_value());
+    EXPECT_TRUE(Exists(note->copy));
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp")})
+        EXPECT_EQ(Exists(file), file == note->copy) << file.toStdString();
+}
+
+TEST_F(Faults, KeepThePictureBeforeTheEffectThatFailedHalfway)
+{
+    Apply("Specchio");
+    FailHalfway(Fatal::All);
+    EXPECT_EQ(CanvasLetters(), (Letters{"xba", "fed"}));
+    ASSERT_EQ(Conserved().size(), 1);
+    EXPECT_EQ(Kept(Data(Conserved()[0])), (Letters{"cba", "fed"}));
+    EXPECT_EQ(session.ending, 1);
+}
+
+TEST_F(Faults, KeepTheCanvasWhenTheProgramEndsBeforeAnEffectDraws)
+{
+    Apply("Specchio");
+    FailHalfway();
+    // The next effect gets no snapshot, so there is only the canvas as the last one left it.
+    QFile::remove(Data("temp.bml"));
+    QDir().mkpath(Data("temp.bml"));
+    Effect spy = Spy();
+    spy.fatal = Fatal::All;
+    RunInFrame(spy);
+    ASSERT_EQ(Conserved().size(), 1);
+    EXPECT_EQ(Kept(Data(Conserved()[0])), (Letters{"xba", "fed"}));
+}
+
+TEST_F(Faults, SayThatUnsavedWorkCouldNotBeKept)
+{
+    Apply("Specchio");
+    QDir(Data("")).removeRecursively();
+    Write(Data("").chopped(1), "un file");
+    Effect spy = Spy();
+    spy.fatal = Fatal::All;
+    RunInFrame(spy);
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    EXPECT_THAT(dialogs.told[0].text.toStdString(),
+                testing::HasSubstr("Il lavoro non salvato non è stato conservato. "));
+    EXPECT_EQ(session.ending, 1);
+}
+
+}  // namespace
+}  // namespace pixano::test
