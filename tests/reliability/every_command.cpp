@@ -8,9 +8,6 @@
 namespace pixano::test {
 namespace {
 
-/// One at which every effect changes the picture.
-constexpr int Strength = 9000;
-
 /// `button`: the one that is pressed, "OK" or "Annulla".
 void AnswerSlider(const char* button = "Command1")
 {
@@ -18,7 +15,7 @@ void AnswerSlider(const char* button = "Command1")
         auto* const window = QApplication::activeModalWidget();
         // One that could not read its strength is gone by now.
         if (window == nullptr) return;
-        window->findChild<QSlider*>("Slider1")->setValue(Strength);
+        window->findChild<QSlider*>("Slider1")->setValue(StrengthForAll);
         window->findChild<QPushButton*>(button)->click();
     });
 }
@@ -36,11 +33,6 @@ void LeaveHalfDrawn(Desk& desk)
 {
     desk.RunInFrame({.name = "Rotto", .run = Break, .family = Family::Geometry});
     desk.dialogs.told.clear();
-}
-
-QString AtHome(const QString& name)
-{
-    return Folders::Path(name);
 }
 
 /// Runs the program until it waits for the user.
@@ -92,7 +84,7 @@ std::vector<GivenCommand> HistoryCommands()
 {
     const auto undone = [](Desk& d) { d.ClickEntry(entry::Undo); };
     const auto original = [](Desk& d) { d.ClickEntry(entry::Orig); };
-    const auto saved = [](Desk& d) { d.SaveAs(AtHome("salvata.bmp")); };
+    const auto saved = [](Desk& d) { d.SaveAs(Folders::Path("salvata.bmp")); };
     const QString effect = "Capovolgi   64x48";
     const QString picture = "a.bmp   64x48";
     return {
@@ -120,13 +112,13 @@ std::vector<GivenCommand> FileCommands()
             if (save) {
                 // Where nobody can look whether the file is there, it is not replaced unasked.
                 d.dialogs.answers.push_back(true);
-                d.dialogs.saveNames.push_back(AtHome("salvata.bmp"));
+                d.dialogs.saveNames.push_back(Folders::Path("salvata.bmp"));
             }
             then(d);
         };
     };
-    const auto opens = [](Desk& d) { d.Open(AtHome("b.bmp")); };
-    const auto drops = [](Desk& d) { emit d.session.drops.Dropped(AtHome("b.bmp")); };
+    const auto opens = [](Desk& d) { d.Open(Folders::Path("b.bmp")); };
+    const auto drops = [](Desk& d) { emit d.session.drops.Dropped(Folders::Path("b.bmp")); };
     const auto pastes = [](Desk& d) { emit d.session.form1.Pasted(); };
     const auto copies = [](Desk&) {
         QImage image(5, 3, QImage::Format_RGB32);
@@ -145,7 +137,7 @@ std::vector<GivenCommand> FileCommands()
          .give =
              [](Desk& d) {
                  d.dialogs.answers.push_back(true);
-                 d.SaveAs(AtHome("salvata.bmp"));
+                 d.SaveAs(Folders::Path("salvata.bmp"));
              }},
         {.name = "close the canvas, yes",
          .give = answering(true, [](Desk& d) { d.session.form2.close(); })},
@@ -198,34 +190,6 @@ std::vector<GivenCommand> EveryCommand()
     for (const auto& some : {EffectCommands(), HistoryCommands(), FileCommands(), StartCommands()})
         all.insert(all.end(), some.begin(), some.end());
     return all;
-}
-
-void MakeFiles(Desk& desk)
-{
-    WriteWorkingBitmap(Varied(EnoughForAll.width, EnoughForAll.height),
-                       AtHome("a.bmp").toStdString());
-    WriteWorkingBitmap(Varied(7, 5), AtHome("b.bmp").toStdString());
-    WriteBytes(AtHome("valori.tip").toStdString(), "1\r\n2\r\n3\r\n4\r\n5\r\n");
-    desk.session.programFolder = QDir::currentPath();
-}
-
-Surface Made(const Effect& effect, const Surface& picture)
-{
-    EffectRun run(picture);
-    run.work.Valori.fill(Strength);
-    run.Apply(effect);
-    return run.work.Picture1;
-}
-
-void Reach(Scene scene, Desk& desk)
-{
-    MakeFiles(desk);
-    ConnectEvents(desk.session);
-    desk.Start();
-    desk.Open(AtHome("a.bmp"));
-    if (scene == Scene::Opened) return;
-    desk.Apply("Specchio");
-    desk.Apply("Capovolgi");
 }
 
 }  // namespace pixano::test

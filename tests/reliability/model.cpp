@@ -1,39 +1,20 @@
 #include "reliability/model.h"
 
-#include "support/journal_store.h"
+#include "support/entries.h"
 
 #include <QString>
 
 #include <algorithm>
 
 namespace pixano::test {
-namespace {
-
-/// Whether the effect keeps its values in the pixel file: tried on a picture that suits them all.
-bool MakesPixelFile(const Effect& effect)
-{
-    static std::map<const Effect*, bool> known;
-    if (const auto found = known.find(&effect); found != known.end()) return found->second;
-    JournalRun run(Varied(64, 48));
-    run.work.Valori.fill(2500);
-    RunOnCanvas(run.work, effect);
-    return known[&effect] = !run.diary.empty() && run.diary.front() == "create";
-}
-
-constexpr int Salva = 3;
-constexpr int Undo_ = 58;
-constexpr int Orig = 59;
-constexpr int Redo_ = 60;
-
-}  // namespace
 
 // The timer starts from 1, as the program's does.
 Model::Model() : mirror_(Surface(), 1)
 {
     for (int entry = 1; entry <= EntryCount(); ++entry)
         on_.insert(entry);
-    Switch(Undo_, false);
-    Switch(Redo_, false);
+    Switch(entry::Undo, false);
+    Switch(entry::Redo, false);
     Disable();
 }
 
@@ -47,7 +28,7 @@ void Model::Switch(int entry, bool on)
 
 void Model::Disable()
 {
-    Switch(Salva, false);
+    Switch(entry::Salva, false);
     Switch(24, false);
     for (int entry = 5; entry <= EntryCount(); ++entry)
         // "Sinbot", "Men", "Super", "Infer", "Dopfoto", "Menon" and "Effetti" are left alone, and
@@ -58,7 +39,7 @@ void Model::Disable()
 
 void Model::DisableHistory()
 {
-    for (const int entry : {Undo_, Orig, Redo_})
+    for (const int entry : {entry::Undo, entry::Orig, entry::Redo})
         Switch(entry, false);
     paletteUndo = paletteOriginal = paletteRedo = false;
 }
@@ -72,7 +53,7 @@ std::string Model::Sized(const std::string& name) const
 void Model::Rename(const std::string& name)
 {
     shortName_ = name.substr(name.rfind('/') + 1);
-    Switch(Salva, false);
+    Switch(entry::Salva, false);
 }
 
 void Model::Load(const Surface& picture)
@@ -86,7 +67,7 @@ void Model::Load(const Surface& picture)
     for (int entry = 4; entry <= EntryCount(); ++entry)
         Switch(entry, true);
     DisableHistory();
-    Switch(Salva, false);
+    Switch(entry::Salva, false);
 }
 
 void Model::Open(const std::string& name)
@@ -108,15 +89,10 @@ void Model::BringBack(const std::string& name, const Surface& picture)
     modified = true;
     Rename(name);
     Load(picture);
-    Switch(Salva, true);
-    Switch(Orig, true);
+    Switch(entry::Salva, true);
+    Switch(entry::Orig, true);
     paletteOriginal = true;
     ShowPreview();
-}
-
-void Model::MoveCheck(const Effect& effect)
-{
-    if (const int entry = EntryOf(effect); entry != 0) checked = entry;
 }
 
 void Model::ShowPreview()
@@ -127,115 +103,6 @@ void Model::ShowPreview()
     previewCaption = shortName_ + "  (" + std::to_string(mirror_.work.Larg) + " x " +
                      std::to_string(mirror_.work.Alt) + ") - " +
                      QString::number(zoom * 100, 'g', 15).toStdString() + "%";
-}
-
-void Model::PaletteReady()
-{
-    if (count_ > 1) paletteUndo = true;
-    paletteOriginal = true;
-}
-
-std::optional<FaultKind> Model::RunEffect(const Effect& effect)
-{
-    countSaved_ = ++count_;
-    Switch(Salva, true);
-    if (count_ > 1) Switch(Undo_, true);
-    Switch(Orig, true);
-    Switch(Redo_, false);
-    paletteRedo = false;
-    inOriginal_ = undone_ = false;
-    MoveCheck(effect);
-    effect_ = effect.name;
-    undo_ = Canvas();
-    mirror_.work.Valori = strengths;
-    faulted = true;
-    try {
-        mirror_.Apply(effect);
-    } catch (const Fault& fault) {
-        progressShown = progressShown || mirror_.progress.shownAfter >= 0;
-        fileLeft = fileLeft || MakesPixelFile(effect);
-        paletteUndo = Enabled(Undo_);
-        paletteOriginal = Enabled(Orig);
-        paletteRedo = Enabled(Redo_);
-        return fault.Kind();
-    }
-    if (MakesPixelFile(effect)) fileLeft = false;
-    faulted = false;
-    modified = true;
-    progressShown = false;
-    ShowPreview();
-    PaletteReady();
-    if (effect.captioned) canvasCaption = Sized(effect_);
-    return std::nullopt;
-}
-
-void Model::CloseProgress()
-{
-    progressShown = false;
-    // The window can outlive the picture: there is nothing to show then.
-    if (isOpen) ShowPreview();
-    PaletteReady();
-}
-
-void Model::Undo()
-{
-    count_ = countSaved_;
-    modified = true;
-    Switch(Salva, true);
-    Switch(Undo_, false);
-    Switch(Orig, true);
-    Switch(Redo_, true);
-    paletteUndo = false;
-    paletteOriginal = paletteRedo = true;
-    if (!inOriginal_) redo_ = Canvas();
-    inOriginal_ = false;
-    undone_ = true;
-    mirror_.work.Picture1 = preview = *undo_;
-    canvasCaption = Sized(effect_);
-    saved.clear();
-}
-
-bool Model::Redo()
-{
-    count_ = countSaved_;
-    modified = true;
-    Switch(Salva, true);
-    if (count_ > 1) Switch(Undo_, true);
-    Switch(Orig, true);
-    Switch(Redo_, false);
-    if (count_ > 1) paletteUndo = true;
-    paletteOriginal = true;
-    paletteRedo = false;
-    if (!redo_) return false;
-    mirror_.work.Picture1 = preview = *redo_;
-    canvasCaption = Sized(effect_);
-    inOriginal_ = undone_ = false;
-    return true;
-}
-
-bool Model::Original()
-{
-    saved.clear();
-    Switch(Salva, false);
-    if (count_ > 1) Switch(Undo_, true);
-    Switch(Orig, false);
-    Switch(Redo_, true);
-    if (count_ > 1) paletteUndo = true;
-    paletteOriginal = false;
-    paletteRedo = true;
-    if (!undone_) redo_ = Canvas();
-    inOriginal_ = true;
-    undone_ = false;
-    countSaved_ = count_;
-    count_ = 0;
-    const std::optional<Surface>& picture = files.at(opened);
-    Rename(opened);
-    canvasCaption = Sized(shortName_);
-    if (!picture) return false;
-    mirror_.work.Picture1 = preview = *picture;
-    if (!modified) Load(*picture);
-    modified = false;
-    return true;
 }
 
 void Model::Save(const std::string& name)

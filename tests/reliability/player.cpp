@@ -1,39 +1,20 @@
 #include "reliability/player.h"
 
-#include "pictures/picture_files.h"
 #include "shell/controls.h"
+#include "support/entries.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
 #include <QSlider>
 #include <QTimer>
 
-#include <algorithm>
+#include <gtest/gtest.h>
+
 #include <array>
 
 namespace pixano::test {
-namespace {
-
-Surface RandomPicture(int width, int height, std::mt19937_64& random)
-{
-    Surface picture(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            picture.PSet(x, y, static_cast<Colour>(random() & White));
-    return picture;
-}
-
-void WriteGarbage(const std::string& name)
-{
-    QFile file(QString::fromStdString(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("BM, and then nothing that makes a picture");
-}
-
-}  // namespace
 
 Player::Player(Session& session, ScriptedDialogs& dialogs, std::uint64_t seed)
     : session_(session), dialogs_(dialogs), random_(seed)
@@ -52,29 +33,6 @@ std::string Player::Path(const std::string& name) const
     return QDir::current().filePath(QString::fromStdString(name)).toStdString();
 }
 
-void Player::MakePictures()
-{
-    int number = 0;
-    for (const int height : {Number(1, 4), Number(5, 16), Number(5, 24)}) {
-        const int width = Number(std::max(1, height - 3), height + 5);
-        WriteWorkingBitmap(RandomPicture(width, height, random_),
-                           Path("figura " + std::to_string(++number) + ".bmp"));
-    }
-    WriteGarbage(Path("guasta.bmp"));
-}
-
-void Player::ReadPictures()
-{
-    for (const QString& file : QDir().entryList({"*.bmp"}, QDir::Files)) {
-        const std::string name = Path(file.toStdString());
-        try {
-            model.files[name] = ReadPicture(name).picture;
-        } catch (const PictureError&) {
-            model.files[name] = std::nullopt;
-        }
-    }
-}
-
 Player::Command Player::Next()
 {
     if (model.progressShown && Chance(30)) {
@@ -90,80 +48,6 @@ Player::Command Player::Next()
     if (dice < 93 && model.paletteShown) return Zoom();
     if (dice < 97) return CloseWindow();
     return SpoilOrMend();
-}
-
-Player::Saving Player::PlanSaving(std::string& text)
-{
-    for (;;) {
-        if (Chance(20)) {
-            dialogs_.saveNames.push_back(std::nullopt);
-            text += ", save cancelled";
-            return Saving::Cancelled;
-        }
-        if (Chance(10)) {
-            dialogs_.saveNames.push_back(QString::fromStdString(Path("manca/x.bmp")));
-            text += ", save fails";
-            ++told;
-            model.modified = true;
-            return Saving::Failed;
-        }
-        const std::string name =
-            Chance(20) ? model.opened : Path("salvata " + std::to_string(Number(1, 3)) + ".bmp");
-        dialogs_.saveNames.push_back(QString::fromStdString(name));
-        text += ", save " + name;
-        if (model.files.contains(name)) {
-            const bool replace = Chance(70);
-            dialogs_.answers.push_back(replace);
-            if (!replace) continue;
-        }
-        model.Save(name);
-        return Saving::Saved;
-    }
-}
-
-std::string Player::ChosenName()
-{
-    if (Chance(10)) return Path("non c'è.bmp");
-    auto chosen = model.files.begin();
-    std::advance(chosen, Number(0, static_cast<int>(model.files.size()) - 1));
-    return chosen->first;
-}
-
-Player::Command Player::OpenSomething()
-{
-    std::string text = "open";
-    bool modified = model.modified;
-    if (modified) {
-        const bool save = Chance(50);
-        dialogs_.answers.push_back(save);
-        text += save ? " (yes" : " (no";
-        const Saving saving = save ? PlanSaving(text) : Saving::Cancelled;
-        text += ")";
-        if (saving == Saving::Failed) return Clicked(entry::Apri, text);
-        if (saving == Saving::Saved) modified = false;
-    }
-    if (Chance(10)) {
-        dialogs_.openNames.push_back(std::nullopt);
-        model.modified = modified;
-        return Clicked(entry::Apri, text + " cancelled");
-    }
-    const std::string name = ChosenName();
-    dialogs_.openNames.push_back(QString::fromStdString(name));
-    ModelOpened(name, modified);
-    return Clicked(entry::Apri, text + " " + name);
-}
-
-void Player::ModelOpened(const std::string& name, bool wasModified)
-{
-    const bool there = model.files.contains(name);
-    const bool same = model.isOpen && name == model.opened;
-    if (there && !same && model.files[name]) {
-        model.Open(name);
-        return;
-    }
-    // Missing, broken, or on the canvas already: everything stays as it is.
-    model.modified = wasModified;
-    if (!there || !same) ++told;
 }
 
 bool Player::Reachable(int entry) const
@@ -255,33 +139,27 @@ Player::Command Player::PaletteEffect()
 
 Player::Command Player::History()
 {
-    const int entry = std::array{entry::Undo, entry::Orig, entry::Redo}.at(
-        static_cast<std::size_t>(Number(0, 2)));
+    struct Step {
+        int entry;
+        const char* text;
+        const char* button;
+        bool Model::*usable;
+    };
+    constexpr std::array Ways{
+        Step{entry::Undo, "undo", "SSCommand15", &Model::paletteUndo},
+        Step{entry::Orig, "original", "SSCommand16", &Model::paletteOriginal},
+        Step{entry::Redo, "redo", "SSCommand17", &Model::paletteRedo},
+    };
+    const auto& [entry, text, button, usable] = Ways.at(static_cast<std::size_t>(Number(0, 2)));
     const bool byPalette = model.paletteShown && Chance(50);
-    const bool paletteOn = entry == entry::Undo   ? model.paletteUndo
-                           : entry == entry::Orig ? model.paletteOriginal
-                                                  : model.paletteRedo;
-    if (!(byPalette ? paletteOn : model.Enabled(entry))) return MenuEffect();
+    if (!(byPalette ? model.*usable : model.Enabled(entry))) return MenuEffect();
     bool well = true;
     if (entry == entry::Undo) model.Undo();
     if (entry == entry::Orig) well = model.Original();
     if (entry == entry::Redo) well = model.Redo();
     if (!well) ++told;
-    const std::string text = entry == entry::Undo   ? "undo"
-                             : entry == entry::Orig ? "original"
-                                                    : "redo";
     if (!byPalette) return Clicked(entry, text);
-    return Pressed(entry == entry::Undo   ? "SSCommand15"
-                   : entry == entry::Orig ? "SSCommand16"
-                                          : "SSCommand17",
-                   "palette: " + text);
-}
-
-Player::Command Player::SaveSomewhere()
-{
-    std::string text = "save";
-    PlanSaving(text);
-    return Clicked(entry::Salva, text);
+    return Pressed(button, std::string("palette: ") + text);
 }
 
 Player::Command Player::Zoom()
@@ -289,92 +167,6 @@ Player::Command Player::Zoom()
     const bool larger = Chance(50);
     model.Zoom(larger ? 0.3 : -0.3);
     return Pressed(larger ? "Command1" : "Command2", larger ? "zoom in" : "zoom out");
-}
-
-bool Player::ModelClosed(std::string& text)
-{
-    if (!model.modified) return true;
-    const bool save = Chance(50);
-    dialogs_.answers.push_back(save);
-    text += save ? " (yes" : " (no";
-    const bool closes = !save || PlanSaving(text) != Saving::Failed;
-    text += ")";
-    return closes;
-}
-
-Player::Command Player::CloseWindow()
-{
-    const int which = Number(0, 2);
-    if (which == 0 && model.canvasShown) {
-        std::string text = "close the canvas";
-        if (ModelClosed(text)) model.CloseCanvas();
-        return {text, [this] { session_.form2.close(); }};
-    }
-    if (which == 1 && model.previewShown) {
-        std::string text = "close the preview";
-        if (ModelClosed(text)) model.ClosePreview();
-        return {text, [this] { session_.form9.close(); }};
-    }
-    if (!model.paletteShown) return OpenSomething();
-    model.ClosePalette();
-    return {"close the palette", [this] { session_.form10.close(); }};
-}
-
-Player::Command Player::SpoilOrMend()
-{
-    const std::string name = model.opened;
-    // What was saved stays whole, whatever happens: that is looked at after a crash.
-    if (name.find("figura") == std::string::npos) return History();
-    const bool spoil = model.files[name].has_value();
-    model.files[name] = spoil ? std::nullopt
-                              : std::optional(RandomPicture(model.Canvas().Width(),
-                                                            model.Canvas().Height(), random_));
-    return {(spoil ? "spoil " : "mend ") + name, [name, picture = model.files[name]] {
-                if (picture)
-                    WriteWorkingBitmap(*picture, name);
-                else
-                    WriteGarbage(name);
-            }};
-}
-
-std::string Difference(Session& session, const Model& model)
-{
-    QStringList found;
-    const auto compare = [&found](const QString& what, const auto& is, const auto& should) {
-        if (is == should) return;
-        QString text = what;
-        if constexpr (requires { QString::number(static_cast<double>(is)); })
-            text += QString(": %1, not %2").arg(is).arg(should);
-        if constexpr (requires { is.startsWith(QString()); })
-            text += ": \"" + is + "\", not \"" + should + '"';
-        found += text;
-    };
-    const Document& d = session.doc;
-    compare("canvas", session.work.Picture1, model.Canvas());
-    compare("preview", session.form9.Image1().Picture(), model.preview);
-    compare("Modificato", d.Modificato, model.modified ? 1 : 0);
-    compare("open", d.open, model.isOpen);
-    compare("canvas caption", session.form2.windowTitle(),
-            QString::fromStdString(model.canvasCaption));
-    compare("preview caption", session.form9.windowTitle(),
-            QString::fromStdString(model.previewCaption));
-    compare("NomeSalvato", d.NomeSalvato, QString::fromStdString(model.saved));
-    for (int index = 1; index <= EntryCount(); ++index) {
-        const QAction& action = session.form1.Control(index - 1);
-        compare("enabled " + action.objectName(), action.isEnabled(), model.Enabled(index));
-        compare("checked " + action.objectName(), action.isChecked(), model.checked == index);
-    }
-    compare("palette undo", session.form10.findChild<QPushButton*>("SSCommand15")->isEnabled(),
-            model.paletteUndo);
-    compare("palette original", session.form10.findChild<QPushButton*>("SSCommand16")->isEnabled(),
-            model.paletteOriginal);
-    compare("palette redo", session.form10.findChild<QPushButton*>("SSCommand17")->isEnabled(),
-            model.paletteRedo);
-    compare("canvas shown", session.form2.isVisible(), model.canvasShown);
-    compare("preview shown", session.form9.isVisible(), model.previewShown);
-    compare("palette shown", session.form10.isVisible(), model.paletteShown);
-    compare("progress window shown", session.form4.isVisible(), model.progressShown);
-    return found.join("; ").toStdString();
 }
 
 }  // namespace pixano::test

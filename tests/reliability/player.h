@@ -67,7 +67,4 @@ class Player {
     std::mt19937_64 random_;
 };
 
-/// In what the program differs from the model; empty when in nothing.
-std::string Difference(Session& session, const Model& model);
-
 }  // namespace pixano::test

@@ -1,5 +1,6 @@
 // Long random series of commands, given to the real windows as a user gives them. After every
 // command the program has to be as a plain model of it says.
+#include "reliability/difference.h"
 #include "reliability/player.h"
 #include "support/desk.h"
 

@@ -2,9 +2,11 @@
 // After so many commands it ends as a user ends it; with -1 it goes on for ever. What it does it
 // tells on standard output, one line each, so that whoever kills it knows what must not be lost.
 #include "reliability/checksum.h"
+#include "reliability/difference.h"
 #include "reliability/player.h"
 #include "shell/controls.h"
 #include "shell/program.h"
+#include "support/entries.h"
 
 #include <QApplication>
 #include <QTest>
