@@ -45,9 +45,11 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
 
 TEST_F(FatalFaults, LeaveNoFileThatNothingNeeds)
 {
+    // From a time when the working folder could not be written.
+    Write(Data("elabor.tmp"), "a copy of the canvas");
     Apply("Multi Step Orizzontale");
-    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp"),
-                                Path("elab.ser"), Data("recupero.txt")})
+    for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Data("elabor.tmp"),
+                                Path("elabor.tmp"), Path("elab.ser"), Data("recupero.txt")})
         EXPECT_FALSE(Exists(file)) << file.toStdString();
 }
 

@@ -37,6 +37,7 @@ TEST_F(Faults, LeaveTheProgressWindowOpen)
     FailHalfway();
     EXPECT_TRUE(session.form4.isVisible());
     EXPECT_EQ(session.form4.windowTitle(), "Elab. Spia  (50%)");
+    EXPECT_EQ(session.form10.cursor().shape(), Qt::ArrowCursor) << "it waits for the user";
 }
 
 TEST_F(Faults, LetTheNextEffectWorkAndClearUp)
