@@ -120,6 +120,18 @@ TEST(ByteSource, OfAStreamGoesBackAsLongAsItKeepsItsStart)
     EXPECT_EQ(source.Next(), -1);
 }
 
+// However much is read at once.
+TEST(ByteSource, OfAStreamKeepsItsStartFromALongFirstRead)
+{
+    const Bytes bytes = Told(Long);
+    const Pipe pipe(bytes);
+    ByteSource source = ByteSource::Stream(pipe.Number(), Long);
+    constexpr auto Kept = static_cast<int>(ByteSource::KeptOfStream);
+    EXPECT_EQ(Next(source, Kept), Part(bytes, 0, Kept));
+    source.Seek(3);
+    EXPECT_EQ(Next(source, 2), Part(bytes, 3, 2));
+}
+
 TEST(ByteSource, OfAStreamEndsWithoutAnErrorBeforeItsLimit)
 {
     for (const std::size_t length : {std::size_t{0}, std::size_t{100}, Long - 1}) {
