@@ -17,7 +17,7 @@ namespace {
 /// The folder, or the nearest one above it that is still there.
 QString ExistingFolder(const QString& folder)
 {
-    QString path = QDir::cleanPath(QDir().absoluteFilePath(folder));
+    QString path = QDir().absoluteFilePath(folder);
     while (!QFileInfo(path).isDir() && path != QDir::rootPath())
         path = QFileInfo(path).path();
     return path;

@@ -57,13 +57,21 @@ TEST_F(StrengthFile, IgnoresWhatFollowsTheFifthItem)
     EXPECT_EQ(Read("1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n"), (Strengths{0, 1, 2, 3, 4, 5}));
 }
 
-TEST_F(StrengthFile, TooShortIsAFaultThatChangesNothing)
+TEST_F(StrengthFile, TooShortIsAFault)
 {
     EXPECT_EQ(FaultOf("1\r\n2\r\n3\r\n4\r\n"), FaultKind::InputPastEnd);
     EXPECT_EQ(FaultOf(""), FaultKind::InputPastEnd);
-    Strengths valori{0, 9, 9, 9, 9, 9};
-    EXPECT_THROW(LeggiValori(path, valori), Fault);
-    EXPECT_EQ(valori, (Strengths{0, 9, 9, 9, 9, 9}));
+}
+
+TEST_F(StrengthFile, ChangesNothingWhereItIsAFault)
+{
+    for (const char* const content :
+         {"", "1\r\n2\r\n3\r\n4\r\n", "1\r\n2\r\n1e999\r\n4\r\n5\r\n"}) {
+        WriteBytes(path, content);
+        Strengths valori{0, 9, 9, 9, 9, 9};
+        EXPECT_THROW(LeggiValori(path, valori), Fault);
+        EXPECT_EQ(valori, (Strengths{0, 9, 9, 9, 9, 9})) << content;
+    }
 }
 
 TEST_F(StrengthFile, MissingOrNoFileIsAFault)
