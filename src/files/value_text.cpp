@@ -189,12 +189,11 @@ std::optional<std::string_view> TakeItem(std::string_view& text, bool atEnd)
     const bool quoted = rest.front() == '"';
     if (quoted) rest.remove_prefix(1);
     const std::size_t end = rest.find_first_of(quoted ? "\"" : ",\r\n");
-    if (!atEnd && end == std::string_view::npos) return std::nullopt;
     const std::string_view item = rest.substr(0, end);
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + (quoted ? 1 : 0));
     while (!rest.empty() && IsBlank(rest.front()))
         rest.remove_prefix(1);
-    // More blanks, or the other half of the line end, may still come.
+    // More of the item, more blanks, or the other half of the line end may still come.
     constexpr std::size_t LongestSeparator = 2;
     if (!atEnd && rest.size() < LongestSeparator) return std::nullopt;
     DropSeparator(rest);
