@@ -28,6 +28,12 @@ class Places : public Desktop {
     }
 };
 
+TEST_F(Places, TheMainWindowNoWiderThanItsMenusLookGood)
+{
+    // Beside a palette at either side there would be room for 838.
+    EXPECT_EQ(session.form1.width(), 520);
+}
+
 TEST_F(Places, LeaveThePaletteFreeWhereAPictureIsHeld)
 {
     // In one direction and in both, after a small picture each time.
