@@ -74,10 +74,13 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
     OpenAsNew(s, name, std::move(read->picture));
 }
 
+/// Whether the user can still think better of it after the question about the changes.
+enum class Named { Afterwards, Already };
+
 /// The whole command; `askName` gives the chosen name, or nothing when the user thinks better of
 /// it.
 template <typename AskName>
-void Open(Session& s, AskName askName)
+void Open(Session& s, Named named, AskName askName)
 {
     Document& d = s.doc;
     ModifiedUntilOpened modified(d);
@@ -89,6 +92,8 @@ void Open(Session& s, AskName askName)
     if (answer == Answer::Yes) {
         const SaveOutcome outcome = SalvaFile(s);
         if (outcome == SaveOutcome::Failed) return;
+        // No dialog follows in which the opening could be called off.
+        if (outcome == SaveOutcome::Cancelled && named == Named::Already) return;
         if (outcome == SaveOutcome::Saved) modified.Done();
     }
     const QString remembered = ReadRememberedPath(d).value_or(d.NomeFile);
@@ -106,7 +111,7 @@ void Open(Session& s, AskName askName)
 
 void Apri_Click(Session& s)
 {
-    Open(s, [&](const QString& remembered) {
+    Open(s, Named::Afterwards, [&](const QString& remembered) {
         const bool chosen = !remembered.isEmpty() && !s.doc.pasted.contains(remembered);
         return s.dialogs.AskOpenName(chosen ? QFileInfo(remembered).path() : s.doc.firstFolder);
     });
@@ -114,7 +119,7 @@ void Apri_Click(Session& s)
 
 void OpenNamed(Session& s, const QString& path)
 {
-    Open(s, [&](const QString& /*remembered*/) { return std::optional(path); });
+    Open(s, Named::Already, [&](const QString& /*remembered*/) { return std::optional(path); });
 }
 
 }  // namespace pixano

@@ -1,6 +1,10 @@
 // The question about unsaved changes that comes before an opening.
+#include "document/opening.h"
 #include "document/seen.h"
 #include "support/program.h"
+
+#include <QClipboard>
+#include <QMimeData>
 
 namespace pixano::test {
 namespace {
@@ -93,6 +97,29 @@ TEST_F(ChangedPicture, GivesWayToTheNextWhenTheSaveWasCancelled)
     Open("b.bmp", Drawn({"xy"}));
     EXPECT_EQ(CanvasLetters(), (Letters{"xy"}));
     EXPECT_EQ(session.doc.Modificato, 0);
+}
+
+// No dialog follows in which it could be called off: a second start, a drop, a paste.
+TEST_F(ChangedPicture, StaysWhereItIsWhenTheSaveIsCancelledBeforeAPictureThatWasNamed)
+{
+    const QString other = Made("b.bmp", Drawn({"xy"}));
+    auto* const copied = new QMimeData;
+    copied->setUrls({QUrl::fromLocalFile(other)});
+    QApplication::clipboard()->setMimeData(copied);
+    const Seen before(session);
+    const std::vector<std::function<void()>> ways{
+        [&] { RunCommand(session, "Apri", Fatal::None, [&] { OpenNamed(session, other); }); },
+        [&] { emit session.drops.Dropped(other); },
+        [&] { emit session.form1.Pasted(); },
+    };
+    for (std::size_t i = 0; i < ways.size(); ++i) {
+        dialogs.answers = {true};
+        dialogs.saveNames.push_back(std::nullopt);
+        ways[i]();
+        EXPECT_TRUE(Seen(session) == before) << i;
+        EXPECT_EQ(dialogs.asked.size(), i + 1);
+    }
+    QApplication::clipboard()->clear();
 }
 
 TEST_F(ChangedPicture, StaysMarkedWhenSaveAndOpeningWereCancelled)
