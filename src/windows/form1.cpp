@@ -43,6 +43,9 @@ Form1::Form1(MenuTable entries) : entries_(entries)
     opening_.setSingleShot(true);
     connect(&opening_, &QTimer::timeout, this, &Form1::OpenAwaitedMenu);
     setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
+    // Nothing else in it has the keyboard: the menu bar would keep it, and take letters for menus.
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
 }
 
 int Form1::InsideWidth() const

@@ -39,6 +39,20 @@ TEST_F(MenusAtHand, OpenAtTheirKeysFromEveryWindow)
         }
 }
 
+// A name typed into the wrong window must not start an effect.
+TEST_F(MenusAtHand, TakeNoLetterOnceTheyAreClosed)
+{
+    OpenSized(300, 200);
+    for (const char* const keys : {"alt+f", "F10"}) {
+        Activate(session.form1);
+        Do(QString("key ") + keys);
+        EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); })) << keys;
+        CloseMenus();
+        Do("key e");
+        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; })) << keys;
+    }
+}
+
 TEST_F(MenusAtHand, OpenFromAMinimisedMainWindow)
 {
     OpenSized(300, 200);
