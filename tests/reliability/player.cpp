@@ -143,7 +143,7 @@ Player::Command Player::History()
         int entry;
         const char* text;
         const char* button;
-        bool Model::*usable;
+        decltype(&Model::paletteUndo) usable;
     };
     constexpr std::array Ways{
         Step{entry::Undo, "undo", "SSCommand15", &Model::paletteUndo},
