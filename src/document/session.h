@@ -11,8 +11,8 @@
 #include "windows/form2.h"
 #include "windows/form4.h"
 #include "windows/form9.h"
+#include "windows/manners.h"
 #include "windows/never_covered.h"
-#include "windows/never_minimised.h"
 
 #include <QCoreApplication>
 
@@ -46,7 +46,7 @@ struct Session {
     /// Beside a picture its window is larger, and takes what is dropped there too.
     FileDrops drops{&form1, form2.viewport(), form9.viewport(), &form10};
     NeverCovered atHand{{&form1, &form10}, {&form2, &form9}};
-    NeverMinimised answerable;
+    Manners manners;
 
     /// A command is running: whatever else the user starts meanwhile is ignored.
     bool busy = false;

@@ -2,7 +2,9 @@
 
 #include "windows/free_screen.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
@@ -46,9 +48,14 @@ FileDialog::FileDialog(FileLooks& looks, const QString& title, const QString& fo
     setFileMode(QFileDialog::AnyFile);
     setDirectory(ExistingFolder(folder));
     auto* const name = findChild<QLineEdit*>("fileNameEdit");
-    // Whichever way a folder is entered: pressed, named, or from the list of places.
-    connect(findChild<QFileSystemModel*>(), &QFileSystemModel::rootPathChanged, name,
-            &QLineEdit::clear, Qt::QueuedConnection);
+    // Whichever way a folder is entered: pressed, named, or from the list of places. What was
+    // offered for the name goes with it.
+    const auto forgetName = [name] {
+        name->clear();
+        if (name->completer() != nullptr) name->completer()->popup()->hide();
+    };
+    connect(findChild<QFileSystemModel*>(), &QFileSystemModel::rootPathChanged, name, forgetName,
+            Qt::QueuedConnection);
 }
 
 std::optional<QString> FileDialog::AskName()

@@ -94,6 +94,19 @@ TEST_F(FileDialogs, ForgetTheNameTypedWhenAFolderIsEntered)
     });
 }
 
+TEST_F(FileDialogs, OfferNothingAnyMoreOnceAFolderIsEntered)
+{
+    QDir().mkdir("sotto");
+    Ask(false, QDir::currentPath(), [](QFileDialog& dialog) {
+        Do("type --delay 5 sotto");
+        EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
+        Do("key Return");
+        EXPECT_TRUE(ComesToHold([&] { return dialog.directory().dirName() == "sotto"; }));
+        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
+        EXPECT_TRUE(dialog.isVisible());
+    });
+}
+
 TEST_F(FileDialogs, AnswerToEveryNameTyped)
 {
     for (const QString& name :

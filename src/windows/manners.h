@@ -1,0 +1,23 @@
+// What holds for every window of the program, whichever it is. Knows no window by name.
+#pragma once
+
+#include <QObject>
+
+namespace pixano {
+
+/// As long as it lives:
+/// - A modal window that is minimised comes back: behind it no other window takes a click, and the
+///   program would seem dead. A window manager may offer to minimise it whatever it is asked for.
+/// - The return key does once what it does, however long it is held down: what it starts may take
+///   seconds, and would be started again for every time that the key has repeated meanwhile.
+class Manners : public QObject {
+    Q_OBJECT
+
+  public:
+    Manners();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+}  // namespace pixano
