@@ -76,7 +76,14 @@ void HeldWindow::moveEvent(QMoveEvent* event)
     constexpr int Settling = 300;
     QScrollArea::moveEvent(event);
     if (placed_ && pos() != *placed_ && sincePlaced_.isValid() && sincePlaced_.elapsed() < Settling)
-        QTimer::singleShot(0, this, [this] { move(*placed_); });
+        QTimer::singleShot(0, this, &HeldWindow::AskAgain);
+}
+
+/// Of its size too: a move alone would ask for the size that was last heard of.
+void HeldWindow::AskAgain()
+{
+    resize(Held(stated_));
+    move(*placed_);
 }
 
 /// Held in one direction, the bar there takes its room from the other one, which then needs its

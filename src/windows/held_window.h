@@ -57,6 +57,8 @@ class HeldWindow : public QScrollArea {
     /// What it is kept within when its size changes: beside `leftFree` too if it fits there.
     QRect RoomToGrow() const;
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
+    /// Asks the window manager for place and size once more.
+    void AskAgain();
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();
 
