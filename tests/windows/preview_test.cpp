@@ -3,6 +3,8 @@
 #include "windows/form9.h"
 
 #include <QApplication>
+#include <QMouseEvent>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -78,6 +80,25 @@ TEST_F(Preview, IsHeldByAHandWhileTheMouseIsPressed)
     QTest::mousePress(window_.viewport(), Qt::RightButton);
     EXPECT_EQ(pointer(), Qt::ArrowCursor);
     QTest::mouseRelease(window_.viewport(), Qt::RightButton);
+}
+
+TEST_F(Preview, FollowsTheHandStepByStep)
+{
+    image_.SetPicture(Surface(400, 400));
+    window_.SetInside(QSize(400, 400));
+    window_.resize(100, 100);
+    window_.show();
+    const auto send = [&](QEvent::Type type, QPoint place) {
+        QMouseEvent event(type, place, window_.viewport()->mapToGlobal(place), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window_.viewport(), &event);
+    };
+    send(QEvent::MouseButtonPress, {50, 50});
+    for (const int step : {1, 2, 3}) {
+        send(QEvent::MouseMove, {50 - 10 * step, 50 - 5 * step});
+        EXPECT_EQ(window_.horizontalScrollBar()->value(), 10 * step);
+        EXPECT_EQ(window_.verticalScrollBar()->value(), 5 * step);
+    }
 }
 
 TEST_F(Preview, TellsEveryNotchOfTheWheelWithTheControlKey)
