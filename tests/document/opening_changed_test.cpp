@@ -132,6 +132,19 @@ TEST_F(ChangedPicture, StaysMarkedWhenSaveAndOpeningWereCancelled)
     EXPECT_TRUE(Seen(session) == before);
 }
 
+// After "No" nothing is named any more; after a save the same name is.
+TEST_F(ChangedPicture, IsNamedAgainWhenItIsChosenOnceMore)
+{
+    dialogs.answers = {false};
+    Open(Path("a.bmp"));
+    EXPECT_EQ(session.doc.NomeFile, "");
+    dialogs.answers = {true};
+    dialogs.saveNames.push_back(Path("s.bmp"));
+    Open(Path("a.bmp"));
+    EXPECT_EQ(session.doc.NomeFile, Path("a.bmp"));
+    EXPECT_EQ(CanvasLetters(), (Letters{"cba"})) << "it is the picture that is open";
+}
+
 TEST_F(ChangedPicture, CallsTheOpeningOffWhenTheSaveFailed)
 {
     const Seen before(session);

@@ -76,6 +76,16 @@ TEST_F(Noted, IsWrittenWhenTheUserClosesTheProgressWindow)
     EXPECT_TRUE(ReadRecoveryNote());
 }
 
+TEST_F(Noted, ThatCannotBeWrittenIsRemarkedWithThePlaceOfTheCopy)
+{
+    QDir().mkpath(Data("recupero.txt"));
+    Apply("Specchio");
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    EXPECT_THAT(dialogs.told[0].text.toStdString(),
+                testing::EndsWith(". Una copia dell'immagine modificata è nel file «" +
+                                  Path("elabor.tmp").toStdString() + "»."));
+}
+
 TEST_F(Noted, KeepsTheFinishedPictureWhenTheProgramEndsAfterTheLoops)
 {
     QDir().mkdir("elabor.tmp");
