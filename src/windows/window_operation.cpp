@@ -23,9 +23,10 @@ void KeepFocus(QWidget& window, QWidget& raised)
     auto* const keeper = new QObject(&raised);
     keeper->setObjectName(Keeper);
     QTimer::singleShot(Settling, keeper, &QObject::deleteLater);
-    const auto takeBack = [&window, &raised](const QWindow* now) {
+    const auto takeBack = [keeper, &window, &raised](const QWindow* now) {
         if (now == nullptr || now != raised.windowHandle()) return;
         if (window.isVisible()) window.activateWindow();
+        keeper->deleteLater();
     };
     QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, keeper, takeBack);
 }
