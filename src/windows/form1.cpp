@@ -34,12 +34,8 @@ Form1::Form1(MenuTable entries) : entries_(entries)
     setWindowTitle(NameAndVersion);
     setAccessibleName("Pixano, finestra principale");
     BuildMenus();
-    auto* const paste = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_V), this);
-    paste->setContext(Qt::ApplicationShortcut);
-    connect(paste, &QShortcut::activated, this, &Form1::Pasted);
-    auto* const menus = new QShortcut(QKeySequence(Qt::Key_F10), this);
-    menus->setContext(Qt::ApplicationShortcut);
-    connect(menus, &QShortcut::activated, this, [this] { OpenMenu(*controls_.front()); });
+    Serve(QKeySequence(Qt::CTRL | Qt::Key_V), *this, [this] { emit Pasted(); });
+    Serve(QKeySequence(Qt::Key_F10), *this, [this] { OpenMenu(*controls_.front()); });
     opening_.setSingleShot(true);
     connect(&opening_, &QTimer::timeout, this, &Form1::OpenAwaitedMenu);
     setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
@@ -98,21 +94,24 @@ QAction* Form1::AddEntry(const MenuEntry& row)
 /// The captions stay as they are: the keys are not shown beside them.
 void Form1::AddShortcut(const MenuEntry& row)
 {
-    auto* const shortcut = new QShortcut(QKeySequence(row.keys), this);
-    shortcut->setContext(Qt::ApplicationShortcut);
-    QAction* const action = controls_.back();
-    connect(shortcut, &QShortcut::activated, this, [this, &row, action] {
+    Serve(QKeySequence(row.keys), *this, [this, &row, action = controls_.back()] {
         if (action->isEnabled()) emit Clicked(row);
     });
+}
+
+void Form1::Serve(const QKeySequence& keys, QWidget& window, const std::function<void()>& act)
+{
+    auto* const shortcut = new QShortcut(keys, &window);
+    if (&window == this) shortcut->setContext(Qt::ApplicationShortcut);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, act);
 }
 
 void Form1::ServeKeysOf(QWidget& window)
 {
     for (QAction* const entry : menuBar()->actions()) {
         const QKeySequence keys = QKeySequence::mnemonic(entry->text());
-        if (keys.isEmpty()) continue;
-        auto* const shortcut = new QShortcut(keys, &window);
-        connect(shortcut, &QShortcut::activated, this, [this, entry] { Use(*entry); });
+        if (!keys.isEmpty()) Serve(keys, window, [this, entry] { Use(*entry); });
     }
 }
 

@@ -56,6 +56,9 @@ class Form1 : public QMainWindow {
     int InsideWidth() const;
     QAction* AddEntry(const MenuEntry& row);
     void AddShortcut(const MenuEntry& row);
+    /// Does that once when the keys are pressed, however long they are held: in the window, or in
+    /// every window of the program when it is this one.
+    void Serve(const QKeySequence& keys, QWidget& window, const std::function<void()>& act);
     /// What the entry's key does in another window.
     void Use(QAction& entry);
     /// Comes forward with the entry's menu open.
