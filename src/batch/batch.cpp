@@ -8,6 +8,7 @@
 #include "batch/sheet.h"
 #include "batch/texts.h"
 #include "files/strengths_file.h"
+#include "files/system_reason.h"
 #include "version.h"
 
 #include <algorithm>
@@ -145,7 +146,7 @@ int RunBatch(std::span<const std::string_view> arguments, const std::string& own
     } catch (const Fault& fault) {
         return Complain(Harmless(fault.what()), SomethingFailed);
     } catch (const std::bad_alloc&) {
-        return Complain("la memoria non basta", SomethingFailed);
+        return Complain(SystemReason(ENOMEM), SomethingFailed);
     }
 }
 

@@ -2,8 +2,10 @@
 
 #include "batch/standard_streams.h"
 #include "effects/frame.h"
+#include "files/system_reason.h"
 #include "pictures/shrink.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <new>
 
@@ -64,7 +66,7 @@ Outcome RunPictureJob(const PlannedPicture& picture, const Recipe& recipe, Chain
     } catch (const PictureError& error) {
         return {false, "", "", error.what()};  // which names the file
     } catch (const std::bad_alloc&) {
-        return {false, "", "", picture.input + ": la memoria non basta"};
+        return {false, "", "", picture.input + ": " + SystemReason(ENOMEM)};
     } catch (const std::exception& error) {
         return {false, "", "", picture.input + ": " + error.what()};
     }

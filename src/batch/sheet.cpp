@@ -3,9 +3,11 @@
 #include "effects/frame.h"
 #include "files/atomic_file.h"
 #include "files/refusal.h"
+#include "files/system_reason.h"
 #include "pictures/picture_files.h"
 #include "pictures/shrink.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <new>
 #include <utility>
@@ -78,7 +80,7 @@ Outcome Sheet::Try(std::size_t place, ChainProgress& progress)
     } catch (const PictureError& error) {
         return {false, "", "", error.what()};
     } catch (const std::bad_alloc&) {
-        return {false, "", "", planned.input + ": la memoria non basta"};
+        return {false, "", "", planned.input + ": " + SystemReason(ENOMEM)};
     }
 }
 

@@ -1,6 +1,9 @@
 #include "pictures/jpeg_errors.h"
 
+#include "files/system_reason.h"
 #include "pictures/picture_size.h"
+
+#include <cerrno>
 
 #include <jerror.h>
 
@@ -25,7 +28,7 @@ std::string JpegErrors::Reason() const
     if (reason_ != nullptr) return reason_;
     switch (msg_code) {
     case JERR_OUT_OF_MEMORY:
-        return "la memoria non basta";
+        return SystemReason(ENOMEM);
     case JERR_IMAGE_TOO_BIG:
         return "l'immagine è troppo grande (più di " + std::to_string(JPEG_MAX_DIMENSION) +
                " pixel per lato): " + LongestSideText();
