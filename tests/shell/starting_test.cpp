@@ -148,6 +148,24 @@ TEST_F(Starting, TellsWhyItAsksBeforeThePictureThatIsNamedReplacesTheOneBroughtB
     EXPECT_EQ(dialogs.asked.size(), 2U);
 }
 
+TEST_F(Starting, KeepsThePictureBroughtBackWhenItsSaveIsCancelled)
+{
+    Made("b.bmp", Drawn({"xyz"}));
+    {
+        StartedDesk killed;
+        killed.Open(Made("a.bmp", Drawn({"abc"})));
+        killed.Apply("Specchio");
+    }
+    dialogs.answers = {true, true};
+    dialogs.saveNames.push_back(std::nullopt);
+    RunWith({"b.bmp"}, [&] {
+        EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
+        EXPECT_EQ(session.doc.Modificato, 1);
+        EXPECT_TRUE(ReadRecoveryNote());
+        dialogs.answers = {false};
+    });
+}
+
 TEST_F(Starting, WorksInTheDataFolderWhenStartedFromTheMenu)
 {
     const QString here = QDir::currentPath();
