@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QMimeData>
 #include <QPainter>
@@ -32,9 +34,11 @@ Surface SurfaceOf(const QImage& image)
     return surface;
 }
 
+const QString Prefix = QStringLiteral("appunti-");
+
 QString PastedPrefix()
 {
-    return DataFolder() + "/appunti-";
+    return DataFolder() + '/' + Prefix;
 }
 
 /// A picture without a file gets one: "Originale" reads it again.
@@ -64,6 +68,13 @@ void OpenPasted(Session& s)
 bool IsPasted(const QString& path)
 {
     return path.startsWith(PastedPrefix());
+}
+
+void RemovePasted()
+{
+    const QDir kept(DataFolder(), Prefix + "*.bmp", QDir::Unsorted, QDir::Files);
+    for (const QString& name : kept.entryList())
+        QFile::remove(kept.filePath(name));
 }
 
 }  // namespace pixano

@@ -12,4 +12,8 @@ void OpenPasted(Session& s);
 /// Whether the file is one that a picture from the clipboard was kept in.
 bool IsPasted(const QString& path);
 
+/// Deletes the files that an earlier run, which was killed, kept pictures from the clipboard in.
+/// One that cannot be deleted stays.
+void RemovePasted();
+
 }  // namespace pixano

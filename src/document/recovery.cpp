@@ -99,6 +99,7 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
     s.doc.Zoom = 1;
     if (IsPasted(note.picture)) s.doc.pasted.append(note.picture);
     Estrai(s, note.picture, std::move(picture));
+    s.doc.Effetto = s.doc.NomeCorto;  // no note tells the last effect; "Ripristina" names one
     s.doc.Modificato = 1;
     s.form1.Enable(control::Salva, true);
     s.form1.Enable(control::Orig, true);
@@ -147,6 +148,8 @@ void OfferRecovery(Session& s)
     else if (RecoveryNoteThere())
         TellLost(s, QString(), "Il file «" + RecoveryNotePath() + "» non si può leggere",
                  AbsolutePath(file::PreviewCopy));
+    else
+        RemovePasted();  // nobody had made anything of them
 }
 
 }  // namespace pixano

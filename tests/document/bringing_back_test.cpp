@@ -104,6 +104,7 @@ TEST_F(BringingBack, LetsTheWorkGoOn)
     EXPECT_FALSE(RecoveryNoteThere());
     ClickEntry(entry::Redo);
     EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
+    EXPECT_EQ(CanvasCaption(), "a.bmp   3x1");
     // The same picture chosen again is open already.
     dialogs.answers = {false};
     Open(Path("a.bmp"));

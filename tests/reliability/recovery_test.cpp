@@ -68,23 +68,59 @@ TEST_F(Recovery, KnowsNamesWithLineEndsAndPercentSigns)
                 AllOf(Contains(HasSubstr("fo%0Ato  d'été.bmp")), Contains(Ready(unsaved))));
 }
 
-TEST_F(Recovery, BringsAPastedPictureBackAndKeepsItsFileUntilTheEnd)
-{
-    QImage copied(5, 3, QImage::Format_RGB32);
-    copied.fill(Qt::red);
-    copied.setPixelColor(0, 0, Qt::blue);
-    QApplication::clipboard()->setImage(copied);
+/// A picture from the clipboard is open when the run is killed.
+class PastedRecovery : public Recovery {
+  protected:
+    PastedRecovery()
+    {
+        QImage copied(5, 3, QImage::Format_RGB32);
+        copied.fill(Qt::red);
+        copied.setPixelColor(0, 0, Qt::blue);
+        QApplication::clipboard()->setImage(copied);
+    }
+
+    void CrashWith(const char* effect)
     {
         StartedDesk desk;
         emit desk.session.form1.Pasted();
-        desk.Apply("Specchio");
+        if (effect != nullptr) desk.Apply(effect);
         unsaved = Checksum(desk.Canvas());
         WriteWorkingBitmap(Surface(2, 2), Folders::Path("figura 1.bmp").toStdString());
     }
-    const auto pasted = [this] { return QDir(folders.Data("")).entryList({"appunti-*"}); };
-    EXPECT_EQ(pasted().size(), 1);
+    int Files() const { return int(QDir(folders.Data("")).entryList({"appunti-*"}).size()); }
+};
+
+TEST_F(PastedRecovery, BringsItBackAndKeepsItsFileUntilTheEnd)
+{
+    CrashWith("Specchio");
+    EXPECT_EQ(Files(), 1);
     EXPECT_THAT(NextStart(), AllOf(Offered, Contains(Ready(unsaved)), Contains("status 0")));
-    EXPECT_EQ(pasted().size(), 0);
+    EXPECT_EQ(Files(), 0);
+}
+
+TEST_F(PastedRecovery, LeavesNoFileOfAPictureThatNothingWasMadeOf)
+{
+    CrashWith(nullptr);
+    EXPECT_EQ(Files(), 1);
+    EXPECT_THAT(NextStart(), AllOf(Not(Offered), Contains("status 0")));
+    EXPECT_EQ(Files(), 0);
+}
+
+TEST_F(PastedRecovery, LeavesNoFileOfAPictureThatIsNotWanted)
+{
+    CrashWith("Specchio");
+    NextStart("no");
+    NextStart();
+    EXPECT_EQ(Files(), 0);
+    EXPECT_TRUE(Aside().contains(unsaved));
+}
+
+TEST_F(PastedRecovery, KeepsTheFileWhereTheWorkIsLost)
+{
+    CrashWith("Specchio");
+    QFile(folders.Data("recupero.txt")).resize(3);
+    EXPECT_THAT(NextStart(), Lost);
+    EXPECT_EQ(Files(), 1);
 }
 
 TEST_F(Recovery, NeverTakesARunningProgramForACrash)
