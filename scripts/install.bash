@@ -4,7 +4,7 @@
 # What building and running Pixano needs.
 run_packages=(
     g++ cmake ninja-build
-    qt6-base-dev qt6-translations-l10n libgl1-mesa-dev
+    qt6-base-dev qt6-translations-l10n libgl1-mesa-dev libxcb1-dev
     libjpeg62-turbo-dev libgif-dev libpng-dev
     fonts-dejavu-core
 )

@@ -29,11 +29,6 @@ void KeepCommandsAtHand(Session& s)
 {
     for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9, &s.form10})
         s.form1.ServeKeysOf(*window);
-    // A press raises a window that is in use already without another word.
-    const auto raise = [&s] { s.atHand.RaiseCovered(); };
-    QObject::connect(&s.form2.Picture1(), &PictureBox::Clicked, raise);
-    QObject::connect(&s.form2, &HeldWindow::Pressed, raise);
-    QObject::connect(&s.form9, &HeldWindow::Pressed, raise);
 }
 
 }  // namespace

@@ -118,8 +118,6 @@ void RunCommand(Session& s, const QString& name, Fatal fatal, const std::functio
     if (!s.ending) SecureCanvas(s);
     s.form2.Picture1().update();
     if (!s.remarks.isEmpty()) Tell(s, s.failed ? BoxIcon::Critical : BoxIcon::Exclamation, {});
-    // A window manager may have raised the canvas without a word, while a window asked something.
-    s.atHand.RaiseCovered();
     s.busy = false;
     s.afterCommand();
 }

@@ -97,7 +97,6 @@ void Form9::wheelEvent(QWheelEvent* event)
 
 void Form9::mousePressEvent(QMouseEvent* event)
 {
-    HeldWindow::mousePressEvent(event);
     dragged_ = event->globalPosition().toPoint();
     if (event->button() == Qt::LeftButton) viewport()->setCursor(Qt::ClosedHandCursor);
 }

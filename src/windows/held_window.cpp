@@ -125,11 +125,6 @@ void HeldWindow::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-void HeldWindow::mousePressEvent(QMouseEvent* /*event*/)
-{
-    emit Pressed();
-}
-
 void HeldWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayClose());

@@ -37,14 +37,9 @@ class HeldWindow : public QScrollArea {
     /// Asked when the user closes the window; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
 
-  signals:
-    /// A button of the mouse was pressed on what it shows.
-    void Pressed();
-
   protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
     /// The second press of two quick ones is a press like any other.
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void resizeEvent(QResizeEvent* event) override;

@@ -24,35 +24,29 @@ NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> la
 {
     for (QWidget* const window : large_)
         window->installEventFilter(this);
+    connect(&stacking_, &Stacking::Changed, this, &NeverCovered::RaiseCovered);
 }
 
 void NeverCovered::RaiseCovered() const
 {
-    QRegion covered;
-    for (const QWidget* const window : large_)
-        if (IsOnScreen(*window)) covered += window->frameGeometry();
     QWidget* const used = QApplication::activeWindow();
-    for (QWidget* const window : small_)
-        if (IsOnScreen(*window) &&
-            covered.intersected(window->frameGeometry()) == QRegion(window->frameGeometry())) {
-            window->raise();
-            // One of the large ones, though, would come to the front with the focus once more.
-            if (used != window && std::ranges::find(small_, used) != small_.end())
-                KeepFocus(*used, *window);
-        }
+    for (QWidget* const window : small_) {
+        if (!IsOnScreen(*window)) continue;
+        QRegion seen = window->frameGeometry();
+        for (const QWidget* const larger : large_)
+            if (IsOnScreen(*larger) && stacking_.IsAbove(*larger, *window))
+                seen -= larger->frameGeometry();
+        if (!seen.isEmpty()) continue;
+        Stacking::Raise(*window);
+        // One of the large ones, though, would come to the front with the focus once more.
+        if (used != window && std::ranges::find(small_, used) != small_.end())
+            KeepFocus(*used, *window);
+    }
 }
 
 bool NeverCovered::eventFilter(QObject* watched, QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::WindowActivate:
-    case QEvent::Move:
-    case QEvent::Resize:
-        RaiseCovered();
-        break;
-    default:
-        break;
-    }
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize) RaiseCovered();
     return QObject::eventFilter(watched, event);
 }
 

@@ -2,6 +2,8 @@
 // show.
 #pragma once
 
+#include "windows/stacking.h"
+
 #include <QObject>
 #include <QWidget>
 
@@ -17,14 +19,15 @@ class NeverCovered : public QObject {
   public:
     NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> large);
 
-    void RaiseCovered() const;
-
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void RaiseCovered() const;
+
     std::vector<QWidget*> small_;
     std::vector<QWidget*> large_;
+    Stacking stacking_;
 };
 
 }  // namespace pixano

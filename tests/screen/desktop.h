@@ -44,6 +44,8 @@ inline QString Id(const QWidget& window)
 }
 
 class Desktop : public Program {
+    static constexpr int Answer = 150;
+
   protected:
     Desktop()
     {
@@ -58,8 +60,13 @@ class Desktop : public Program {
     /// Stays so for as long as a window manager takes to answer.
     static bool Stays(const std::function<bool()>& state)
     {
-        constexpr int Answer = 150;
         return ComesToHold(state) && !QTest::qWaitFor([&] { return !state(); }, Answer);
+    }
+    /// The same where it may have held before the window manager was asked for what could end it.
+    static bool StaysAfterAll(const std::function<bool()>& state)
+    {
+        QTest::qWait(Answer);
+        return Stays(state);
     }
 
     static bool IsActive(const QWidget& window)
