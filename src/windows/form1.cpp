@@ -141,8 +141,20 @@ void Form1::OpenAwaitedMenu()
     opening_.stop();
     QAction* const entry = std::exchange(awaited_, nullptr);
     if (entry == nullptr) return;
+    if (!menuBar()->hasFocus()) GiveTheBarTheKeys();
     menuBar()->setActiveAction(entry);
     entry->menu()->setActiveAction(entry->menu()->actions().front());
+}
+
+/// As the alt key does: entries without a menu are started with return, and once all menus are
+/// closed no letter opens one.
+void Form1::GiveTheBarTheKeys()
+{
+    // The modifiers are those from before: the toolkit turns over that of the key itself.
+    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
+    for (QKeyEvent* const event : {&press, &release})
+        QCoreApplication::sendEvent(this, event);
 }
 
 bool Form1::event(QEvent* event)

@@ -64,6 +64,7 @@ class Form1 : public QMainWindow {
     /// Comes forward with the entry's menu open.
     void OpenMenu(QAction& entry);
     void OpenAwaitedMenu();
+    void GiveTheBarTheKeys();
     /// Throws std::out_of_range when no entry has that name.
     int PositionOf(std::string_view name) const;
 

@@ -63,6 +63,30 @@ TEST_F(MenusAtHand, TakeNoLetterOnceTheyAreClosed)
     }
 }
 
+TEST_F(MenusAtHand, StartAnEntryOfTheBarThatIsWalkedTo)
+{
+    OpenSized(300, 200);
+    Apply("Specchio");
+    for (const auto& [window, keys] : {std::pair<QWidget*, const char*>(&session.form1, "F10"),
+                                       {&session.form2, "F10"},
+                                       {&session.form2, "alt+f"},
+                                       {&session.form10, "alt+f"}}) {
+        EXPECT_TRUE(Stays(
+            [this] { return !FocusIsKeptFrom(session.form2) && !FocusIsKeptFrom(session.form9); }));
+        Activate(*window);
+        Do(QString("key ") + keys);
+        EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); })) << keys;
+        ASSERT_EQ(MenuHistory(), (History{false, true, false}));
+        for (const char* const key : {"Right", "Right", "Return"})
+            Do(QString("key ") + key);
+        ASSERT_TRUE(ComesToHold([this] { return session.doc.InOriginale == 1; }))
+            << keys << " in " << window->objectName().toStdString();
+        Do("key e");
+        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
+        ClickEntry(entry::Redo);
+    }
+}
+
 TEST_F(MenusAtHand, OpenFromAMinimisedMainWindow)
 {
     OpenSized(300, 200);
