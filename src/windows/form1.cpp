@@ -6,6 +6,7 @@
 #include "windows/window_operation.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -153,8 +154,8 @@ void Form1::GiveTheBarTheKeys()
     // The modifiers are those from before: the toolkit turns over that of the key itself.
     QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
-    for (QKeyEvent* const event : {&press, &release})
-        QCoreApplication::sendEvent(this, event);
+    for (QKeyEvent* const key : {&press, &release})
+        QCoreApplication::sendEvent(this, key);
 }
 
 bool Form1::event(QEvent* event)
