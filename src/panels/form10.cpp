@@ -6,6 +6,7 @@
 #include "windows/palette_strip.h"
 #include "windows/window_operation.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
