@@ -36,6 +36,8 @@ open_from_menu() {
     xdotool mousemove "$((${SCREEN_SIZE%x*} / 2))" "$((${SCREEN_SIZE#*x} / 2))" click 1
     expect_title "scena.jpg   640x480"
     expect_title "Strumenti"
+    # The main window keeps the focus for 0.3 seconds after an opening, faster than any hand.
+    sleep 0.4
 }
 
 # The fifteenth button that can be used is "Negativo".
