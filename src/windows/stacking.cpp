@@ -64,8 +64,6 @@ Stacking::Stacking()
     qGuiApp->installNativeEventFilter(this);
 }
 
-Stacking::~Stacking() = default;
-
 bool Stacking::IsAbove(const QWidget& window, const QWidget& other) const
 {
     const auto place = [this](const QWidget& of) {

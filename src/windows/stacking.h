@@ -16,7 +16,6 @@ class Stacking : public QObject, private QAbstractNativeEventFilter {
 
   public:
     Stacking();
-    ~Stacking() override;
 
     /// Whether `window` lies above `other`, both on the screen; so it is, too, when nothing is
     /// told.

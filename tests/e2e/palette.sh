@@ -28,12 +28,11 @@ start_program "$pixano" "$sandbox/foto.jpg"
 expect_title "Pixano 2.3"
 expect_opening_picture
 keys Return
-expect_title "foto.jpg   $size"
+expect_opened "foto.jpg   $size"
 expect_title "$preview 100%"
 
 # The palette, with its frame, stands at the top of the screen, 3250 twips (217 pixels) from its right
-# edge. The main window keeps the focus for 0.3 seconds after an opening, faster than any hand.
-sleep 0.4
+# edge.
 focus "Strumenti"
 read -r left _ top _ < <(xprop -id "$(window_titled "Strumenti")" _NET_FRAME_EXTENTS |
     tr -dc '0-9 \n')

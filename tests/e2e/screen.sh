@@ -121,6 +121,14 @@ expect_title() {
     wait_for titled "$1" || fail "no window is titled \"$1\""
 }
 
+# Waits for the canvas of that title and its palette, and for the focus to settle: the main window keeps it for 0.3
+# seconds after an opening, faster than any hand.
+expect_opened() {
+    expect_title "$1"
+    expect_title "Strumenti"
+    sleep 0.4
+}
+
 # Brings the window of that title to the front and gives it the keyboard.
 focus() {
     expect_title "$1"

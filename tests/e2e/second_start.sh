@@ -27,7 +27,7 @@ start_program "$pixano" "$picture"
 expect_title "Pixano 2.3"
 expect_opening_picture
 keys space
-expect_title "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
+expect_opened "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
 [ "$(stat -c %a "$XDG_DATA_HOME/pixano")" = 700 ] || fail "others may look into the data folder"
 
 # Starts the program once more; it ends with status 0, and quickly.

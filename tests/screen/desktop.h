@@ -44,7 +44,7 @@ inline QString Id(const QWidget& window)
 }
 
 class Desktop : public Program {
-    static constexpr int Answer = 150;
+    static constexpr int TimeToAnswer = 150;
 
   protected:
     Desktop()
@@ -60,12 +60,12 @@ class Desktop : public Program {
     /// Stays so for as long as a window manager takes to answer.
     static bool Stays(const std::function<bool()>& state)
     {
-        return ComesToHold(state) && !QTest::qWaitFor([&] { return !state(); }, Answer);
+        return ComesToHold(state) && !QTest::qWaitFor([&] { return !state(); }, TimeToAnswer);
     }
     /// The same where it may have held before the window manager was asked for what could end it.
-    static bool StaysAfterAll(const std::function<bool()>& state)
+    static bool StaysOnceAnswered(const std::function<bool()>& state)
     {
-        QTest::qWait(Answer);
+        QTest::qWait(TimeToAnswer);
         return Stays(state);
     }
 

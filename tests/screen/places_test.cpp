@@ -67,7 +67,7 @@ TEST_F(Places, ThePreviewBesideThePaletteAsLongAsItFitsThere)
     OpenSized(500, 300);
     for (int width = 500; width < StripLeft() - 50; width = width * 13 / 10) {
         SCOPED_TRACE(width);
-        EXPECT_TRUE(StaysAfterAll([&] { return Preview().right() < StripLeft(); }));
+        EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().right() < StripLeft(); }));
         Button("Command1").click();
     }
 }

@@ -33,6 +33,13 @@ class Starting : public SessionInFolders {
         });
         return RunAsOnlyInstance(session, OptionsFrom(QStringList{"pixano"} + arguments).value());
     }
+    /// Leaves the folders as a run does that is killed when "abc" has become "cba".
+    void KillWithUnsavedWork() const
+    {
+        StartedDesk killed;
+        killed.Open(Made("a.bmp", Drawn({"abc"})));
+        killed.Apply("Specchio");
+    }
 
   private:
     static void Nothing() {}
@@ -133,11 +140,7 @@ TEST_F(Starting, RemembersNoPathWhereThereIsNoStartUpFolder)
 TEST_F(Starting, TellsWhyItAsksBeforeThePictureThatIsNamedReplacesTheOneBroughtBack)
 {
     Made("b.bmp", Drawn({"xyz"}));
-    {
-        StartedDesk killed;
-        killed.Open(Made("a.bmp", Drawn({"abc"})));
-        killed.Apply("Specchio");
-    }
+    KillWithUnsavedWork();
     dialogs.answers = {true, false};
     std::vector<ShownBox> told;
     RunWith({"b.bmp"}, [&] { told = dialogs.told; });
@@ -151,11 +154,7 @@ TEST_F(Starting, TellsWhyItAsksBeforeThePictureThatIsNamedReplacesTheOneBroughtB
 TEST_F(Starting, KeepsThePictureBroughtBackWhenItsSaveIsCancelled)
 {
     Made("b.bmp", Drawn({"xyz"}));
-    {
-        StartedDesk killed;
-        killed.Open(Made("a.bmp", Drawn({"abc"})));
-        killed.Apply("Specchio");
-    }
+    KillWithUnsavedWork();
     dialogs.answers = {true, true};
     dialogs.saveNames.push_back(std::nullopt);
     RunWith({"b.bmp"}, [&] {
