@@ -3,6 +3,7 @@
 #include "windows/free_screen.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
