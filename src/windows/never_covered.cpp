@@ -1,10 +1,12 @@
 #include "windows/never_covered.h"
 
+#include "windows/free_screen.h"
 #include "windows/window_operation.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QRegion>
+#include <QScreen>
 
 #include <algorithm>
 #include <utility>
@@ -44,9 +46,20 @@ void NeverCovered::RaiseCovered() const
     }
 }
 
+void NeverCovered::LeaveTitleFree(const QWidget& maximised) const
+{
+    QRect title = maximised.screen()->availableGeometry();
+    title.setHeight(FrameOf(maximised).top());
+    for (QWidget* const window : small_)
+        if (IsOnScreen(*window) && window->frameGeometry().intersects(title))
+            window->move(window->x(), title.bottom() + 1);
+}
+
 bool NeverCovered::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize) RaiseCovered();
+    const auto& window = static_cast<const QWidget&>(*watched);
+    if (event->type() == QEvent::WindowStateChange && window.isMaximized()) LeaveTitleFree(window);
     return QObject::eventFilter(watched, event);
 }
 

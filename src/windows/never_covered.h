@@ -12,7 +12,8 @@
 namespace pixano {
 
 /// Whenever one of the larger windows comes to the front, moves or grows, the small ones that
-/// nothing would be seen of come with it. The windows outlive this.
+/// nothing would be seen of come with it; where it is maximised, they leave its buttons free. The
+/// windows outlive this.
 class NeverCovered : public QObject {
     Q_OBJECT
 
@@ -24,6 +25,9 @@ class NeverCovered : public QObject {
 
   private:
     void RaiseCovered() const;
+    /// Moves the small windows off the title of a window that has just been maximised: they lie
+    /// above it, and it has its buttons there.
+    void LeaveTitleFree(const QWidget& maximised) const;
 
     std::vector<QWidget*> small_;
     std::vector<QWidget*> large_;

@@ -157,6 +157,22 @@ TEST_F(MenusAtHand, AreNeverCoveredByTheCanvasThatIsRaised)
     }
 }
 
+TEST_F(MenusAtHand, LeaveTheButtonsOfAMaximisedWindowInReach)
+{
+    for (QWidget* const large : std::initializer_list<QWidget*>{&session.form2, &session.form9}) {
+        SCOPED_TRACE(large->objectName().toStdString());
+        OpenSized(300, 200);
+        session.form10.move(session.form10.x(), 0);
+        EXPECT_TRUE(Stays([this] { return session.form10.y() == 0; }));
+        large->showMaximized();
+        EXPECT_TRUE(Stays([&] { return large->width() > 1000; }));
+        EXPECT_GE(session.form10.y(), large->geometry().top());
+        ExpectNotCoveredBy(*large);
+        large->showNormal();
+        EXPECT_TRUE(Stays([&] { return large->width() < 1000; }));
+    }
+}
+
 TEST_F(MenusAtHand, AreNeverCoveredByAWindowThatIsPressedOnceMore)
 {
     OpenSized(2000, 2000);
