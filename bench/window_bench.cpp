@@ -43,7 +43,10 @@ class NoDialogs : public Dialogs {
         std::fprintf(stderr, "%s\n", qPrintable(text));
     }
     std::optional<QString> AskOpenName(const QString& /*folder*/) override { return std::nullopt; }
-    std::optional<QString> AskSaveName(const QString& /*folder*/) override { return std::nullopt; }
+    std::optional<QString> AskSaveName(const QString& /*folder*/, const QString& /*name*/) override
+    {
+        return std::nullopt;
+    }
 };
 
 void WritePlain(const QString& name, const QByteArray& bytes)

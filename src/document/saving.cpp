@@ -34,11 +34,13 @@ QString FolderToSaveIn(const Document& doc)
 }
 
 /// The name chosen in the save dialog, asked again as long as a file of that name may not be
-/// replaced.
+/// replaced: the one that was chosen is there to be changed.
 std::optional<QString> AskName(Session& s)
 {
+    QString folder = FolderToSaveIn(s.doc);
+    QString beginning;
     for (;;) {
-        const std::optional<QString> chosen = s.dialogs.AskSaveName(FolderToSaveIn(s.doc));
+        const std::optional<QString> chosen = s.dialogs.AskSaveName(folder, beginning);
         if (!chosen) return std::nullopt;
         std::optional<QString> name = WithBitmapExtension(*chosen);
         if (!name)
@@ -48,6 +50,8 @@ std::optional<QString> AskName(Session& s)
                                "il posto a «.bmp», non ne resta niente.");
         else if (!FileExists(*name) || MayReplace(s, *name))
             return name;
+        folder = QFileInfo(*chosen).path();
+        beginning = QFileInfo(*chosen).fileName();
     }
 }
 

@@ -21,9 +21,9 @@ class Dialogs {
 
     /// The open dialog in `folder`; the path chosen or typed, nothing when cancelled.
     virtual std::optional<QString> AskOpenName(const QString& folder) = 0;
-    /// The save dialog; the path chosen or typed with the default extension, nothing when
-    /// cancelled.
-    virtual std::optional<QString> AskSaveName(const QString& folder) = 0;
+    /// The save dialog in `folder`, with `name` for a start, which may be empty; the path chosen or
+    /// typed with the default extension, nothing when cancelled.
+    virtual std::optional<QString> AskSaveName(const QString& folder, const QString& name) = 0;
 };
 
 /// Titles of the message boxes.

@@ -9,6 +9,9 @@
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTimer>
 #include <QTreeView>
 
 #include <algorithm>
@@ -56,6 +59,25 @@ FileDialog::FileDialog(FileLooks& looks, const QString& title, const QString& fo
     };
     connect(findChild<QFileSystemModel*>(), &QFileSystemModel::rootPathChanged, name, forgetName,
             Qt::QueuedConnection);
+    name->completer()->popup()->installEventFilter(this);
+}
+
+void FileDialog::BeginWith(const QString& name)
+{
+    auto* const typed = findChild<QLineEdit*>("fileNameEdit");
+    typed->setText(name);
+    typed->selectAll();
+}
+
+bool FileDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        const QPoint place = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+        auto* const button = qobject_cast<QPushButton*>(childAt(mapFromGlobal(place)));
+        if (button != nullptr && !static_cast<QWidget*>(watched)->underMouse())
+            QTimer::singleShot(0, button, &QPushButton::click);
+    }
+    return QFileDialog::eventFilter(watched, event);
 }
 
 std::optional<QString> FileDialog::AskName()

@@ -17,11 +17,16 @@ class FileDialog : public QFileDialog {
     /// Starts in `folder`, or in what is left of its path where that is gone. `looks` outlives it.
     FileDialog(FileLooks& looks, const QString& title, const QString& folder);
 
+    /// Lets the name of a file in its folder stand there already, to be changed.
+    void BeginWith(const QString& name);
+
     /// The path chosen or typed; nothing when cancelled.
     std::optional<QString> AskName();
 
   protected:
     void accept() override;
+    /// A press beside the list of what could be meant closes that, and does nothing more.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ShowWholeColumns();

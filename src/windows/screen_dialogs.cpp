@@ -156,7 +156,7 @@ std::optional<QString> ScreenDialogs::AskOpenName(const QString& folder)
     return dialog.AskName();
 }
 
-std::optional<QString> ScreenDialogs::AskSaveName(const QString& folder)
+std::optional<QString> ScreenDialogs::AskSaveName(const QString& folder, const QString& name)
 {
     FileLooks looks;
     FileDialog dialog(looks, "Salva con nome", folder);
@@ -165,6 +165,7 @@ std::optional<QString> ScreenDialogs::AskSaveName(const QString& folder)
     dialog.setDefaultSuffix("bmp");
     // The program asks for itself whether a file may be replaced.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.BeginWith(name);
     return dialog.AskName();
 }
 

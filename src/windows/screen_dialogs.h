@@ -10,7 +10,7 @@ class ScreenDialogs : public Dialogs {
     bool Ask(BoxIcon icon, const QString& title, const QString& text) override;
     void Tell(BoxIcon icon, const QString& title, const QString& text) override;
     std::optional<QString> AskOpenName(const QString& folder) override;
-    std::optional<QString> AskSaveName(const QString& folder) override;
+    std::optional<QString> AskSaveName(const QString& folder, const QString& name) override;
 };
 
 }  // namespace pixano

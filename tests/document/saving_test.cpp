@@ -111,7 +111,10 @@ TEST_F(Saving, AsksForAnotherNameAsOftenAsTheAnswerIsNo)
     EXPECT_EQ(dialogs.asked,
               (std::vector<ShownBox>{MayReplace(Path("s.bmp")), MayReplace(Path("t.bmp")),
                                      MayReplace(Path("s.bmp"))}));
-    EXPECT_EQ(dialogs.saveFolders.size(), 3U);
+    // The name that was not taken stands there to be changed.
+    const QString folder = QDir::currentPath();
+    EXPECT_EQ(dialogs.saveFolders, (std::vector<QString>{folder + '/', folder, folder}));
+    EXPECT_EQ(dialogs.saveBeginnings, (std::vector<QString>{"", "s.bmp", "t.bmp"}));
     EXPECT_EQ(Kept(Path("s.bmp")), (Letters{"cba"}));
     EXPECT_EQ(Bytes("t.bmp"), "vecchio");
 }

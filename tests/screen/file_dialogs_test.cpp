@@ -4,9 +4,11 @@
 #include "windows/screen_dialogs.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
 #include <QTreeView>
 
 #include <array>
@@ -30,7 +32,7 @@ class FileDialogs : public Desktop {
             meanwhile(*dialog);
             if (dialog->isVisible()) dialog->reject();
         });
-        return saving ? screen.AskSaveName(folder) : screen.AskOpenName(folder);
+        return saving ? screen.AskSaveName(folder, {}) : screen.AskOpenName(folder);
     }
     std::optional<QString> Typed(bool saving, const QString& name)
     {
@@ -105,6 +107,43 @@ TEST_F(FileDialogs, OfferNothingAnyMoreOnceAFolderIsEntered)
         EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
         EXPECT_TRUE(dialog.isVisible());
     });
+}
+
+TEST_F(FileDialogs, TakeTheFirstPressOnAButtonThoughNamesAreOffered)
+{
+    Write("sotto.bmp", "");
+    for (const bool saving : {false, true})
+        for (const QDialogButtonBox::StandardButton which :
+             {saving ? QDialogButtonBox::Save : QDialogButtonBox::Open, QDialogButtonBox::Cancel}) {
+            const std::optional<QString> name =
+                Ask(saving, QDir::currentPath(), [which](QFileDialog& dialog) {
+                    Do("type --delay 5 sotto.bm");
+                    EXPECT_TRUE(
+                        ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
+                    Do("key p");
+                    const auto* const button = dialog.findChild<QDialogButtonBox*>()->button(which);
+                    ClickAt(button->mapToGlobal(button->rect().center()));
+                    EXPECT_TRUE(ComesToHold([&] { return !dialog.isVisible(); }));
+                });
+            if (which == QDialogButtonBox::Cancel)
+                EXPECT_EQ(name, std::nullopt);
+            else
+                EXPECT_EQ(name, Path("sotto.bmp"));
+        }
+}
+
+TEST_F(FileDialogs, BeginWithTheNameThatMayBeChanged)
+{
+    QTimer::singleShot(0, [] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_TRUE(ComesToHold([&] { return IsActive(*dialog); }));
+        EXPECT_EQ(NameIn(*dialog).text(), "prima.bmp");
+        Do("key End BackSpace BackSpace BackSpace BackSpace 2 Return");
+        EXPECT_TRUE(ComesToHold([&] { return !dialog->isVisible(); }));
+        if (dialog->isVisible()) dialog->reject();
+    });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), "prima.bmp"), Path("prima2.bmp"));
 }
 
 TEST_F(FileDialogs, AnswerToEveryNameTyped)

@@ -54,9 +54,10 @@ class ScriptedDialogs : public Dialogs {
         meanwhile();
         return Next(openNames, std::optional<QString>());
     }
-    std::optional<QString> AskSaveName(const QString& folder) override
+    std::optional<QString> AskSaveName(const QString& folder, const QString& name) override
     {
         saveFolders.push_back(folder);
+        saveBeginnings.push_back(name);
         meanwhile();
         return Next(saveNames, std::optional<QString>());
     }
@@ -73,6 +74,8 @@ class ScriptedDialogs : public Dialogs {
     std::vector<ShownBox> told;
     std::vector<QString> openFolders;
     std::vector<QString> saveFolders;
+    /// The names that stood in the save dialog.
+    std::vector<QString> saveBeginnings;
 
   private:
     template <typename T>

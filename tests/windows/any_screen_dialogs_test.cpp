@@ -33,7 +33,7 @@ TEST_F(AnyScreen, HoldsTheFileDialogs)
     WhileShown<QFileDialog>([](QFileDialog& dialog) { ExpectOnScreen(dialog); });
     screen.AskOpenName(QDir::currentPath());
     WhileShown<QFileDialog>([](QFileDialog& dialog) { ExpectOnScreen(dialog); });
-    screen.AskSaveName(QDir::currentPath());
+    screen.AskSaveName(QDir::currentPath(), {});
 }
 
 TEST_F(AnyScreen, ShowsTheColumnsOfTheFileDialogWhole)

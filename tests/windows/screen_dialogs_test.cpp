@@ -192,14 +192,14 @@ TEST_F(RealFileDialog, AddsTheDefaultExtensionWhenSaving)
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
         Type(dialog, "nuovo");
     });
-    EXPECT_EQ(screen.AskSaveName(QDir::currentPath()), Path("nuovo.bmp"));
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path("nuovo.bmp"));
 }
 
 TEST_F(RealFileDialog, AsksNoQuestionOfItsOwnAboutAnExistingFile)
 {
     Write("s.bmp", "vecchio");
     Meanwhile([](QFileDialog& dialog) { Type(dialog, "s.bmp"); });
-    EXPECT_EQ(screen.AskSaveName(QDir::currentPath()), Path("s.bmp"));
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path("s.bmp"));
 }
 
 }  // namespace
