@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTimer>
 
 namespace pixano {
@@ -17,9 +18,11 @@ void BringBackIfMinimised(QObject& changed)
     QTimer::singleShot(0, window, [window] { BringForward(*window); });
 }
 
-bool IsRepeatedReturn(const QKeyEvent& event)
+bool ActsOnceOnly(const QKeyEvent& event, const QObject& watched)
 {
-    return event.isAutoRepeat() && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool isCharacter = event.key() < Qt::Key_Escape;
+    return isReturn || (isCharacter && qobject_cast<const QMenu*>(&watched) != nullptr);
 }
 
 }  // namespace
@@ -32,8 +35,10 @@ Manners::Manners()
 bool Manners::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::WindowStateChange) BringBackIfMinimised(*watched);
-    if (event->type() == QEvent::KeyPress && IsRepeatedReturn(*static_cast<QKeyEvent*>(event)))
-        return true;
+    if (event->type() == QEvent::KeyPress) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.isAutoRepeat() && ActsOnceOnly(key, *watched)) return true;
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -10,6 +10,7 @@ namespace pixano {
 ///   program would seem dead. A window manager may offer to minimise it whatever it is asked for.
 /// - The return key does once what it does, however long it is held down: what it starts may take
 ///   seconds, and would be started again for every time that the key has repeated meanwhile.
+/// - So does a letter in a menu: the one that has opened it would choose an entry of it.
 class Manners : public QObject {
     Q_OBJECT
 

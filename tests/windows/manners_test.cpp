@@ -2,11 +2,12 @@
 #include "support/program.h"
 
 #include <QDialog>
+#include <QMenu>
 
 namespace pixano::test {
 namespace {
 
-class HeldReturn : public Program {
+class HeldKey : public Program {
   protected:
     /// The key goes down, or repeats because it is still down.
     static void Send(QWidget& window, int key, bool repeats)
@@ -16,7 +17,7 @@ class HeldReturn : public Program {
     }
 };
 
-TEST_F(HeldReturn, PressesAButtonOnce)
+TEST_F(HeldKey, PressesAButtonOnce)
 {
     Open("a.bmp", Drawn({"abc", "def"}));
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -27,7 +28,25 @@ TEST_F(HeldReturn, PressesAButtonOnce)
     }
 }
 
-TEST_F(HeldReturn, AnswersNoQuestionThatComesMeanwhile)
+TEST_F(HeldKey, ChoosesNothingInTheMenuThatItHasOpened)
+{
+    Open("a.bmp", Drawn({"abc"}));
+    auto& menu = *session.form1.findChild<QMenu*>("Effetti");
+    menu.popup({});
+    for (const bool repeats : {true, false}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_E, Qt::AltModifier, "e", repeats);
+        QApplication::sendEvent(&menu, &event);
+        EXPECT_EQ(menu.activeAction() == nullptr, repeats);
+    }
+    // An arrow walks on.
+    const QAction* const before = menu.activeAction();
+    QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&menu, &up);
+    EXPECT_NE(menu.activeAction(), before);
+    menu.close();
+}
+
+TEST_F(HeldKey, AnswersNoQuestionThatComesMeanwhile)
 {
     QDialog question;
     auto* const answer = new QPushButton("OK", &question);
