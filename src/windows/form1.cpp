@@ -161,7 +161,10 @@ void Form1::GiveTheBarTheKeys()
 bool Form1::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) opening_.start(0);
-    return QMainWindow::event(event);
+    const bool done = QMainWindow::event(event);
+    // Left by way of another window, the bar would have the keyboard again afterwards.
+    if (event->type() == QEvent::WindowDeactivate && focusWidget() == menuBar()) setFocus();
+    return done;
 }
 
 int Form1::PositionOf(std::string_view name) const
