@@ -79,9 +79,8 @@ void Carica(Session& s, Surface picture)
     constexpr double CanvasHeight = 16.8;
     constexpr double PreviewWidth = 15;
     constexpr double PreviewHeight = 15.2;
-    std::vector<QWidget*> raised{&s.form10};
-    for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9})
-        if (window->isMinimized()) raised.push_back(window);
+    std::vector<QWidget*> raised{&s.form9, &s.form10};
+    if (s.form2.isMinimized()) raised.push_back(&s.form2);
     Work& w = s.work;
     PutOnCanvas(w, std::move(picture));
     s.form2.Picture1().FitPicture();
@@ -98,7 +97,7 @@ void Carica(Session& s, Surface picture)
         s.form9.SetInside(inside);
     else
         PlacePreview(s.form9, inside, s.form2);
-    ShowAgain(s.form9);
+    ShowInFront(s.form9);
     OpenOnScreenOf(s.form1, s.form10);
     ShowInFront(s.form10);
     BringForward(s.form1);

@@ -100,6 +100,8 @@ Form10::Form10(PaletteTable buttons)
     setWindowTitle("Strumenti");
     setAccessibleName("Strumenti");
     setAttribute(Qt::WA_ShowWithoutActivating);
+    // After an opening another window has the focus, and what the signs mean is not known yet.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint);
     auto* const layout = new QVBoxLayout(this);

@@ -39,17 +39,17 @@ QSize LargestInside(const QWidget& window)
     return available.shrunkBy(FrameOf(window)).expandedTo(QSize(1, 1));
 }
 
-void KeepWithin(const QRect& room, QWidget& window)
+QPoint PlaceWithin(const QRect& room, const QWidget& window, QPoint place)
 {
     const QSize whole = window.size().grownBy(FrameOf(window));
-    const QPoint place(Within(window.x(), whole.width(), room.x(), room.x() + room.width()),
-                       Within(window.y(), whole.height(), room.y(), room.y() + room.height()));
-    if (place != window.pos()) window.move(place);
+    return {Within(place.x(), whole.width(), room.x(), room.x() + room.width()),
+            Within(place.y(), whole.height(), room.y(), room.y() + room.height())};
 }
 
 void KeepOnScreen(QWidget& window)
 {
-    KeepWithin(window.screen()->availableGeometry(), window);
+    const QPoint place = PlaceWithin(window.screen()->availableGeometry(), window, window.pos());
+    if (place != window.pos()) window.move(place);
 }
 
 }  // namespace pixano

@@ -18,11 +18,11 @@ QMargins FrameOf(const QWidget& window);
 /// The largest inside that the window can have on its screen.
 QSize LargestInside(const QWidget& window);
 
-/// Moves the window as far as it takes for its frame to be within `room`; one that is too large
-/// begins at the upper left corner.
-void KeepWithin(const QRect& room, QWidget& window);
+/// The place nearest to `place` at which the window, with its frame, is within `room`; one that is
+/// too large begins at the upper left corner.
+QPoint PlaceWithin(const QRect& room, const QWidget& window, QPoint place);
 
-/// The same within what its screen leaves.
+/// Moves the window as far as it takes for it to be within what its screen leaves.
 void KeepOnScreen(QWidget& window);
 
 }  // namespace pixano

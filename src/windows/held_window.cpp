@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -28,12 +29,18 @@ void HeldWindow::SetInside(QSize size)
 {
     stated_ = size.expandedTo(QSize(1, 1));
     const QSize before = this->size();
-    const bool moved = MovedByUser();
+    if (StandsElsewhere()) {
+        home_ = pos();
+        moved_ = true;
+    }
+    LetItsSizeChange();
     resize(Held(stated_));
     ShowBarsOnlyWhenHeld();
-    // Grown where it stands, it would grow off the screen.
-    if (isVisible() && this->size() != before) KeepWithin(RoomToGrow(), *this);
-    if (!moved) placed_ = pos();
+    if (isVisible() && this->size() != before) {
+        const QPoint place = PlaceWithin(RoomToGrow(), *this, home_);
+        if (place != pos()) move(place);
+    }
+    placed_ = pos();
     sincePlaced_.invalidate();
 }
 
@@ -66,6 +73,8 @@ QSize HeldWindow::Held(QSize size) const
 void HeldWindow::PlaceAt(QPoint place)
 {
     placed_ = place;
+    home_ = place;
+    moved_ = false;
     sincePlaced_.start();
     move(place);
 }
@@ -100,6 +109,27 @@ void HeldWindow::resizeEvent(QResizeEvent* event)
 {
     ShowBarsOnlyWhenHeld();
     QScrollArea::resizeEvent(event);
+}
+
+/// Some window managers maximise a window that appears nearly as large as the screen, over what it
+/// leaves free beside it. One of a fixed size they leave alone.
+void HeldWindow::showEvent(QShowEvent* event)
+{
+    constexpr int Appearing = 1000;
+    QScrollArea::showEvent(event);
+    const QSize screen = this->screen()->availableSize();
+    const bool large = 4 * width() * height() > 3 * screen.width() * screen.height();
+    if (event->spontaneous() || !large) return;
+    windowHandle()->setMinimumSize(size());
+    windowHandle()->setMaximumSize(size());
+    QTimer::singleShot(Appearing, this, &HeldWindow::LetItsSizeChange);
+}
+
+void HeldWindow::LetItsSizeChange()
+{
+    if (windowHandle() == nullptr) return;
+    windowHandle()->setMinimumSize(minimumSize());
+    windowHandle()->setMaximumSize(maximumSize());
 }
 
 /// Some window managers draw the frame anew for another title, and lose what was painted inside

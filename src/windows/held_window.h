@@ -17,15 +17,16 @@ class HeldWindow : public QScrollArea {
     explicit HeldWindow(QWidget* inside);
 
     /// Gives the window's inside this size in pixels. Where the free screen is smaller it is held
-    /// to what `leftFree` and `titleFree` leave of that.
+    /// to what `leftFree` and `titleFree` leave of that. A window that would grow off the screen
+    /// gives way, and goes back to its place when it is smaller again.
     void SetInside(QSize size);
     /// The inside that it would then have, in pixels.
     QSize Held(QSize size) const;
 
     /// Moves the window there.
     void PlaceAt(QPoint place);
-    /// Whether it stands elsewhere than the program has put it.
-    bool MovedByUser() const { return !placed_ || pos() != *placed_; }
+    /// Whether the user has moved it since.
+    bool MovedByUser() const { return moved_ || StandsElsewhere(); }
 
     /// What a window that is held leaves free beside it, for another one.
     int leftFree = 0;
@@ -45,8 +46,11 @@ class HeldWindow : public QScrollArea {
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
+    /// Whether it stands elsewhere than the program has put it.
+    bool StandsElsewhere() const { return !placed_ || pos() != *placed_; }
     /// What it has of the free screen, with its frame.
     QRect Room(bool held) const;
     /// What it is kept within when its size changes: beside `leftFree` too if it fits there.
@@ -54,11 +58,14 @@ class HeldWindow : public QScrollArea {
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Asks the window manager for place and size once more.
     void AskAgain();
+    void LetItsSizeChange();
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();
 
     QSize stated_;
-    std::optional<QPoint> placed_;
+    std::optional<QPoint> placed_;  ///< where the program has put it
+    QPoint home_;                   ///< where it belongs: there, but for what it gives way
+    bool moved_ = false;
     QElapsedTimer sincePlaced_;
 };
 

@@ -34,7 +34,7 @@ void NeverCovered::RaiseCovered() const
     QWidget* const used = QApplication::activeWindow();
     for (QWidget* const window : small_) {
         if (!IsOnScreen(*window)) continue;
-        QRegion seen = window->frameGeometry();
+        QRegion seen = window->frameGeometry() & window->screen()->virtualGeometry();
         for (const QWidget* const larger : large_)
             if (IsOnScreen(*larger) && stacking_.IsAbove(*larger, *window))
                 seen -= larger->frameGeometry();
@@ -46,20 +46,34 @@ void NeverCovered::RaiseCovered() const
     }
 }
 
-void NeverCovered::LeaveTitleFree(const QWidget& maximised) const
+void NeverCovered::LeaveTitleFree(const QWidget& maximised)
 {
     QRect title = maximised.screen()->availableGeometry();
     title.setHeight(FrameOf(maximised).top());
     for (QWidget* const window : small_)
-        if (IsOnScreen(*window) && window->frameGeometry().intersects(title))
-            window->move(window->x(), title.bottom() + 1);
+        if (IsOnScreen(*window) && window->frameGeometry().intersects(title)) {
+            const QPoint below(window->x(), title.bottom() + 1);
+            givenWay_.push_back({window, window->pos(), below});
+            window->move(below);
+        }
+}
+
+void NeverCovered::ReturnToPlaces()
+{
+    for (const GivenWay& moved : std::exchange(givenWay_, {}))
+        if (moved.window->pos() == moved.to) moved.window->move(moved.from);
 }
 
 bool NeverCovered::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize) RaiseCovered();
-    const auto& window = static_cast<const QWidget&>(*watched);
-    if (event->type() == QEvent::WindowStateChange && window.isMaximized()) LeaveTitleFree(window);
+    if (event->type() == QEvent::WindowStateChange) {
+        const auto& window = static_cast<const QWidget&>(*watched);
+        if (window.isMaximized())
+            LeaveTitleFree(window);
+        else if (std::ranges::none_of(large_, &QWidget::isMaximized))
+            ReturnToPlaces();
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -27,10 +27,18 @@ class NeverCovered : public QObject {
     void RaiseCovered() const;
     /// Moves the small windows off the title of a window that has just been maximised: they lie
     /// above it, and it has its buttons there.
-    void LeaveTitleFree(const QWidget& maximised) const;
+    void LeaveTitleFree(const QWidget& maximised);
+    void ReturnToPlaces();
+
+    struct GivenWay {
+        QWidget* window;
+        QPoint from;
+        QPoint to;
+    };
 
     std::vector<QWidget*> small_;
     std::vector<QWidget*> large_;
+    std::vector<GivenWay> givenWay_;
     Stacking stacking_;
 };
 

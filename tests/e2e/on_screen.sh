@@ -1,14 +1,17 @@
 #!/usr/bin/env bash
-# The tests of real windows on a real display, of two monitors side by side.
+# The tests of real windows on a real display, of two monitors side by side; of one of $SCREEN_SIZE where that is given.
 # Usage: on_screen.sh TEST_PROGRAM [ARGUMENT...]
 # shellcheck source-path=SCRIPTDIR
 
-SCREEN_SIZE=2560x960
+monitors=${SCREEN_SIZE:+1}
+SCREEN_SIZE=${SCREEN_SIZE:-2560x960}
 # shellcheck source=screen.sh
 . "$(dirname "$0")/screen.sh"
 
 [ "$WINDOW_MANAGER" = openbox ] || start_bus
 start_screen
-xrandr --setmonitor sinistro 1280/320x960/240+0+0 screen
-xrandr --setmonitor destro 1280/320x960/240+1280+0 none
+if [ -z "$monitors" ]; then
+    xrandr --setmonitor sinistro 1280/320x960/240+0+0 screen
+    xrandr --setmonitor destro 1280/320x960/240+1280+0 none
+fi
 PIXANO_ON_SCREEN=1 "$@"

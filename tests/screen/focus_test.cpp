@@ -7,6 +7,8 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QPushButton>
+#include <QToolTip>
 #include <QWindow>
 
 #include <set>
@@ -40,6 +42,16 @@ TEST_F(Focus, IsGivenToNoWindowThatOnlyAppears)
     EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
     QObject::disconnect(seen);
     EXPECT_TRUE(focused.empty() || RaisesWithFocus()) << focused.begin()->toStdString();
+}
+
+TEST_F(Focus, IsNotNeededForThePaletteToTellWhatItsSignsMean)
+{
+    OpenSized(300, 200);
+    EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
+    const QPushButton& sign = Button("SSCommand7");
+    const QPoint place = sign.mapToGlobal(sign.rect().center());
+    Do(QString("mousemove %1 %2 mousemove_relative 2 2").arg(place.x()).arg(place.y()));
+    EXPECT_TRUE(ComesToHold([&] { return QToolTip::text() == sign.toolTip(); }));
 }
 
 TEST_F(Focus, LeavesABlankWithNothingToDoOnceItsButtonIsOff)
@@ -126,7 +138,7 @@ TEST_F(Minimised, AWindowThatWaitsForAnAnswerComesBack)
         [&] { real.Ask(BoxIcon::Question, "Messaggio!", "Salvare?"); },
         [&] { real.Tell(BoxIcon::Exclamation, "Attenzione!", "Fatto."); },
         [&] { real.AskOpenName(QDir::currentPath()); },
-        [&] { real.AskSaveName(QDir::currentPath()); },
+        [&] { real.AskSaveName(QDir::currentPath(), {}); },
         [&] { Form11("Vetro", session.form10).exec(); },
         [&] { Form6().exec(); },
     };

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QMenu>
+#include <QMenuBar>
 #include <QWindow>
 
 namespace pixano::test {
@@ -18,6 +19,11 @@ class MenusAtHand : public Desktop {
     {
         Do("key Escape Escape");
         EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() == nullptr; }));
+    }
+    static void Maximise(QWidget& window)
+    {
+        window.showMaximized();
+        EXPECT_TRUE(Stays([&] { return window.width() > 1000; }));
     }
     void ExpectNotCoveredBy(const QWidget& large)
     {
@@ -60,6 +66,23 @@ TEST_F(MenusAtHand, TakeNoLetterOnceTheyAreClosed)
         CloseMenus();
         Do("key e");
         EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; })) << keys;
+    }
+}
+
+TEST_F(MenusAtHand, TakeNoLetterOnceAnotherWindowWasUsed)
+{
+    OpenSized(300, 200);
+    const std::vector<std::vector<const char*>> ways{{"alt"}, {"alt", "Left"}, {"F10", "Left"}};
+    for (const std::vector<const char*>& keys : ways) {
+        Activate(session.form1);
+        for (const char* const key : keys)
+            Do(QString("key ") + key);
+        EXPECT_TRUE(ComesToHold([this] { return session.form1.menuBar()->hasFocus(); }));
+        Activate(session.form9);
+        Activate(session.form1);
+        Do("key e");
+        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }))
+            << keys.front() << " and " << keys.back();
     }
 }
 
@@ -157,6 +180,21 @@ TEST_F(MenusAtHand, AreNeverCoveredByTheCanvasThatIsRaised)
     }
 }
 
+TEST_F(MenusAtHand, AreNotCoveredWhereTheyHangOffTheScreenEither)
+{
+    OpenSized(300, 200);
+    const int bottom = session.form1.screen()->geometry().bottom();
+    for (QWidget* const window : std::initializer_list<QWidget*>{&session.form1, &session.form10}) {
+        window->move(window->x(), bottom - 25);
+        Maximise(session.form2);
+        Do("windowraise " + Id(session.form2));
+        EXPECT_TRUE(StaysOnceAnswered([&] { return IsAbove(*window, session.form2); }))
+            << window->objectName().toStdString();
+        session.form2.showNormal();
+        EXPECT_TRUE(Stays([&] { return session.form2.width() < 1000; }));
+    }
+}
+
 TEST_F(MenusAtHand, LeaveTheButtonsOfAMaximisedWindowInReach)
 {
     for (QWidget* const large : std::initializer_list<QWidget*>{&session.form2, &session.form9}) {
@@ -164,12 +202,11 @@ TEST_F(MenusAtHand, LeaveTheButtonsOfAMaximisedWindowInReach)
         OpenSized(300, 200);
         session.form10.move(session.form10.x(), 0);
         EXPECT_TRUE(Stays([this] { return session.form10.y() == 0; }));
-        large->showMaximized();
-        EXPECT_TRUE(Stays([&] { return large->width() > 1000; }));
+        Maximise(*large);
         EXPECT_GE(session.form10.y(), large->geometry().top());
         ExpectNotCoveredBy(*large);
         large->showNormal();
-        EXPECT_TRUE(Stays([&] { return large->width() < 1000; }));
+        EXPECT_TRUE(Stays([&] { return large->width() < 1000 && session.form10.y() == 0; }));
     }
 }
 

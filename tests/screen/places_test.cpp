@@ -87,6 +87,50 @@ TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
     EXPECT_EQ(session.form9.pos(), moved);
 }
 
+TEST_F(Places, ThePreviewBackThereOnceALargePictureNeedsNoRoomAnyMore)
+{
+    OpenSized(200, 100);
+    ASSERT_TRUE(ComesToHold([&] {
+        Do("windowmove " + Id(session.form9) + " 500 430");
+        return Stays([this] { return session.form9.x() > 400 && session.form9.x() < 600; });
+    }));
+    const QPoint moved = session.form9.pos();
+    OpenSized(2000, 2000);
+    EXPECT_NE(session.form9.pos(), moved);
+    OpenSized(200, 100);
+    EXPECT_TRUE(Stays([&] { return session.form9.pos() == moved; }));
+}
+
+TEST_F(Places, ThePreviewBackInItsCornerOnceItIsAsSmallAgain)
+{
+    OpenSized(400, 300);
+    const QRect before = Preview();
+    for (int i = 0; i < 4; ++i)
+        Button("Command1").click();
+    EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().topLeft() != before.topLeft(); }));
+    for (int i = 0; i < 5; ++i)
+        Button("Command2").click();
+    EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().topLeft() == before.topLeft(); }));
+}
+
+TEST_F(Places, ThePreviewAboveTheCanvasOnEveryOpening)
+{
+    OpenSized(400, 300);
+    for (const int side : {2000, 300, 1500}) {
+        Cover(session.form9, session.form2);
+        OpenSized(side, side);
+        EXPECT_TRUE(Stays([this] { return IsAbove(session.form9, session.form2); })) << side;
+    }
+}
+
+TEST_F(Places, ALargeCanvasBesideThePaletteAsItAppears)
+{
+    OpenSized(2000, 2000);
+    EXPECT_TRUE(StaysOnceAnswered(
+        [this] { return !session.form2.isMaximized() && Canvas().right() < StripLeft(); }));
+    EXPECT_EQ(session.form10.y(), 0);
+}
+
 TEST_F(Places, TheTitlesOfCanvasAndPreviewApart)
 {
     // Much too large, and just so large that it fits, but not below the title too.
