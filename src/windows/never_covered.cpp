@@ -31,7 +31,9 @@ NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> la
 
 void NeverCovered::RaiseCovered() const
 {
-    QWidget* const used = QApplication::activeWindow();
+    QWidget* used = QApplication::activeWindow();
+    // What was raised just now may have the focus for a moment.
+    if (used != nullptr && FocusKeeperOf(*used) != nullptr) used = FocusKeeperOf(*used);
     for (QWidget* const window : small_) {
         if (!IsOnScreen(*window)) continue;
         QRegion seen = window->frameGeometry() & window->screen()->virtualGeometry();

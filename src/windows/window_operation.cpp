@@ -7,33 +7,47 @@
 namespace pixano {
 namespace {
 
-constexpr auto Keeper = "FocusKeeper";
+/// For a moment the window takes the focus back from its parent, as often as that gets it.
+class Keeper : public QObject {
+    Q_OBJECT
 
-QObject* KeeperFrom(const QWidget& raised)
+  public:
+    Keeper(QWidget& window, QWidget& raised) : QObject(&raised), window_(window)
+    {
+        constexpr int Settling = 300;
+        QTimer::singleShot(Settling, this, &QObject::deleteLater);
+        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Keeper::TakeBack);
+    }
+    QWidget& Window() const { return window_; }
+
+  private:
+    void TakeBack(const QWindow* now)
+    {
+        const auto* const raised = static_cast<QWidget*>(parent());
+        if (now != nullptr && now == raised->windowHandle() && window_.isVisible())
+            window_.activateWindow();
+    }
+
+    QWidget& window_;
+};
+
+Keeper* KeeperFrom(const QWidget& raised)
 {
-    return raised.findChild<QObject*>(Keeper, Qt::FindDirectChildrenOnly);
+    return raised.findChild<Keeper*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 }  // namespace
 
 void KeepFocus(QWidget& window, QWidget& raised)
 {
-    constexpr int Settling = 300;
     delete KeeperFrom(raised);
-    auto* const keeper = new QObject(&raised);
-    keeper->setObjectName(Keeper);
-    QTimer::singleShot(Settling, keeper, &QObject::deleteLater);
-    const auto takeBack = [keeper, &window, &raised](const QWindow* now) {
-        if (now == nullptr || now != raised.windowHandle()) return;
-        if (window.isVisible()) window.activateWindow();
-        keeper->deleteLater();
-    };
-    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, keeper, takeBack);
+    new Keeper(window, raised);
 }
 
-bool FocusIsKeptFrom(const QWidget& raised)
+QWidget* FocusKeeperOf(const QWidget& raised)
 {
-    return KeeperFrom(raised) != nullptr;
+    const Keeper* const keeper = KeeperFrom(raised);
+    return keeper == nullptr ? nullptr : &keeper->Window();
 }
 
 void BringForward(QWidget& window)
@@ -44,3 +58,5 @@ void BringForward(QWidget& window)
 }
 
 }  // namespace pixano
+
+#include "window_operation.moc"

@@ -44,9 +44,9 @@ inline QString Id(const QWidget& window)
 }
 
 class Desktop : public Program {
+  protected:
     static constexpr int TimeToAnswer = 150;
 
-  protected:
     Desktop()
     {
         EXPECT_TRUE(ComesToHold([this] { return IsActive(session.form1); }));
@@ -128,7 +128,8 @@ class Desktop : public Program {
         };
         EXPECT_TRUE(Stays([&] {
             return shown(session.form2) && shown(session.form9) && shown(session.form10) &&
-                   !FocusIsKeptFrom(session.form10);
+                   FocusKeeperOf(session.form9) == nullptr &&
+                   FocusKeeperOf(session.form10) == nullptr;
         }));
     }
 

@@ -97,8 +97,10 @@ TEST_F(MenusAtHand, StartAnEntryOfTheBarThatIsWalkedTo)
                                        {&session.form9, "alt+f"},
                                        {&session.form10, "F10"},
                                        {&session.form10, "alt+f"}}) {
-        EXPECT_TRUE(Stays(
-            [this] { return !FocusIsKeptFrom(session.form2) && !FocusIsKeptFrom(session.form9); }));
+        EXPECT_TRUE(Stays([this] {
+            return FocusKeeperOf(session.form2) == nullptr &&
+                   FocusKeeperOf(session.form9) == nullptr;
+        }));
         Activate(*window);
         Do(QString("key ") + keys);
         EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); })) << keys;

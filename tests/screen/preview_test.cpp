@@ -86,11 +86,14 @@ TEST_F(SeenPreview, ComesToTheFrontWhenItIsScaled)
 {
     OpenSized(900, 700);
     for (const char* const magnifier : {"Command1", "Command2"}) {
-        Activate(session.form10);
         Cover(session.form9, session.form2);
+        // The main window comes with it, and may have the focus for that; then somebody presses.
+        QTest::qWait(4 * TimeToAnswer);
+        session.form10.activateWindow();
+        EXPECT_TRUE(ComesToHold([this] { return IsActive(session.form10); }));
         Button(magnifier).click();
         EXPECT_TRUE(ComesToHold([this] { return IsAbove(session.form9, session.form2); }));
-        EXPECT_TRUE(Stays([this] { return IsActive(session.form10); })) << magnifier;
+        EXPECT_TRUE(StaysOnceAnswered([this] { return IsActive(session.form10); })) << magnifier;
         EXPECT_TRUE(IsAbove(session.form10, session.form9));
     }
 }

@@ -1,16 +1,23 @@
 // The keys that stand for menu entries: only while the entry can be used.
 #include "support/program.h"
+#include "windows/window_operation.h"
 
 namespace pixano::test {
 namespace {
 
 class Shortcuts : public Program {
   protected:
+    /// Goes to the window, once an opening lets it have the focus.
+    static void GoTo(QWidget& window)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return FocusKeeperOf(window) == nullptr; }));
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
     /// Presses Ctrl and the key while `window` is in front.
     static void Press(QWidget& window, Qt::Key key)
     {
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        GoTo(window);
         QTest::keyClick(&window, key, Qt::ControlModifier);
     }
     void Press(Qt::Key key) { Press(session.form1, key); }
@@ -72,8 +79,7 @@ TEST_F(Shortcuts, WorkInTheOtherWindowsToo)
 TEST_F(Shortcuts, DoOnceWhatTheyDoHoweverLongTheyAreHeld)
 {
     const auto hold = [](QWidget& window, Qt::Key key) {
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        GoTo(window);
         for (const bool repeats : {false, true, true})
             QTest::simulateEvent(window.windowHandle(), true, key, Qt::ControlModifier, QString(),
                                  repeats);
