@@ -9,12 +9,13 @@ namespace {
 
 /// For a moment the window takes the focus back from its parent, as often as that gets it.
 class Keeper : public QObject {
-    Q_OBJECT
-
   public:
+    static constexpr auto Name = "FocusKeeper";
+
     Keeper(QWidget& window, QWidget& raised) : QObject(&raised), window_(window)
     {
         constexpr int Settling = 300;
+        setObjectName(Name);
         QTimer::singleShot(Settling, this, &QObject::deleteLater);
         connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Keeper::TakeBack);
     }
@@ -33,7 +34,8 @@ class Keeper : public QObject {
 
 Keeper* KeeperFrom(const QWidget& raised)
 {
-    return raised.findChild<Keeper*>(QString(), Qt::FindDirectChildrenOnly);
+    return static_cast<Keeper*>(
+        raised.findChild<QObject*>(Keeper::Name, Qt::FindDirectChildrenOnly));
 }
 
 }  // namespace
@@ -58,5 +60,3 @@ void BringForward(QWidget& window)
 }
 
 }  // namespace pixano
-
-#include "window_operation.moc"
