@@ -13,7 +13,7 @@ configure() {
     if command -v ccache >/dev/null; then
         export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
     fi
-    (cd -- "$project" && cmake --preset "$preset" --fresh --log-level=WARNING) >&2 ||
+    (cd -- "$project" && cmake --preset "$preset" --fresh --log-level=WARNING) >/dev/null ||
         fail 'La configurazione non è riuscita: il motivo è qui sopra.'
 }
 

@@ -73,9 +73,9 @@ bool FileDialog::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
         const QPoint place = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+        const bool beside = !static_cast<QWidget*>(watched)->geometry().contains(place);
         auto* const button = qobject_cast<QPushButton*>(childAt(mapFromGlobal(place)));
-        if (button != nullptr && !static_cast<QWidget*>(watched)->underMouse())
-            QTimer::singleShot(0, button, &QPushButton::click);
+        if (beside && button != nullptr) QTimer::singleShot(0, button, &QPushButton::click);
     }
     return QFileDialog::eventFilter(watched, event);
 }
