@@ -12,7 +12,6 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <initializer_list>
 #include <vector>
 
 namespace pixano {

@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
@@ -50,32 +49,38 @@ FileDialog::FileDialog(FileLooks& looks, const QString& title, const QString& fo
     // A name that does not exist may be typed: the program has its own message for it.
     setFileMode(QFileDialog::AnyFile);
     setDirectory(ExistingFolder(folder));
-    auto* const name = findChild<QLineEdit*>("fileNameEdit");
+    QLineEdit& name = Name();
     // Whichever way a folder is entered: pressed, named, or from the list of places. What was
     // offered for the name goes with it.
-    const auto forgetName = [name] {
-        name->clear();
-        if (name->completer() != nullptr) name->completer()->popup()->hide();
+    const auto forgetName = [&name] {
+        name.clear();
+        name.completer()->popup()->hide();
     };
-    connect(findChild<QFileSystemModel*>(), &QFileSystemModel::rootPathChanged, name, forgetName,
+    connect(findChild<QFileSystemModel*>(), &QFileSystemModel::rootPathChanged, &name, forgetName,
             Qt::QueuedConnection);
-    name->completer()->popup()->installEventFilter(this);
+    name.completer()->popup()->installEventFilter(this);
+}
+
+QLineEdit& FileDialog::Name() const
+{
+    return *findChild<QLineEdit*>("fileNameEdit");
 }
 
 void FileDialog::BeginWith(const QString& name)
 {
-    auto* const typed = findChild<QLineEdit*>("fileNameEdit");
-    typed->setText(name);
-    typed->selectAll();
+    Name().setText(name);
+    Name().selectAll();
 }
 
 bool FileDialog::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
-        const QPoint place = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+        const auto& press = *static_cast<QMouseEvent*>(event);
+        const QPoint place = press.globalPosition().toPoint();
         const bool beside = !static_cast<QWidget*>(watched)->geometry().contains(place);
         auto* const button = qobject_cast<QPushButton*>(childAt(mapFromGlobal(place)));
-        if (beside && button != nullptr) QTimer::singleShot(0, button, &QPushButton::click);
+        if (press.button() == Qt::LeftButton && beside && button != nullptr)
+            QTimer::singleShot(0, button, &QPushButton::click);
     }
     return QFileDialog::eventFilter(watched, event);
 }
@@ -92,7 +97,7 @@ std::optional<QString> FileDialog::AskName()
 
 void FileDialog::accept()
 {
-    const QString text = findChild<QLineEdit*>("fileNameEdit")->text();
+    const QString text = Name().text();
     if (!IsLostOnToolkit(text)) {
         QFileDialog::accept();
         return;

@@ -5,6 +5,7 @@
 #include "windows/file_looks.h"
 
 #include <QFileDialog>
+#include <QLineEdit>
 
 #include <optional>
 
@@ -25,10 +26,12 @@ class FileDialog : public QFileDialog {
 
   protected:
     void accept() override;
-    /// A press beside the list of what could be meant closes that, and does nothing more.
+    /// Presses a button that is pressed beside the list of names: the toolkit only closes that.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// Where the name is typed.
+    QLineEdit& Name() const;
     void ShowWholeColumns();
 
     /// What was typed where the toolkit itself would give no answer.

@@ -33,7 +33,8 @@ void NeverCovered::RaiseCovered() const
 {
     QWidget* used = QApplication::activeWindow();
     // What was raised just now may have the focus for a moment.
-    if (used != nullptr && FocusKeeperOf(*used) != nullptr) used = FocusKeeperOf(*used);
+    if (used != nullptr)
+        if (QWidget* const keeper = FocusKeeperOf(*used)) used = keeper;
     for (QWidget* const window : small_) {
         if (!IsOnScreen(*window)) continue;
         QRegion seen = window->frameGeometry() & window->screen()->virtualGeometry();
