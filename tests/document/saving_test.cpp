@@ -169,6 +169,7 @@ TEST_F(Saving, AsksAgainWhereNoLetterOfTheNameWouldBeLeft)
         dialogs.saveNames = {Path(name), std::nullopt};
         ClickEntry(entry::Salva);
         EXPECT_TRUE(dialogs.saveNames.empty());
+        EXPECT_EQ(dialogs.saveBeginnings.back(), QFileInfo(name).fileName());
         EXPECT_EQ(dialogs.told,
                   (std::vector<ShownBox>{
                       {BoxIcon::Exclamation, "Attenzione!",

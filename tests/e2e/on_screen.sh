@@ -3,14 +3,14 @@
 # Usage: on_screen.sh TEST_PROGRAM [ARGUMENT...]
 # shellcheck source-path=SCRIPTDIR
 
-monitors=${SCREEN_SIZE:+1}
+one_monitor=${SCREEN_SIZE:+yes}
 SCREEN_SIZE=${SCREEN_SIZE:-2560x960}
 # shellcheck source=screen.sh
 . "$(dirname "$0")/screen.sh"
 
 [ "$WINDOW_MANAGER" = openbox ] || start_bus
 start_screen
-if [ -z "$monitors" ]; then
+if [ -z "$one_monitor" ]; then
     xrandr --setmonitor sinistro 1280/320x960/240+0+0 screen
     xrandr --setmonitor destro 1280/320x960/240+1280+0 none
 fi

@@ -13,6 +13,18 @@ class Places : public Desktop {
   protected:
     QRect Canvas() const { return session.form2.frameGeometry(); }
     QRect Preview() const { return session.form9.frameGeometry(); }
+    /// Moves the preview as a person does; gives where it stands then.
+    QPoint PreviewMovedByHand()
+    {
+        const auto there = [this] { return session.form9.x() > 400 && session.form9.x() < 600; };
+        // At first it is taken for the window manager: a person who sees the window go back moves
+        // it once more.
+        EXPECT_TRUE(ComesToHold([&] {
+            Do("windowmove " + Id(session.form9) + " 500 430");
+            return Stays(there);
+        }));
+        return session.form9.pos();
+    }
     int StripLeft() const { return session.form1.screen()->geometry().right() + 1 - 217; }
     /// Whether it is smaller than what it shows.
     static bool IsHeld(const HeldWindow& window)
@@ -75,14 +87,7 @@ TEST_F(Places, ThePreviewBesideThePaletteAsLongAsItFitsThere)
 TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
 {
     OpenSized(200, 100);
-    // At first it is taken for the window manager: a person who sees the window go back moves it
-    // once more.
-    const auto there = [this] { return session.form9.x() > 400 && session.form9.x() < 600; };
-    ASSERT_TRUE(ComesToHold([&] {
-        Do("windowmove " + Id(session.form9) + " 500 430");
-        return Stays(there);
-    }));
-    const QPoint moved = session.form9.pos();
+    const QPoint moved = PreviewMovedByHand();
     OpenSized(220, 120);
     EXPECT_EQ(session.form9.pos(), moved);
 }
@@ -90,11 +95,7 @@ TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
 TEST_F(Places, ThePreviewBackThereOnceALargePictureNeedsNoRoomAnyMore)
 {
     OpenSized(200, 100);
-    ASSERT_TRUE(ComesToHold([&] {
-        Do("windowmove " + Id(session.form9) + " 500 430");
-        return Stays([this] { return session.form9.x() > 400 && session.form9.x() < 600; });
-    }));
-    const QPoint moved = session.form9.pos();
+    const QPoint moved = PreviewMovedByHand();
     OpenSized(2000, 2000);
     EXPECT_NE(session.form9.pos(), moved);
     OpenSized(200, 100);
@@ -128,6 +129,7 @@ TEST_F(Places, ALargeCanvasBesideThePaletteAsItAppears)
     OpenSized(2000, 2000);
     EXPECT_TRUE(StaysOnceAnswered(
         [this] { return !session.form2.isMaximized() && Canvas().right() < StripLeft(); }));
+    EXPECT_FALSE(session.form9.isMaximized());
     EXPECT_EQ(session.form10.y(), 0);
 }
 
