@@ -61,7 +61,7 @@ std::vector<GivenCommand> EffectCommands()
     std::vector<GivenCommand> commands;
     for (const auto& [index, name] : EffectEntries)
         commands.push_back({.name = std::string("menu: ") + name,
-                            .give = [index = index](Desk& d) { d.Entry(index).trigger(); },
+                            .give = [entry = index](Desk& d) { d.Entry(entry).trigger(); },
                             .scenes = both,
                             .effect = FindEffect(name)});
     for (const PaletteButton& button : PaletteButtons()) {

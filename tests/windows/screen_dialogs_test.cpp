@@ -97,19 +97,19 @@ TEST_F(RealBox, ShowsTheProgramsOwnIconsAndNoneOnButtons)
          {std::tuple(BoxIcon::Question, "domanda", QMessageBox::Question),
           {BoxIcon::Exclamation, "avviso", QMessageBox::Warning},
           {BoxIcon::Critical, "errore", QMessageBox::Critical}}) {
-        Meanwhile([&, name = name, shown = shown](QMessageBox& box) {
-            EXPECT_EQ(box.icon(), shown);
+        Meanwhile([&, drawing = name, kind = shown](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), kind);
             const QIcon standard = box.style()->standardIcon(
-                shown == QMessageBox::Question  ? QStyle::SP_MessageBoxQuestion
-                : shown == QMessageBox::Warning ? QStyle::SP_MessageBoxWarning
-                                                : QStyle::SP_MessageBoxCritical);
+                kind == QMessageBox::Question  ? QStyle::SP_MessageBoxQuestion
+                : kind == QMessageBox::Warning ? QStyle::SP_MessageBoxWarning
+                                               : QStyle::SP_MessageBoxCritical);
             const QImage fine =
                 standard.pixmap(QSize(48, 48), 2).toImage().convertToFormat(QImage::Format_ARGB32);
-            EXPECT_EQ(fine.size(), QSize(96, 96)) << name;
-            EXPECT_EQ(fine.pixel(48, 70), Drawn(name).pixel(48, 70)) << name;
-            EXPECT_EQ(box.iconPixmap().deviceIndependentSize(), QSizeF(48, 48)) << name;
+            EXPECT_EQ(fine.size(), QSize(96, 96)) << drawing;
+            EXPECT_EQ(fine.pixel(48, 70), Drawn(drawing).pixel(48, 70)) << drawing;
+            EXPECT_EQ(box.iconPixmap().deviceIndependentSize(), QSizeF(48, 48)) << drawing;
             for (const QAbstractButton* const button : box.buttons())
-                EXPECT_TRUE(button->icon().isNull()) << name;
+                EXPECT_TRUE(button->icon().isNull()) << drawing;
             box.button(QMessageBox::No)->click();
         });
         EXPECT_FALSE(dialogs.Ask(icon, "Avviso!", "?"));
