@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
-#include <limits>
+#include <vector>
 
 namespace pixano::bench {
 
@@ -21,26 +21,44 @@ double Timed(Call&& call)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+/// The seconds that something took, turn by turn.
+class Times {
+  public:
+    void Add(double seconds) { seconds_.push_back(seconds); }
+    /// Of the turn least disturbed.
+    double Shortest() const { return *std::ranges::min_element(seconds_); }
+    double Median() const
+    {
+        auto sorted = seconds_;
+        std::ranges::sort(sorted);
+        return sorted[sorted.size() / 2];
+    }
+
+  private:
+    std::vector<double> seconds_;
+};
+
 /// Runs the row's iterations: `prepare`, `compared` and `between` outside its time, `measured`
-/// inside. The counter `ratio` says how many times `compared` the row takes; of both the shortest
-/// time counts, the one least disturbed. Gives that of the row, in seconds.
+/// inside. The counter `ratio` says how many times `compared` the row takes, by the shortest time
+/// of each, `x_median` the same by their medians. Gives the row's shortest, in seconds.
 template <typename Prepare, typename Compared, typename Measured,
           typename Between = decltype([] {})>
 double Measure(benchmark::State& state, const char* ratio, Prepare prepare, Compared compared,
                Measured measured, Between between = {})
 {
-    double own = std::numeric_limits<double>::max();
-    double other = own;
+    Times own;
+    Times other;
     for ([[maybe_unused]] auto turn : state) {
         prepare();
-        other = std::min(other, Timed(compared));
+        other.Add(Timed(compared));
         between();
         const double seconds = Timed(measured);
-        own = std::min(own, seconds);
+        own.Add(seconds);
         state.SetIterationTime(seconds);
     }
-    state.counters[ratio] = own / other;
-    return own;
+    state.counters[ratio] = own.Shortest() / other.Shortest();
+    state.counters["x_median"] = own.Median() / other.Median();
+    return own.Shortest();
 }
 
 /// A picture such as a camera makes: large soft shapes, hard edges, noise. The same on every run.

@@ -96,17 +96,19 @@ void BareDecoding(const std::string& path)
     std::fclose(file);
 }
 
-/// Takes turns; prints how many times `compared` the `measured` takes, by the shortest of each.
+/// Takes turns; prints how many times `compared` the `measured` takes, by the shortest of each
+/// and by their medians.
 template <typename Compared, typename Measured>
 void Row(const char* name, Compared compared, Measured measured)
 {
-    double own = std::numeric_limits<double>::max();
-    double other = own;
+    Times own;
+    Times other;
     for (int turn = 0; turn < Turns; ++turn) {
-        other = std::min(other, Timed(compared));
-        own = std::min(own, Timed(measured));
+        other.Add(Timed(compared));
+        own.Add(Timed(measured));
     }
-    std::printf("%s: %.2f (%.0f ms)\n", name, own / other, own * 1e3);
+    std::printf("%s: %.2f, median %.2f (%.0f ms)\n", name, own.Shortest() / other.Shortest(),
+                own.Median() / other.Median(), own.Shortest() * 1e3);
 }
 
 /// The pixel file's text of a capture of the canvas.
