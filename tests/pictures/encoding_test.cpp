@@ -107,7 +107,9 @@ TEST(Encoding, LongFilesAreWholeToTheirLastByte)
                   (std::vector{std::byte{0xFF}, std::byte{0xD9}}));
         // One mark of the end, and only one.
         const std::byte end[] = {std::byte{0xFF}, std::byte{0xD9}};
-        EXPECT_EQ(std::ranges::search(jpeg.Vector(), end).begin(), jpeg.Vector().end() - 2);
+        EXPECT_EQ(
+            std::search(jpeg.Vector().begin(), jpeg.Vector().end(), std::begin(end), std::end(end)),
+            jpeg.Vector().end() - 2);
     }
 }
 

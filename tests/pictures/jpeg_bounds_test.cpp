@@ -32,7 +32,8 @@ Bytes WithFrameByte(std::ptrdiff_t place, int value)
 {
     Bytes file = MakeJpeg(Shaded(16, 16));
     const std::byte mark[] = {std::byte{0xFF}, std::byte{0xC0}};
-    const auto frame = std::ranges::search(file.Vector(), mark).begin();
+    const auto frame =
+        std::search(file.Vector().begin(), file.Vector().end(), std::begin(mark), std::end(mark));
     frame[2 + place] = static_cast<std::byte>(value);
     return file;
 }
