@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -33,6 +34,19 @@ QPushButton* Button(const QString& name, const QString& caption)
     return button;
 }
 
+/// Where the number being typed is seen.
+QLabel* TypedNumber()
+{
+    auto* const typed = new QLabel;
+    typed->setObjectName("Typed");
+    typed->setAccessibleName("Numero scritto");
+    typed->setTextFormat(Qt::PlainText);
+    typed->setAlignment(Qt::AlignCenter);
+    // Its place stays: another size would make the window read the strengths again.
+    typed->setFixedHeight(typed->fontMetrics().height());
+    return typed;
+}
+
 }  // namespace
 
 Form11::Form11(const QString& effect, const QWidget& palette)
@@ -47,13 +61,7 @@ Form11::Form11(const QString& effect, const QWidget& palette)
     BuildSlider();
     label1_->setObjectName("Label1");
     label1_->setAlignment(Qt::AlignCenter);
-    // Its place stays: another size would make the window read the strengths again.
-    auto* const typed = new QLabel;
-    typed->setObjectName("Typed");
-    typed->setAccessibleName("Numero scritto");
-    typed->setTextFormat(Qt::PlainText);
-    typed->setAlignment(Qt::AlignCenter);
-    typed->setFixedHeight(typed->fontMetrics().height());
+    auto* const typed = TypedNumber();
     connect(slider1_, &TypedSlider::Typed, typed, &QLabel::setText);
     auto* const ok = Button("Command1", "OK");
     auto* const cancel = Button("Command2", "Annulla");
@@ -66,13 +74,10 @@ Form11::Form11(const QString& effect, const QWidget& palette)
     layout->addWidget(slider1_);
     layout->addWidget(typed);
     layout->addLayout(buttons);
-    // The controls reach no further to the right than the palette, which stands at the edge of the
-    // screen; for the title the window may.
     const int beside = palette.width() - Pixels(RightOfLeft);
-    const int controls = std::max(beside, layout->minimumSize().width());
-    const int width = std::max(controls, TitleWidth(effect));
-    layout->setContentsMargins(layout->contentsMargins() + QMargins(0, 0, width - controls, 0));
+    const int width = std::max({beside, layout->minimumSize().width(), TitleWidth(effect)});
     resize(width, layout->sizeHint().height());
+    StayOnScreen();
     slider1_->setFocus();
     connect(slider1_, &QSlider::valueChanged, this, &Form11::TakePosition);
     connect(ok, &QPushButton::clicked, this, &Form11::Confirmed);
@@ -104,6 +109,20 @@ void Form11::ShowStrength(double value)
     const int position = CLng(std::clamp<double>(value, -1, LargestPosition + 1));
     slider1_->setValue(position);
     if (position < 0 || position > LargestPosition) TakePosition(slider1_->value());
+}
+
+void Form11::StayOnScreen()
+{
+    const int beyond = geometry().right() - screen()->geometry().right();
+    QMargins margins = layout()->contentsMargins();
+    margins.setRight(margins.left() + std::max(0, beyond));
+    layout()->setContentsMargins(margins);
+}
+
+void Form11::moveEvent(QMoveEvent* event)
+{
+    QDialog::moveEvent(event);
+    StayOnScreen();
 }
 
 void Form11::resizeEvent(QResizeEvent* event)

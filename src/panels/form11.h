@@ -27,10 +27,14 @@ class Form11 : public QDialog {
     void Confirmed();
 
   protected:
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
     void BuildSlider();
+    /// Leaves the part of the window that lies beyond the screen's right edge empty: a long title
+    /// makes it wider than the palette that it opens on, and not every desktop moves it back.
+    void StayOnScreen();
     void TakePosition(int value);
 
     TypedSlider* slider1_;

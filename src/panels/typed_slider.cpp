@@ -1,8 +1,10 @@
 #include "panels/typed_slider.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QRegularExpression>
 #include <QStyleOptionFocusRect>
+#include <QStyleOptionSlider>
 #include <QStylePainter>
 
 #include <algorithm>
@@ -44,7 +46,10 @@ bool IsModifier(int key)
 
 void TypedSlider::keyPressEvent(QKeyEvent* event)
 {
-    const QString text = event->text();
+    // What has another meaning elsewhere is not typed.
+    const bool command =
+        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QString text = command ? QString() : event->text();
     const QChar letter = text.size() == 1 ? text[0] : QChar();
     if (IsDigit(letter) || (IsSeparator(letter) && !text_.isEmpty())) {
         if (text_.size() < Longest) Take(text_ + letter);
@@ -72,6 +77,20 @@ void TypedSlider::Forget()
     if (text_.isEmpty()) return;
     text_.clear();
     emit Typed(text_);
+}
+
+/// The toolkit's own style takes a press beside the handle only where the groove is.
+void TypedSlider::mousePressEvent(QMouseEvent* event)
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect groove =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const QPointF place(event->position().x(), groove.center().y());
+    QMouseEvent along(event->type(), place, event->globalPosition(), event->button(),
+                      event->buttons(), event->modifiers(), event->pointingDevice());
+    QSlider::mousePressEvent(&along);
+    event->setAccepted(along.isAccepted());
 }
 
 void TypedSlider::sliderChange(SliderChange change)

@@ -21,6 +21,7 @@ class TypedSlider : public QSlider {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void sliderChange(SliderChange change) override;
     void paintEvent(QPaintEvent* event) override;

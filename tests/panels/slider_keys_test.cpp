@@ -91,6 +91,11 @@ TEST_F(SliderWindow, BeginsANewNumberAfterAnotherKey)
     Key(Qt::Key_Shift);
     Type("3");
     ExpectMovedTo(253);
+    // Held all the time, as on keyboards that have their digits above.
+    QTest::keyPress(&Slider(), Qt::Key_Shift);
+    QTest::keyClick(&Slider(), Qt::Key_4, Qt::ShiftModifier);
+    QTest::keyRelease(&Slider(), Qt::Key_Shift);
+    ExpectMovedTo(2534);
     Key(Qt::Key_Right);
     Type("7");
     ExpectMovedTo(7);
@@ -105,6 +110,24 @@ TEST_F(SliderWindow, TakesTheLastDigitAwayAtABackspace)
     Key(Qt::Key_Backspace);
     Type("1");
     ExpectMovedTo(5001);
+}
+
+TEST_F(SliderWindow, PassesOverKeysThatMeanSomethingElse)
+{
+    for (const Qt::KeyboardModifier with : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
+        QTest::keyClick(&Slider(), Qt::Key_0, with);
+    EXPECT_EQ(Slider().value(), 5000);
+    EXPECT_TRUE(moves.empty());
+}
+
+TEST_F(SliderWindow, TakesAPressBesideTheHandleAtEveryHeight)
+{
+    for (int y = 1; y < Slider().height(); y += 3) {
+        const int before = Slider().value();
+        QTest::mouseClick(&Slider(), Qt::LeftButton, {}, {Slider().width() - 4, y});
+        EXPECT_EQ(Slider().value(), std::min(10000, before + 1000)) << y;
+        QTest::mouseClick(&Slider(), Qt::LeftButton, {}, {4, y});
+    }
 }
 
 TEST_F(SliderWindow, IgnoresOtherLetters)

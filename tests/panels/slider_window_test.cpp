@@ -16,15 +16,32 @@ TEST_F(SliderWindow, ReachesNoFurtherRightThanThePalette)
     EXPECT_EQ(window.width(), 200);
 }
 
-TEST_F(SliderWindow, IsWiderForALongTitleButKeepsItsControlsBeside)
+TEST_F(SliderWindow, IsWiderForALongTitleAndKeepsItsControlsOnTheScreen)
 {
     QFont bold;
     bold.setBold(true);
-    Form11 wide("Negativo Artistico", Palette());
-    wide.show();
-    EXPECT_GE(wide.width(), QFontMetrics(bold).horizontalAdvance("Negativo Artistico") + 94);
-    for (const QWidget* const control : wide.findChildren<QWidget*>())
-        EXPECT_LE(control->geometry().right(), 200) << control->objectName().toStdString();
+    for (const char* const title : {"Negativo Artistico", "Foto Color Rnd"}) {
+        Form11 wide(title, Palette());
+        wide.show();
+        // Beside the title stand a sign and three buttons.
+        EXPECT_GE(wide.width(), QFontMetrics(bold).horizontalAdvance(title) + 120);
+        const auto rightOf = [&wide](const char* name) {
+            return wide.findChild<QWidget*>(name)->geometry().right();
+        };
+        const int screenRight = wide.screen()->geometry().right();
+        wide.move(screenRight - 199, 7);
+        QCoreApplication::processEvents();
+        EXPECT_GT(wide.geometry().right(), screenRight);
+        for (const QWidget* const control : wide.findChildren<QWidget*>())
+            EXPECT_LE(wide.x() + control->geometry().right(), screenRight)
+                << control->objectName().toStdString();
+        // Once it is wholly on the screen they fill it.
+        wide.move(0, 7);
+        QCoreApplication::processEvents();
+        const int margin = wide.findChild<QWidget*>("Command1")->x();
+        EXPECT_EQ(wide.width() - 1 - rightOf("Command2"), margin);
+        EXPECT_EQ(wide.width() - 1 - rightOf("Slider1"), margin);
+    }
 }
 
 TEST_F(SliderWindow, RunsFromNothingToTenThousand)
