@@ -25,7 +25,7 @@ class ModifiedUntilOpened {
     {
         if (modified_ == 1) doc_.Modificato = 1;
     }
-    void Done() { modified_ = 0; }
+    void Forget() { modified_ = 0; }
 
   private:
     Document& doc_;
@@ -70,7 +70,7 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
         s.doc.NomeFile = name;
         return;
     }
-    modified.Done();
+    modified.Forget();
     OpenAsNew(s, name, std::move(read->picture));
 }
 
@@ -94,7 +94,7 @@ void Open(Session& s, Named named, AskName askName)
         if (outcome == SaveOutcome::Failed) return;
         // No dialog follows in which the opening could be called off.
         if (outcome == SaveOutcome::Cancelled && named == Named::Already) return;
-        if (outcome == SaveOutcome::Saved) modified.Done();
+        if (outcome == SaveOutcome::Saved) modified.Forget();
     }
     const QString remembered = ReadRememberedPath(d).value_or(d.NomeFile);
     const std::optional<QString> name = askName(remembered);

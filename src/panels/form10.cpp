@@ -1,6 +1,7 @@
 #include "panels/form10.h"
 
 #include "panels/built_in.h"
+#include "panels/button_box.h"
 #include "windows/belonging.h"
 #include "windows/free_screen.h"
 #include "windows/palette_strip.h"
@@ -8,8 +9,6 @@
 
 #include <QEvent>
 #include <QFontInfo>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -24,8 +23,6 @@ namespace {
 constexpr int Borders = UsualFrame.left() + UsualFrame.right();
 constexpr int TitleAndBorder = 30;
 constexpr int Margin = 4;
-constexpr int Spacing = 3;
-constexpr int BesideCaption = 6;
 /// How many buttons of each box stand side by side.
 constexpr std::array PerRow{3, 4, 2, 2};
 
@@ -46,51 +43,6 @@ void Apply(QWidget& palette, const char* name, Switch on)
     if (on) button->setEnabled(*on);
 }
 
-QWidget* Frame(const QString& caption)
-{
-    auto* const box = new QGroupBox(caption);
-    box->setObjectName("Frame" + caption.trimmed());
-    return box;
-}
-
-/// Lays the buttons out in rows of `perRow`; those of a last, shorter row become wider.
-void LayInRows(QWidget& box, int perRow, int margin)
-{
-    const auto buttons = box.findChildren<QPushButton*>(Qt::FindDirectChildrenOnly);
-    auto* const rows = new QVBoxLayout(&box);
-    rows->setContentsMargins(margin, margin, margin, margin);
-    rows->setSpacing(Spacing);
-    QHBoxLayout* row = nullptr;
-    for (qsizetype i = 0; i < buttons.size(); ++i) {
-        if (i % perRow == 0) {
-            row = new QHBoxLayout;
-            rows->addLayout(row);
-        }
-        row->addWidget(buttons[i], 1);
-    }
-}
-
-/// Gives all buttons of the box the width that the widest of them needs at least.
-void WidenToCaptions(const QWidget& box)
-{
-    const auto buttons = box.findChildren<QPushButton*>(Qt::FindDirectChildrenOnly);
-    int widest = 0;
-    for (const QPushButton* const button : buttons)
-        widest = std::max({widest, button->fontMetrics().horizontalAdvance(button->text()),
-                           button->iconSize().width()});
-    for (QPushButton* const button : buttons)
-        button->setMinimumWidth(widest + BesideCaption);
-}
-
-/// What the toolkit remembers of the sizes in a window that is not shown would be the old ones.
-void ForgetSizes(QWidget& box)
-{
-    for (QObject* const row : box.layout()->children())
-        static_cast<QLayout*>(row)->invalidate();
-    box.layout()->invalidate();
-    box.updateGeometry();
-}
-
 }  // namespace
 
 Form10::Form10(PaletteTable buttons)
@@ -106,7 +58,7 @@ Form10::Form10(PaletteTable buttons)
                    Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
-    layout->setSpacing(Spacing);
+    layout->setSpacing(ButtonSpacing);
     for (QWidget* const box : boxes_)
         layout->addWidget(box);
     for (const PaletteButton& row : buttons)

@@ -3,7 +3,6 @@
 #include "windows/file_names.h"
 
 #include <QDeadlineTimer>
-#include <QThread>
 
 #include <algorithm>
 #include <array>
@@ -29,7 +28,7 @@ constexpr char ComeForward = 'V';
 constexpr char Heard = 'S';
 constexpr std::size_t LongestMessage = PATH_MAX + 1;
 
-Descriptor FolderAt(const QString& path)
+Descriptor OpenFolder(const QString& path)
 {
     return Descriptor(open(FileBytes(path).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
 }
@@ -54,8 +53,8 @@ const sockaddr* Plain(const sockaddr_un& address)
     return reinterpret_cast<const sockaddr*>(&address);
 }
 
-/// Whether there is something to be read by then.
-bool ComesBy(const Descriptor& socket, const QDeadlineTimer& end)
+/// Waits until there is something to be read; gives whether there is by then.
+bool WaitFor(const Descriptor& socket, const QDeadlineTimer& end)
 {
     pollfd awaited{.fd = socket.Number(), .events = POLLIN, .revents = 0};
     return poll(&awaited, 1, static_cast<int>(end.remainingTime())) == 1;
@@ -69,8 +68,8 @@ bool IsOfThisUser(const Descriptor& connection)
            who.uid == geteuid();
 }
 
-/// The picture asked for, or an empty path; nothing when the message is neither.
-std::optional<QString> PictureIn(const Descriptor& connection)
+/// Receives the picture asked for, or an empty path; nothing when the message is neither.
+std::optional<QString> ReceivePath(const Descriptor& connection)
 {
     std::array<char, LongestMessage + 1> buffer{};
     const ssize_t size = recv(connection.Number(), buffer.data(), buffer.size(), MSG_TRUNC);
@@ -87,13 +86,14 @@ std::optional<QString> PictureIn(const Descriptor& connection)
 bool HandOver(const QString& folder, const QString& picture)
 {
     const QDeadlineTimer end(std::chrono::seconds(2));
-    const Descriptor place = FolderAt(folder);
+    const Descriptor place = OpenFolder(folder);
     const sockaddr_un address = AddressIn(place);
     const Descriptor socket = NewSocket();
     // One that was started just now may not listen yet.
     while (connect(socket.Number(), Plain(address), sizeof address) != 0) {
         if (end.hasExpired()) return false;
-        QThread::msleep(20);
+        constexpr int Pause = 20;
+        poll(nullptr, 0, Pause);
     }
     const QByteArray message = picture.isEmpty()
                                    ? QByteArray(1, ComeForward)
@@ -102,10 +102,11 @@ bool HandOver(const QString& folder, const QString& picture)
              MSG_NOSIGNAL) < 0)
         return false;
     char answer = 0;
-    return ComesBy(socket, end) && recv(socket.Number(), &answer, 1, 0) == 1 && answer == Heard;
+    return WaitFor(socket, end) && recv(socket.Number(), &answer, 1, 0) == 1 && answer == Heard;
 }
 
-SecondStarts::SecondStarts(const QString& folder) : folder_(FolderAt(folder)), socket_(NewSocket())
+SecondStarts::SecondStarts(const QString& folder)
+    : folder_(OpenFolder(folder)), socket_(NewSocket())
 {
     constexpr int Waiting = 4;
     // A run that was killed leaves its socket behind.
@@ -130,8 +131,8 @@ void SecondStarts::Answer()
     const Descriptor connection(
         accept4(socket_.Number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (!connection || !IsOfThisUser(connection)) return;
-    if (!ComesBy(connection, QDeadlineTimer(std::chrono::milliseconds(100)))) return;
-    const std::optional<QString> picture = PictureIn(connection);
+    if (!WaitFor(connection, QDeadlineTimer(std::chrono::milliseconds(100)))) return;
+    const std::optional<QString> picture = ReceivePath(connection);
     // Whoever has given up by now has said so to the user.
     if (picture && send(connection.Number(), &Heard, 1, MSG_NOSIGNAL) == 1) emit Called(*picture);
 }
