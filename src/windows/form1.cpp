@@ -5,6 +5,7 @@
 #include "windows/palette_strip.h"
 #include "windows/window_operation.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QMenu>
@@ -59,6 +60,7 @@ void Form1::BuildMenus()
     menuBar()->setObjectName("MenuBar");
     menuBar()->setAccessibleName("Comandi");
     menuBar()->setNativeMenuBar(false);
+    menuBar()->installEventFilter(this);
     for (const MenuEntry& row : entries_) {
         controls_.push_back(AddEntry(row));
         if (*row.keys != '\0') AddShortcut(row);
@@ -87,6 +89,7 @@ QAction* Form1::AddEntry(const MenuEntry& row)
     connect(action, &QAction::triggered, this, [this, &row, action] {
         // A click must not toggle the mark: only the commands move it.
         if (action->isCheckable()) action->setChecked(true);
+        cameFrom_ = nullptr;
         emit Clicked(row);
     });
     return action;
@@ -127,6 +130,7 @@ void Form1::Use(QAction& entry)
 void Form1::OpenMenu(QAction& entry)
 {
     constexpr int Patience = 1000;
+    if (!isActiveWindow()) cameFrom_ = QApplication::activeWindow();
     BringForward(*this);
     awaited_ = &entry;
     // A desktop that gives the focus as it likes lets a menu open only while its key is held.
@@ -156,6 +160,25 @@ void Form1::GiveTheBarTheKeys()
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
     for (QKeyEvent* const key : {&press, &release})
         QCoreApplication::sendEvent(this, key);
+}
+
+/// Gives the focus back to the window where the key for a menu was pressed, when no entry of it was
+/// chosen.
+void Form1::GoBack()
+{
+    if (QApplication::activePopupWidget() != nullptr || menuBar()->hasFocus()) return;
+    QWidget* const window = std::exchange(cameFrom_, nullptr);
+    if (window == nullptr || !isActiveWindow()) return;
+    window->activateWindow();
+    KeepFocus(*window, *this);
+}
+
+bool Form1::eventFilter(QObject* watched, QEvent* event)
+{
+    // The choice of an entry leaves the bar first.
+    if (watched == menuBar() && event->type() == QEvent::FocusOut)
+        QTimer::singleShot(0, this, &Form1::GoBack);
+    return QMainWindow::eventFilter(watched, event);
 }
 
 bool Form1::event(QEvent* event)

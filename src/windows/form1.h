@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -50,6 +51,7 @@ class Form1 : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void BuildMenus();
@@ -65,6 +67,7 @@ class Form1 : public QMainWindow {
     void OpenMenu(QAction& entry);
     void OpenAwaitedMenu();
     void GiveTheBarTheKeys();
+    void GoBack();
     /// Throws std::out_of_range when no entry has that name.
     int PositionOf(std::string_view name) const;
 
@@ -74,6 +77,9 @@ class Form1 : public QMainWindow {
     QAction* awaited_ = nullptr;
     /// Opens it when the focus comes, or when it is long in coming.
     QTimer opening_;
+    /// The window where the key for a menu was pressed; null when it was in this one, and when an
+    /// entry was chosen.
+    QPointer<QWidget> cameFrom_;
 };
 
 }  // namespace pixano

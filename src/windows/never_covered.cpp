@@ -46,6 +46,8 @@ void NeverCovered::RaiseCovered() const
         // One of the large ones, though, would come to the front with the focus once more.
         if (used != window && std::ranges::find(small_, used) != small_.end())
             KeepFocus(*used, *window);
+        // What waits for an answer stays above them all.
+        if (QWidget* const waiting = QApplication::activeModalWidget()) Stacking::Raise(*waiting);
     }
 }
 

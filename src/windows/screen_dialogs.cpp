@@ -49,11 +49,14 @@ QString NameOf(BoxIcon icon)
     return {};
 }
 
-/// A question with the answers yes and no. Escape and the close button are no answers: "no" throws
-/// work away, so it has to be said.
+/// A question with the answers yes and no. Escape is no answer, and there is no close button: "no"
+/// throws work away, so it has to be said.
 class YesNoBox : public QMessageBox {
   public:
-    using QMessageBox::QMessageBox;
+    explicit YesNoBox(QWidget* parent) : QMessageBox(parent)
+    {
+        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QWindow>
 
 namespace pixano::test {
@@ -17,8 +18,10 @@ class MenusAtHand : public Desktop {
     }
     void CloseMenus()
     {
-        Do("key Escape Escape");
+        Do("key Escape");
         EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() == nullptr; }));
+        if (session.form1.menuBar()->hasFocus()) Do("key Escape");
+        EXPECT_TRUE(ComesToHold([this] { return !session.form1.menuBar()->hasFocus(); }));
     }
     static void Maximise(QWidget& window)
     {
@@ -165,6 +168,55 @@ TEST_F(MenusAtHand, StartAnEntryOfTheBarAtItsKeyWhileItIsOn)
     Do("key alt+o");
     EXPECT_EQ(session.doc.InOriginale, 1);
     EXPECT_EQ(MenuHistory(), (History{false, false, true}));
+}
+
+TEST_F(MenusAtHand, GiveTheFocusBackWhenNoneOfTheirEntriesIsChosen)
+{
+    OpenSized(30, 20);
+    for (QWidget* const window :
+         std::initializer_list<QWidget*>{&session.form2, &session.form9, &session.form10})
+        for (const char* const key : {"F10", "alt+e"}) {
+            SCOPED_TRACE(window->objectName().toStdString() + ' ' + key);
+            Activate(*window);
+            Do(QString("key ") + key);
+            EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
+            CloseMenus();
+            EXPECT_TRUE(StaysOnceAnswered([&] { return IsActive(*window); }));
+        }
+    // In the main window itself they leave it there; and once chosen, an entry goes its own way.
+    Activate(session.form1);
+    Do("key F10");
+    EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
+    CloseMenus();
+    EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
+    Activate(session.form2);
+    Do("key alt+e");
+    EXPECT_TRUE(ComesToHold([this] { return IsOpen("Effetti"); }));
+    Do("key f");
+    EXPECT_TRUE(ComesToHold([this] { return IsOpen("Fantas"); }));
+    Do("key Down Return");
+    EXPECT_TRUE(StaysOnceAnswered([this] { return IsActive(session.form10); }));
+    EXPECT_EQ(session.doc.Effetto, "Fantastic 2");
+}
+
+TEST_F(MenusAtHand, StayBelowWhatWaitsForAnAnswer)
+{
+    OpenSized(2000, 2000);
+    for (HeldWindow* const window :
+         std::initializer_list<HeldWindow*>{&session.form9, &session.form2}) {
+        SCOPED_TRACE(window->objectName().toStdString());
+        QMessageBox box(QMessageBox::Warning, "Attenzione!", "Prova", QMessageBox::Ok,
+                        &session.form10);
+        box.setWindowModality(Qt::ApplicationModal);
+        box.show();
+        box.move(session.form1.pos());
+        EXPECT_TRUE(ComesToHold([&] { return IsAbove(box, session.form1); }));
+        for (int i = 0; i < 2; ++i) {
+            ClickAt(window->mapToGlobal(QPoint(30, window->height() - 30)));
+            EXPECT_TRUE(StaysOnceAnswered([&] { return IsAbove(box, session.form1); }));
+        }
+        EXPECT_TRUE(IsAbove(session.form1, *window));
+    }
 }
 
 TEST_F(MenusAtHand, AreNeverCoveredByTheCanvasThatIsRaised)
