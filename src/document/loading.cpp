@@ -9,10 +9,11 @@
 #include "windows/twips.h"
 #include "windows/window_operation.h"
 
+#include <QApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
-#include <vector>
 
 namespace pixano {
 namespace {
@@ -42,6 +43,17 @@ void PlacePreview(HeldWindow& preview, QSize inside, const HeldWindow& canvas)
     // Once: of two sizes asked for in a row some window managers give the first.
     preview.SetInside(inside);
     preview.PlaceAt(place);
+}
+
+/// Shows preview and palette above the canvas, and goes to the main window.
+void ShowTheOthers(Session& s)
+{
+    ShowInFront(s.form9);
+    OpenOnScreenOf(s.form1, s.form10);
+    ShowInFront(s.form10);
+    BringForward(s.form1);
+    KeepFocus(s.form1, s.form9);
+    KeepFocus(s.form1, s.form10);
 }
 
 /// Shows the canvas, with the menus and the palette above it.
@@ -78,8 +90,7 @@ void Carica(Session& s, Surface picture)
     constexpr double CanvasHeight = 16.8;
     constexpr double PreviewWidth = 15;
     constexpr double PreviewHeight = 15.2;
-    std::vector<QWidget*> raised{&s.form9, &s.form10};
-    if (s.form2.isMinimized()) raised.push_back(&s.form2);
+    const bool comesBack = s.form2.isMinimized();
     Work& w = s.work;
     PutOnCanvas(w, std::move(picture));
     s.form2.Picture1().FitPicture();
@@ -96,12 +107,15 @@ void Carica(Session& s, Surface picture)
         s.form9.SetInside(inside);
     else
         PlacePreview(s.form9, inside, s.form2);
-    ShowInFront(s.form9);
-    OpenOnScreenOf(s.form1, s.form10);
-    ShowInFront(s.form10);
-    BringForward(s.form1);
-    for (QWidget* const window : raised)
-        KeepFocus(s.form1, *window);
+    ShowTheOthers(s);
+    // A window that was minimised comes in its own time, above all others.
+    constexpr int Coming = 300;
+    if (comesBack) {
+        KeepFocus(s.form1, s.form2);
+        QTimer::singleShot(Coming, &s.form2, [&s] {
+            if (QApplication::activeModalWidget() == nullptr) ShowTheOthers(s);
+        });
+    }
     s.form2.setWindowTitle(PictureCaption(s));
     s.form9.setWindowTitle(PreviewCaption(s, 1));
 }

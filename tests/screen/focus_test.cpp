@@ -105,6 +105,16 @@ TEST_F(Minimised, WindowsComeBackWhenAPictureIsOpened)
     EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
 }
 
+TEST_F(Minimised, ACanvasThatComesBackLeavesThePreviewInFront)
+{
+    OpenSized(200, 100);
+    Minimise(session.form2);
+    OpenSized(2000, 2000);
+    ExpectBack(session.form2);
+    EXPECT_TRUE(StaysOnceAnswered(
+        [this] { return IsAbove(session.form9, session.form2) && IsActive(session.form1); }));
+}
+
 TEST_F(Minimised, WindowsComeBackWhenThePreviewIsShown)
 {
     OpenSized(300, 200);
