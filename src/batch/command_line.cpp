@@ -158,7 +158,7 @@ void CheckSheet(const CommandLine& line)
     if (line.inputs.front() == StandardStream)
         throw WrongCommandLine("--tutti ha bisogno di un file: «-» non ha un nome da ripetere");
     if (!line.steps.empty())
-        throw WrongCommandLine("--tutti prova da sé ogni effetto: -e non può stargli accanto");
+        throw WrongCommandLine("--tutti prova da sé ogni effetto: non si può usare con -e");
     if (line.output || !line.folder)
         throw WrongCommandLine("--tutti scrive in una cartella: serve -d, non -o");
 }

@@ -112,8 +112,11 @@ std::string Refusals(const SheetContents& contents)
     for (const SheetEntry& entry : contents.entries)
         if (!entry.refusal.empty()) items += "<li>" + Escaped(entry.refusal) + ".</li>\n";
     if (items.empty()) return {};
-    return "<h2>Effetti che questa misura non consente</h2>\n<ul>\n" + items +
-           "</ul>\n<p>Un'immagine troppo grande si riduce con <b>--entro 1400</b>.</p>\n";
+    constexpr int LargestForAll = 1400;
+    constexpr auto Advice = "<p>Un'immagine troppo grande si riduce con <b>--entro 1400</b>.</p>\n";
+    const bool tooLarge = std::max(contents.width, contents.height) > LargestForAll;
+    return "<h2>Effetti che questa misura non consente</h2>\n<ul>\n" + items + "</ul>\n" +
+           (tooLarge ? Advice : "");
 }
 
 }  // namespace
@@ -136,7 +139,7 @@ std::string SheetPage(const SheetContents& contents)
     page += "<h1>Gli effetti di Pixano su " + name + "</h1>\n";
     page += "<p>Un riquadro per ogni effetto, sulla stessa immagine di " +
             std::to_string(contents.width) + " x " + std::to_string(contents.height) +
-            " pixel; sotto, il comando che lo ripete a misura intera.</p>\n";
+            " pixel; sotto, il comando che rifà l'immagine in grande.</p>\n";
     page += "<figure>" + Image(contents.original, "L'immagine di partenza") +
             "<figcaption><b>L'immagine di partenza</b></figcaption></figure>\n";
     for (const Family family : {Family::Geometry, Family::ColourAndArt, Family::Composite})

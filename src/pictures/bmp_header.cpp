@@ -195,7 +195,7 @@ void GoToPixels(ByteSource& source, const Fields& fields)
     }
     source.Seek(fields.pixels);
     if (fields.pixels < FileHeaderSize + fields.headerSize || source.AtEnd())
-        throw Refusal("il file BMP dice che i pixel cominciano dove non possono essere");
+        throw Refusal("il file BMP dice che i pixel cominciano dove non possono stare");
 }
 
 }  // namespace

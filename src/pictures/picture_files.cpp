@@ -159,9 +159,10 @@ PictureFormat FormatOf(const std::string& path)
     if (name.ends_with(".bmp")) return PictureFormat::Bmp;
     if (name.ends_with(".png")) return PictureFormat::Png;
     if (name.ends_with(".jpg") || name.ends_with(".jpeg")) return PictureFormat::Jpeg;
-    throw PictureError(FaultKind::InvalidCall,
-                       "Impossibile salvare «" + path +
-                           "»: il nome deve finire in .bmp, .png, .jpg o .jpeg");
+    throw PictureError(
+        FaultKind::InvalidCall,
+        "Impossibile salvare «" + path +
+            "»: il nome deve finire in .bmp, .png, .jpg o .jpeg, o non avere estensione");
 }
 
 void SavePicture(const Surface& surface, const std::string& path)

@@ -80,8 +80,8 @@ void OpenFirst(Session& s, const QString& picture)
 {
     if (s.doc.Modificato == 1)
         s.dialogs.Tell(BoxIcon::None, title::Notice,
-                       "L'immagine recuperata non è ancora salvata. Prima di aprire «" + picture +
-                           "» Pixano chiede che cosa farne.");
+                       "L'immagine recuperata non è ancora stata salvata. Prima di aprire «" +
+                           picture + "» Pixano chiede che cosa farne.");
     OpenNamed(s, picture);
 }
 

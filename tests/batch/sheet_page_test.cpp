@@ -92,10 +92,14 @@ TEST(SheetPage, TellsWhatTheSizeDoesNotAllow)
     refused.step.effect = FindEffect("Forbici");
     refused.refusal = "Forbici: <troppo> grande";
     contents.entries = {Entry("Specchio"), refused};
+    contents.width = 1401;
     EXPECT_THAT(SheetPage(contents),
                 AllOf(HasSubstr("<h2>Effetti che questa misura non consente</h2>\n<ul>\n"
                                 "<li>Forbici: &lt;troppo&gt; grande.</li>\n</ul>"),
                       HasSubstr("si riduce con <b>--entro 1400</b>"), Not(HasSubstr("Colori"))));
+    // Where it is not too large but too long, making it smaller does not help.
+    contents.width = 1400;
+    EXPECT_THAT(SheetPage(contents), AllOf(HasSubstr("non consente"), Not(HasSubstr("--entro"))));
 }
 
 }  // namespace

@@ -81,7 +81,7 @@ TEST(BmpHeader, MasksWithGaps)
 
 TEST(BmpHeader, PixelsWhereTheyCannotBe)
 {
-    constexpr auto Message = "i pixel cominciano dove non possono essere";
+    constexpr auto Message = "i pixel cominciano dove non possono stare";
     EXPECT_THAT(RefusalOf({.offset = 1}), HasSubstr(Message));
     EXPECT_THAT(RefusalOf({.offset = 53}), HasSubstr(Message));
     EXPECT_THAT(RefusalOf({.offset = 54 + 1100 + 64}), HasSubstr(Message));

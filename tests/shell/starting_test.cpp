@@ -146,7 +146,7 @@ TEST_F(Starting, TellsWhyItAsksBeforeThePictureThatIsNamedReplacesTheOneBroughtB
     RunWith({"b.bmp"}, [&] { told = dialogs.told; });
     EXPECT_EQ(told, (std::vector<ShownBox>{
                         {BoxIcon::None, "Avviso!",
-                         "L'immagine recuperata non è ancora salvata. Prima di aprire «" +
+                         "L'immagine recuperata non è ancora stata salvata. Prima di aprire «" +
                              Path("b.bmp") + "» Pixano chiede che cosa farne."}}));
     EXPECT_EQ(dialogs.asked.size(), 2U);
 }
