@@ -10,10 +10,11 @@ picture=$2
 
 # Starts the program once more; it tells something and ends with status 1.
 expect_refusal() {
-    local second ended=0
+    local second ended=0 started=$SECONDS
     "$pixano" 2>>"$sandbox/errors" &
     second=$!
     wait_for is_active "Attenzione!" || fail "$1: no message, but $(active_title)"
+    ((SECONDS - started <= 5)) || fail "$1: the message came late"
     shot "$2"
     keys Return
     wait "$second" || ended=$?

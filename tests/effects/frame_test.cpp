@@ -76,5 +76,20 @@ TEST(EffectFrame, ReseedsBeforeAnythingElse)
     EXPECT_EQ(drawn, expected.Rnd());
 }
 
+TEST(EffectFrame, GivesAnEffectItsOwnStrengthWhoeverRanBefore)
+{
+    // The loop before left another cell in use; an effect without a strength leaves it.
+    EffectRun run({"ab"});
+    run.work.Valori = {11, 22, 33, 44, 55};
+    for (const char* const before : {"Vetro", "Negativo Artistico", "Specchio"}) {
+        RunOnCanvas(run.work, *FindEffect(before), {});
+        double strength = 0;
+        RunOnCanvas(run.work, *FindEffect("Colorazione"),
+                    {.before = [&] { strength = run.work.Valori.at(run.work.IndValore - 1); },
+                     .after = [] {}});
+        EXPECT_EQ(strength, 22) << before;
+    }
+}
+
 }  // namespace
 }  // namespace pixano::test

@@ -87,26 +87,28 @@ TEST_F(FileDialogs, StartInWhatIsLeftOfAFolderThatIsGone)
 TEST_F(FileDialogs, ForgetTheNameTypedWhenAFolderIsEntered)
 {
     QDir().mkdir("cartella");
-    Ask(false, QDir::currentPath(), [](QFileDialog& dialog) {
-        NameIn(dialog).setText("cartella");
-        Do("key Return");
-        EXPECT_TRUE(ComesToHold([&] { return dialog.directory().dirName() == "cartella"; }));
-        EXPECT_TRUE(ComesToHold([&] { return NameIn(dialog).text().isEmpty(); }))
-            << NameIn(dialog).text().toStdString();
-    });
+    for (const bool saving : {false, true})
+        Ask(saving, QDir::currentPath(), [](QFileDialog& dialog) {
+            NameIn(dialog).setText("cartella");
+            Do("key Return");
+            EXPECT_TRUE(ComesToHold([&] { return dialog.directory().dirName() == "cartella"; }));
+            EXPECT_TRUE(ComesToHold([&] { return NameIn(dialog).text().isEmpty(); }))
+                << NameIn(dialog).text().toStdString();
+        });
 }
 
 TEST_F(FileDialogs, OfferNothingAnyMoreOnceAFolderIsEntered)
 {
     QDir().mkdir("sotto");
-    Ask(false, QDir::currentPath(), [](QFileDialog& dialog) {
-        Do("type --delay 5 sotto");
-        EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
-        Do("key Return");
-        EXPECT_TRUE(ComesToHold([&] { return dialog.directory().dirName() == "sotto"; }));
-        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
-        EXPECT_TRUE(dialog.isVisible());
-    });
+    for (const bool saving : {false, true})
+        Ask(saving, QDir::currentPath(), [](QFileDialog& dialog) {
+            Do("type --delay 5 sotto");
+            EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
+            Do("key Return");
+            EXPECT_TRUE(ComesToHold([&] { return dialog.directory().dirName() == "sotto"; }));
+            EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
+            EXPECT_TRUE(dialog.isVisible());
+        });
 }
 
 TEST_F(FileDialogs, TakeTheFirstPressOnAButtonThoughNamesAreOffered)
@@ -155,22 +157,44 @@ TEST_F(FileDialogs, AnswerToEveryNameTyped)
     EXPECT_EQ(Typed(true, "\"senza\""), Path("\"senza\".bmp"));
 }
 
+/// Reading what lies there would never end.
+TEST_F(FileDialogs, ShowFoldersOfTheSystemToo)
+{
+    for (const bool saving : {false, true})
+        Ask(saving, QDir::currentPath(), [](QFileDialog& dialog) {
+            Do("type --delay 5 /proc");
+            Do("key Return");
+            EXPECT_TRUE(ComesToHold([&] { return dialog.directory().path() == "/proc"; }));
+            const auto* const list = dialog.findChild<QTreeView*>("treeView");
+            EXPECT_TRUE(
+                ComesToHold([&] { return list->model()->rowCount(list->rootIndex()) > 20; }));
+            Do("key Escape Escape");
+            EXPECT_TRUE(ComesToHold([&] { return !dialog.isVisible(); }));
+        });
+}
+
 TEST_F(FileDialogs, ReadNoFileToShowIt)
 {
     for (const char* const name : {"a.bmp", "b.jpg", "senza", "c.gif"})
         Write(name, "GIF89a");
     const Descriptor watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
     ASSERT_GE(inotify_add_watch(watch.Number(), QDir::currentPath().toUtf8(), IN_ACCESS), 0);
-    Ask(false, QDir::currentPath(), [](QFileDialog& dialog) {
-        auto* const list = dialog.findChild<QTreeView*>("treeView");
-        ASSERT_TRUE(ComesToHold([&] { return list->model()->rowCount(list->rootIndex()) >= 3; }));
-        list->grab();
-        // Its thread has looked at every file once the last one's kind is told.
-        EXPECT_TRUE(ComesToHold([&] {
-            const int last = list->model()->rowCount(list->rootIndex()) - 1;
-            return !list->model()->index(last, 2, list->rootIndex()).data().toString().isEmpty();
-        }));
-    });
+    for (const bool saving : {false, true})
+        Ask(saving, QDir::currentPath(), [](QFileDialog& dialog) {
+            auto* const list = dialog.findChild<QTreeView*>("treeView");
+            ASSERT_TRUE(
+                ComesToHold([&] { return list->model()->rowCount(list->rootIndex()) >= 1; }));
+            list->grab();
+            // Its thread has looked at every file once the last one's kind is told.
+            EXPECT_TRUE(ComesToHold([&] {
+                const int last = list->model()->rowCount(list->rootIndex()) - 1;
+                return !list->model()
+                            ->index(last, 2, list->rootIndex())
+                            .data()
+                            .toString()
+                            .isEmpty();
+            }));
+        });
     std::array<char, 4096> events{};
     std::string read;
     for (ssize_t size = 0; (size = ::read(watch.Number(), events.data(), events.size())) > 0;)

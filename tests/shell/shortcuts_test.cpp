@@ -64,16 +64,30 @@ TEST_F(Shortcuts, SaveWithS)
     EXPECT_EQ(Kept(Path("s.bmp")), (Letters{"cba"}));
 }
 
-TEST_F(Shortcuts, WorkInTheOtherWindowsToo)
+TEST_F(Shortcuts, AllWorkInTheOtherWindowsToo)
 {
-    Open("a.bmp", Drawn({"abc"}));
-    Apply("Specchio");
-    Press(session.form2, Qt::Key_0);
-    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
-    Press(session.form9, Qt::Key_Y);
-    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
-    Press(session.form10, Qt::Key_0);
-    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+    for (QWidget* const window :
+         std::initializer_list<QWidget*>{&session.form2, &session.form9, &session.form10}) {
+        SCOPED_TRACE(window->objectName().toStdString());
+        Open("a.bmp", Drawn({"abc"}));
+        Apply("Specchio");
+        Apply("Capovolgi");
+        Press(*window, Qt::Key_Z);
+        EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
+        Press(*window, Qt::Key_Y);
+        EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
+        dialogs.saveNames.push_back(Path("s.bmp"));
+        dialogs.answers.assign(dialogs.saveFolders.empty() ? 0 : 1, true);
+        Press(*window, Qt::Key_S);
+        EXPECT_EQ(Kept(Path("s.bmp")), (Letters{"~ab"}));
+        EXPECT_EQ(session.doc.Modificato, 0);
+        Press(*window, Qt::Key_0);
+        EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+        QFile::remove(Path("s.bmp"));
+        dialogs.openNames.push_back(Made("b.bmp", Drawn({"bb"})));
+        Press(*window, Qt::Key_O);
+        EXPECT_EQ(CanvasLetters(), (Letters{"bb"}));
+    }
 }
 
 TEST_F(Shortcuts, DoOnceWhatTheyDoHoweverLongTheyAreHeld)
