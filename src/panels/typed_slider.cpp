@@ -48,7 +48,7 @@ void TypedSlider::keyPressEvent(QKeyEvent* event)
 {
     // What has another meaning elsewhere is not typed.
     const bool command =
-        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+        event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const QString text = command ? QString() : event->text();
     const QChar letter = text.size() == 1 ? text[0] : QChar();
     if (IsDigit(letter) || (IsSeparator(letter) && !text_.isEmpty())) {
