@@ -60,6 +60,13 @@ keys Return
 wait_for requested 'set_title("Strumenti")' 1 || fail "no palette on Wayland"
 # Main window and palette belong to the canvas, and lie above it.
 wait_for requested 'xdg_toplevel.*set_parent(xdg_toplevel' 2 || fail "the menus do not belong to the canvas"
+title_of() {
+    sed -nE "s/.*xdg_toplevel@$1\.set_title\(\"(.*)\"\).*/\1/p" "$sandbox/errors" | tail -1
+}
+owned=$(sed -nE 's/.*xdg_toplevel@([0-9]+)\.set_parent\(xdg_toplevel@([0-9]+)\).*/\1 \2/p' "$sandbox/errors" | sort -u |
+    while read -r child owner; do echo "$(title_of "$child") of $(title_of "$owner")"; done | sort)
+canvas="$(basename "$photo")   $(identify -format '%wx%h' "$photo")"
+[ "$owned" = "Pixano 2.3 of $canvas"$'\n'"Strumenti of $canvas" ] || fail "these belong to others: $owned"
 sleep 1
 shot wayland-1
 # The palette has the keyboard: the menus open from there.
