@@ -5,6 +5,7 @@
 
 pixano=$1
 picture=$2
+size=$(identify -format '%wx%h' "$picture")
 # shellcheck source=screen.sh
 . "$(dirname "$0")/screen.sh"
 
@@ -28,7 +29,7 @@ start_program "$pixano" "$picture"
 expect_title "Pixano 2.3"
 expect_opening_picture
 keys space
-expect_opened "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
+expect_opened "$(basename "$picture")   $size"
 [ "$(stat -c %a "$XDG_DATA_HOME/pixano")" = 700 ] || fail "others may look into the data folder"
 
 # Starts the program once more; it ends with status 0, and quickly.
@@ -43,6 +44,19 @@ hand_over "altra figura.bmp"
 expect_title "altra figura.bmp   60x40"
 wait_for is_active "Pixano 2.3" || fail "the running program did not come forward, but $(active_title)"
 
+# Work that is not saved is asked for first.
+focus "Pixano 2.3"
+menus alt+f d
+keys Return
+expect_title "Doppia Foto Verticale   60x40"
+hand_over "$picture"
+wait_for is_active "Messaggio!" || fail "nobody asks whether the changes are to be saved, but $(active_title)"
+titled "Doppia Foto Verticale   60x40" || fail "another picture was opened before the answer"
+keys Tab space
+expect_title "$(basename "$picture")   $size"
+hand_over "altra figura.bmp"
+expect_title "altra figura.bmp   60x40"
+
 # Without a picture it comes forward, even where it is minimised; while it asks, what it asks does.
 xdotool windowminimize "$(window_titled "Pixano 2.3")"
 hand_over
@@ -53,11 +67,11 @@ wait_for is_active "Apri" || fail "no open dialog, but $(active_title)"
 hand_over "$picture"
 # It hears one after the other: the first has been heard when the second is answered.
 hand_over
-titled "$(basename "$picture")   $(identify -format '%wx%h' "$picture")" &&
+titled "$(basename "$picture")   $size" &&
     fail "a picture was opened within a command"
 is_active "Apri" || fail "the dialog does not come forward, but $(active_title)"
 keys Escape
-expect_title "$(basename "$picture")   $(identify -format '%wx%h' "$picture")"
+expect_title "$(basename "$picture")   $size"
 hand_over manca.bmp
 wait_for is_active "Attenzione!" || fail "nobody tells that the picture is missing"
 keys Return
@@ -79,7 +93,7 @@ expect_refusal "a second start of one that does not answer" secondo-avvio
 kill -CONT "$program"
 kill -0 "$program" || fail "the second start ended the first"
 hand_over
-titled "$(basename "$picture")   $(identify -format '%wx%h' "$picture")" ||
+titled "$(basename "$picture")   $size" ||
     fail "the second start changed the first"
 
 # A program that was killed does not stand in the way of the next one.
