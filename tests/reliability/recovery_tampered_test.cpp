@@ -54,7 +54,7 @@ TEST_P(Tampered, NoteIsReportedAndEveryCopyIsKept)
 TEST_P(Tampered, LockIsReplacedOrReported)
 {
     Crash();
-    QFile(folders.Data("pixano.lock")).open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QFile(folders.Data("pixano.lock")).open(QIODevice::WriteOnly));
     Tamper("pixano.lock");
     const bool file =
         What() != "folder" && What() != "link" && What() != "dead_link" && What() != "pipe";
