@@ -26,10 +26,14 @@ first=$("$plain/package" | tail -n 1)
 umask 077
 copy_sources "$odd" now
 chmod -R go= "$odd"
+# What the program wrote there is not for others.
+echo '"/home/io/foto.bmp"' >"$odd/percors.dat"
 second=$("$odd/package" | tail -n 1)
 for built in "${first%_2*}"*.deb; do
     cmp "$built" "${second%/*}/${built##*/}" || fail "FAILED: the same sources give another ${built##*/}"
 done
+[[ $(tar -tf "${second%/*}"/pixano_*.tar.xz | grep -c percors.dat) -eq 0 ]] ||
+    fail "FAILED: the sources of the package tell what somebody opened"
 [[ $(dpkg-deb -c "$second" | grep -c '^drwx------') -eq 0 ]] || fail "FAILED: a folder that nobody may enter"
 
 # Without a display the batch tool shows what the program does.

@@ -59,6 +59,8 @@ for program in pixano pixano-batch; do
     expect "$program binds late" grep -q 'FLAGS.*NOW' <(readelf -dW "$binary")
     expect "$program: no stack protector" grep -q __stack_chk_fail <(readelf --dyn-syms -W "$binary")
     expect "$program: not fortified" grep -qE '__[a-z]+_chk' <(readelf --dyn-syms -W "$binary")
+    [[ $(dpkg --print-architecture) != amd64 ]] ||
+        expect "$program: jumps go anywhere" test "$(objdump -d "$binary" | grep -c endbr64)" -gt 100
     expect "$program has symbols" test -z "$(readelf -sW "$binary" | grep -F "'.symtab'")"
     expect "$program names the place where it was built" test "$(grep -cF "$project" "$binary")" -eq 0
 done
