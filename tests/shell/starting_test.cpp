@@ -1,5 +1,6 @@
 // The whole run of the program, from its options to its end: which picture it opens, in which
 // folder it works, which strengths it takes there.
+#include "document/recovery_note.h"
 #include "shell/program.h"
 #include "support/program.h"
 #include "windows/file_names.h"
