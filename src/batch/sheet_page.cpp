@@ -112,11 +112,13 @@ std::string Refusals(const SheetContents& contents)
     for (const SheetEntry& entry : contents.entries)
         if (!entry.refusal.empty()) items += "<li>" + Escaped(entry.refusal) + ".</li>\n";
     if (items.empty()) return {};
-    constexpr int LargestForAll = 1400;
-    constexpr auto Advice = "<p>Un'immagine troppo grande si riduce con <b>--entro 1400</b>.</p>\n";
-    const bool tooLarge = std::max(contents.width, contents.height) > LargestForAll;
+    // No side beyond this, and every effect has room.
+    constexpr int Enough = 1400;
+    const bool tooLarge = std::max(contents.width, contents.height) > Enough;
+    const std::string advice = "<p>Un'immagine troppo grande si riduce con <b>--entro " +
+                               std::to_string(Enough) + "</b>.</p>\n";
     return "<h2>Effetti che questa misura non consente</h2>\n<ul>\n" + items + "</ul>\n" +
-           (tooLarge ? Advice : "");
+           (tooLarge ? advice : std::string());
 }
 
 }  // namespace
