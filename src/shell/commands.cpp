@@ -17,7 +17,6 @@ namespace {
 void ReadStrength(Session& s, Form11& window)
 {
     const QString path = s.programFolder + '/' + file::Strengths;
-    s.work.Valori = {};
     LeggiValori(FileBytes(path), s.work.Valori);
     window.ShowStrength(s.work.Strength());
 }
