@@ -98,6 +98,37 @@ TEST_F(Noted, KeepsTheFinishedPictureWhenTheProgramEndsAfterTheLoops)
     EXPECT_EQ(Kept(Data(kept[0])), (Letters{"xbc"}));
 }
 
+TEST_F(Noted, NamesACopyOfTheCanvasAfterAStepForwardFromMemory)
+{
+    QDir().mkpath(Data("temp2.bml"));
+    Apply("Specchio");
+    Apply("Capovolgi");
+    const Surface canvas = Canvas();
+    ClickEntry(entry::Undo);
+    ClickEntry(entry::Redo);
+    EXPECT_TRUE(ReadPicture(ReadRecoveryNote()->copy.toStdString()).picture == canvas);
+}
+
+TEST_F(Noted, NamesThePictureBeforeAnEffectThatFailedHalfwayWhereItHadNoCopy)
+{
+    Apply("Specchio");
+    {
+        // Back and forward without a copy on disk.
+        const FileSizeLimit disk(0);
+        Apply("Specchio");
+        ClickEntry(entry::Orig);
+        ClickEntry(entry::Redo);
+    }
+    const Letters before = CanvasLetters();
+    SpyAction() = [](Work& w) {
+        w.Picture1.PSet(0, 0, ColourOf('x'));
+        throw Fault(FaultKind::InputPastEnd);
+    };
+    RunInFrame(Spy());
+    EXPECT_NE(CanvasLetters(), before);
+    EXPECT_EQ(Kept(ReadRecoveryNote()->copy), before);
+}
+
 TEST_F(Noted, DeletesNoPictureOfTheUsers)
 {
     const QString own = Made("mia.bmp", Drawn({"xyz"}));

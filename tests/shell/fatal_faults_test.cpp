@@ -2,6 +2,8 @@
 #include "document/recovery_note.h"
 #include "shell/failing_halfway.h"
 
+#include <array>
+
 namespace pixano::test {
 namespace {
 
@@ -25,6 +27,55 @@ TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
     EXPECT_FALSE(session.form1.isVisible());
     EXPECT_FALSE(session.form2.isVisible());
     EXPECT_EQ(Conserved(), QStringList());
+}
+
+/// A control of an effect that finds no room in the matrix, and whether that ends the program.
+struct ControlOfEffect {
+    int entry;           ///< `Index`; 0 = none
+    const char* button;  ///< "" = none
+    bool ends;
+};
+
+class ControlsOfFatalEffects : public Faults, public testing::WithParamInterface<ControlOfEffect> {
+  protected:
+    // Too wide even where only every fifth column is taken.
+    ControlsOfFatalEffects() { Open("larga.bmp", Varied(7600, 6)); }
+};
+
+constexpr auto ControlsOfEffects = std::to_array<ControlOfEffect>({
+    {37, "", true},
+    {39, "", true},
+    {40, "", true},
+    {41, "", true},
+    {44, "", false},
+    {0, "SSCommand1", true},
+    {0, "SSCommand2", true},
+    {0, "SSCommand18", true},
+    {0, "SSCommand19", true},
+    {0, "SSCommand20", true},
+    {0, "SSCommand21", true},
+    {0, "SSCommand24", false},
+    {0, "SSCommand25", false},
+});
+
+constexpr auto NameOfControl = [](const auto& suite) {
+    const ControlOfEffect& control = suite.param;
+    return control.button + (control.entry == 0 ? "" : "Entry" + std::to_string(control.entry));
+};
+
+INSTANTIATE_TEST_SUITE_P(MenuAndPalette, ControlsOfFatalEffects,
+                         testing::ValuesIn(ControlsOfEffects), NameOfControl);
+
+TEST_P(ControlsOfFatalEffects, EndTheProgramWhereTheEffectDoes)
+{
+    if (GetParam().entry != 0)
+        ClickEntry(GetParam().entry);
+    else
+        Button(GetParam().button).click();
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    EXPECT_TRUE(dialogs.told[0].text.contains("Indice fuori dalla matrice"));
+    EXPECT_EQ(dialogs.told[0].text.endsWith("\n\nIl programma termina."), GetParam().ends);
+    EXPECT_EQ(session.ending.has_value(), GetParam().ends);
 }
 
 TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
