@@ -5,6 +5,7 @@
 #include "support/modal_steps.h"
 #include "windows/screen_dialogs.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -115,15 +116,41 @@ TEST_F(Minimised, ACanvasThatComesBackLeavesThePreviewInFront)
         [this] { return IsAbove(session.form9, session.form2) && IsActive(session.form1); }));
 }
 
-TEST_F(Minimised, WindowsComeBackWhenThePreviewIsShown)
+TEST_F(Minimised, WindowsComeBackWhateverShowsThePreview)
 {
     OpenSized(300, 200);
-    Minimise(session.form9);
-    Minimise(session.form10);
-    Apply("Specchio");
-    ExpectBack(session.form9);
-    ExpectBack(session.form10);
-    EXPECT_TRUE(Stays([this] { return IsActive(session.form10); }));
+    struct Showing {
+        const char* name;
+        std::function<void()> give;
+    };
+    const Showing commands[]{{"an effect", [this] { Apply("Specchio"); }},
+                             {"smaller", [this] { Button("Command2").click(); }},
+                             {"larger", [this] { Button("Command1").click(); }}};
+    for (const auto& [name, give] : commands) {
+        SCOPED_TRACE(name);
+        Minimise(session.form9);
+        Minimise(session.form10);
+        give();
+        ExpectBack(session.form9);
+        ExpectBack(session.form10);
+        EXPECT_TRUE(Stays([this] { return IsActive(session.form10); }));
+    }
+}
+
+TEST_F(Minimised, WindowsComeBackWhenAPictureIsPasted)
+{
+    OpenSized(300, 200);
+    for (QWidget* const window : Companions())
+        Minimise(*window);
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QGuiApplication::clipboard()->setImage(image);
+    Activate(session.form1);
+    Do("key ctrl+v");
+    EXPECT_TRUE(ComesToHold([this] { return CanvasCaption().endsWith("40x30"); }));
+    for (QWidget* const window : Companions())
+        ExpectBack(*window);
+    EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
 }
 
 // The palette was there all the time.

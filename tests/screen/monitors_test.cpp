@@ -1,6 +1,10 @@
 // A desk with two monitors: every window counts its place from the one that holds the main window.
 #include "panels/form11.h"
 #include "screen/desktop.h"
+#include "support/modal_steps.h"
+#include "windows/screen_dialogs.h"
+
+#include <QDir>
 
 namespace pixano::test {
 namespace {
@@ -70,6 +74,26 @@ TEST_F(TwoMonitors, HoldTheWindowsThatInformInTheirMiddle)
     session.form4.Show();
     ExpectOnTheRight(session.form4);
     session.form4.hide();
+}
+
+TEST_F(TwoMonitors, HoldWhatAsksAndTellsWhereTheMainWindowIs)
+{
+    ScreenDialogs real;
+    const std::vector<std::function<void()>> questions{
+        [&] { real.Ask(BoxIcon::Question, "Messaggio!", "Salvare?"); },
+        [&] { real.Tell(BoxIcon::Exclamation, "Attenzione!", "Fatto."); },
+        [&] { real.AskOpenName(QDir::currentPath()); },
+        [&] { real.AskSaveName(QDir::currentPath(), {}); },
+    };
+    for (const auto& question : questions) {
+        Activate(session.form1);
+        const ModalSteps steps({[this](QDialog& dialog) {
+            EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); }));
+            EXPECT_TRUE(Stays([&] { return right_.contains(dialog.frameGeometry()); }))
+                << dialog.windowTitle().toStdString() << " begins at " << dialog.x();
+        }});
+        question();
+    }
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include "shell/spied_frame.h"
 #include "support/reference_random.h"
 
+#include <QMenu>
+
 namespace pixano::test {
 namespace {
 
@@ -35,6 +37,17 @@ TEST_F(Frame, MarksCountsAndSnapsThePictureBeforeTheEffectDraws)
     EXPECT_EQ(PreviewCaption(), "a.bmp  (3 x 1) - 100%");
     EXPECT_EQ(session.doc.Modificato, 1);
     EXPECT_EQ(session.form10.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Frame, IsStartedByAnEntryThatOneMoreRowMakes)
+{
+    const QAction& last = session.form1.Control(SpyEntry - 1);
+    EXPECT_EQ(last.text(), "Spia");
+    EXPECT_EQ(session.form1.findChild<QMenu*>("Effetti")->actions().back(), &last);
+    EXPECT_TRUE(Enabled(SpyEntry));
+    session.form2.close();
+    EXPECT_FALSE(Enabled(SpyEntry));
+    EXPECT_TRUE(Enabled(entry::Inter));
 }
 
 TEST_F(Frame, ReplacesTheSnapshotAtEveryEffect)
