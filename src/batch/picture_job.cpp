@@ -1,9 +1,9 @@
 #include "batch/picture_job.h"
 
 #include "batch/standard_streams.h"
+#include "canvas/shrink.h"
 #include "effects/frame.h"
 #include "files/system_reason.h"
-#include "pictures/shrink.h"
 
 #include <cerrno>
 #include <filesystem>

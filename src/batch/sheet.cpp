@@ -1,11 +1,11 @@
 #include "batch/sheet.h"
 
+#include "canvas/shrink.h"
 #include "effects/frame.h"
 #include "files/atomic_file.h"
 #include "files/refusal.h"
 #include "files/system_reason.h"
 #include "pictures/picture_files.h"
-#include "pictures/shrink.h"
 
 #include <cerrno>
 #include <filesystem>

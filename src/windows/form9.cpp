@@ -1,8 +1,10 @@
 #include "windows/form9.h"
 
+#include "canvas/shrink.h"
 #include "windows/surface_image.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -11,6 +13,15 @@
 #include <cstdlib>
 
 namespace pixano {
+namespace {
+
+/// The whole dots that a rectangle of so many dots a pixel touches.
+QRect ScaledUp(const QRect& rect, double dots)
+{
+    return QRectF(QPointF(rect.topLeft()) * dots, QSizeF(rect.size()) * dots).toAlignedRect();
+}
+
+}  // namespace
 
 ImageControl::ImageControl()
 {
@@ -42,7 +53,7 @@ void ImageControl::SetStretch(bool stretch)
     update();
 }
 
-void ImageControl::paintEvent(QPaintEvent* /*event*/)
+void ImageControl::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     const QImage image = ImageOf(picture_);
@@ -51,11 +62,29 @@ void ImageControl::paintEvent(QPaintEvent* /*event*/)
         return;
     }
     if (image.isNull()) return;
+    const double dots = devicePixelRatioF();
+    const QSize whole = (QSizeF(size()) * dots).toSize();
+    if (whole.width() < image.width() && whole.height() < image.height()) {
+        PaintShrunk(painter, whole, ScaledUp(event->rect(), dots) & QRect({}, whole));
+        return;
+    }
     // Pixels made whole times as large stay crisp; otherwise some lines would come out thicker than
     // others.
-    const bool whole = width() % image.width() == 0 && height() % image.height() == 0;
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, !whole);
+    const bool crisp = width() % image.width() == 0 && height() % image.height() == 0;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !crisp);
     painter.drawImage(rect(), image);
+}
+
+/// The toolkit would leave out lines of a picture that is made smaller. `whole` and `part` are in
+/// dots of the screen.
+void ImageControl::PaintShrunk(QPainter& painter, QSize whole, const QRect& part) const
+{
+    if (part.isEmpty()) return;
+    const Surface shrunk = ShrunkPart(picture_, whole.width(), whole.height(),
+                                      {part.x(), part.y(), part.width(), part.height()});
+    const double dots = devicePixelRatioF();
+    painter.drawImage(QRectF(QPointF(part.topLeft()) / dots, QSizeF(part.size()) / dots),
+                      ImageOf(shrunk));
 }
 
 Form9::Form9() : HeldWindow(new ImageControl)

@@ -28,6 +28,7 @@ class ImageControl : public QWidget {
 
   private:
     void Changed();
+    void PaintShrunk(QPainter& painter, QSize whole, const QRect& part) const;
 
     Surface picture_;
     bool stretch_ = false;

@@ -39,33 +39,47 @@ class SeenPreview : public Desktop {
     }
 };
 
+/// How much black the lines of an image have in that row, in pixels: of the faintest line and of
+/// the thickest.
+std::pair<double, double> InkOfLines(const QImage& image, int row)
+{
+    constexpr int Paper = 250;
+    std::pair<double, double> ink{1e9, 0};
+    for (int x = 0; x < image.width(); ++x) {
+        double line = 0;
+        for (; x < image.width() && qRed(image.pixel(x, row)) < Paper; ++x)
+            line += (255 - qRed(image.pixel(x, row))) / 255.0;
+        if (line > 0) ink = {std::min(ink.first, line), std::max(ink.second, line)};
+    }
+    return ink;
+}
+
 TEST_F(SeenPreview, HasLinesOfOneThicknessAtEveryFactor)
 {
-    // A black line in every tenth column; stretched to 203 columns each keeps its share of grey.
-    Surface lines(200, 20);
-    for (int y = 0; y < 20; ++y)
-        for (int x = 0; x < 200; ++x)
-            lines.PSet(x, y, x % 10 == 5 ? 0 : White);
+    // A black line in every twentieth column; each keeps its share of grey.
+    constexpr int Lines = 20;
+    Surface lines(20 * Lines, 20);
+    for (int y = 0; y < lines.Height(); ++y)
+        for (int x = 0; x < lines.Width(); ++x)
+            lines.PSet(x, y, x % 20 == 9 ? 0 : White);
     Open("righe.bmp", lines);
     WaitForWindows();
     Apply("Specchio");
-    ASSERT_EQ(Preview().Image1().width(), 203);
-    const QImage image = Preview().Image1().grab().toImage();
-    int darkest = 0;
-    int lightest = 255;
-    for (int x = 0; x < image.width(); ++x) {
-        const int grey = qRed(image.pixel(x, 10));
-        const bool line = grey < 250 && (x == 0 || qRed(image.pixel(x - 1, 10)) >= 250);
-        if (!line) continue;
-        int ink = 0;
-        for (int i = x; i < image.width() && qRed(image.pixel(i, 10)) < 250; ++i)
-            ink += 255 - qRed(image.pixel(i, 10));
-        darkest = std::max(darkest, ink);
-        lightest = std::min(lightest, ink);
+    for (const auto& [magnifier, width] : {std::pair("", 405),
+                                           {"Command2", 284},
+                                           {"Command2", 162},
+                                           {"Command1", 284},
+                                           {"Command1", 405},
+                                           {"Command1", 527},
+                                           {"Command1", 649}}) {
+        if (*magnifier != '\0') Button(magnifier).click();
+        const QImage image = Preview().Image1().grab().toImage();
+        ASSERT_EQ(image.width(), width);
+        const auto [faintest, thickest] = InkOfLines(image, image.height() / 2);
+        const double factor = width / (20.0 * Lines);
+        EXPECT_GT(faintest, 0.85 * factor) << width;
+        EXPECT_LT(thickest, 1.15 * factor) << width;
     }
-    // One pixel's worth of black, a little more at most; twice as thick would be 510.
-    EXPECT_LE(darkest, 255 + 40);
-    EXPECT_GE(lightest, 255 - 40);
 }
 
 TEST_F(SeenPreview, KeepsItsMiddleWhileItIsZoomed)

@@ -1,11 +1,14 @@
 // Every window on whatever screen there is: on it as a whole, with nothing cut off. Runs on small
 // screens too, by way of the toolkit's scale.
+#include "canvas/shrink.h"
 #include "panels/form11.h"
 #include "panels/form5.h"
 #include "panels/form6.h"
 #include "panels/form7.h"
 #include "panels/form8.h"
+#include "windows/form9.h"
 #include "windows/on_screen.h"
+#include "windows/surface_image.h"
 
 #include <QLabel>
 #include <QScrollBar>
@@ -30,6 +33,30 @@ TEST_F(AnyScreen, ShowsItsPicturesInTheScreensOwnDots)
         const QPixmap shown = window->findChild<QLabel*>("Picture1")->pixmap();
         EXPECT_EQ(shown.devicePixelRatio(), dots) << window->objectName().toStdString();
     }
+}
+
+/// The pixels that the control paints of that part of it.
+QImage Painted(QWidget& control, const QRect& part)
+{
+    return control.grab(part).toImage().convertToFormat(QImage::Format_RGBX8888);
+}
+
+TEST_F(AnyScreen, ShowsASmallerPreviewInItsOwnDotsWholeAndInParts)
+{
+    const Surface picture = Varied(64, 48);
+    ImageControl control;
+    control.SetPicture(picture);
+    control.SetStretch(true);
+    // Both are whole dots at every scale that is tried.
+    control.resize(28, 20);
+    const QRect part(8, 4, 12, 8);
+    const double dots = control.devicePixelRatioF();
+    const auto scaled = [dots](int length) { return static_cast<int>(length * dots); };
+    const Surface whole =
+        ShrunkPart(picture, scaled(28), scaled(20), {0, 0, scaled(28), scaled(20)});
+    EXPECT_EQ(Painted(control, control.rect()), ImageOf(whole));
+    EXPECT_EQ(Painted(control, part),
+              ImageOf(whole).copy(scaled(8), scaled(4), scaled(12), scaled(8)));
 }
 
 TEST_F(AnyScreen, LeavesThePaletteFreeBesideTheMainWindowWhereTheMenusAllowIt)

@@ -1,5 +1,5 @@
 // Pictures made smaller: sizes, and means worked out by hand.
-#include "pictures/shrink.h"
+#include "canvas/shrink.h"
 
 #include "support/letters.h"
 
@@ -73,6 +73,31 @@ TEST(ShrunkWithin, KeepsOneColourAtEverySize)
         const Surface small = ShrunkWithin(Surface(100, 61, 0x123456), side);
         EXPECT_EQ(small, Surface(small.Width(), small.Height(), 0x123456)) << side;
     }
+}
+
+TEST(ShrunkPart, IsThatPartOfTheWhole)
+{
+    const Surface picture = Varied(50, 40);
+    const Surface whole = ShrunkPart(picture, 20, 13, {0, 0, 20, 13});
+    EXPECT_EQ(whole.Width(), 20);
+    EXPECT_EQ(whole.Height(), 13);
+    for (const auto& [left, top, width, height] :
+         {Part{0, 0, 1, 1}, Part{7, 5, 9, 4}, Part{19, 12, 1, 1}, Part{3, 0, 0, 0}}) {
+        const Surface part = ShrunkPart(picture, 20, 13, {left, top, width, height});
+        ASSERT_EQ(part.Width(), width);
+        ASSERT_EQ(part.Height(), height);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                EXPECT_EQ(part.Point(x, y), whole.Point(left + x, top + y)) << x << ", " << y;
+    }
+}
+
+TEST(ShrunkPart, CoversTheSameAreaAsInTheWhole)
+{
+    EXPECT_EQ(ShrunkPart(Grey({{9, 18, 0}, {27, 36, 45}, {0, 0, 9}}), 2, 2, {0, 1, 2, 1}),
+              Grey({{10, 18}}));
+    EXPECT_EQ(ShrunkPart(Grey({{9, 18, 0}, {27, 36, 45}, {0, 0, 9}}), 2, 2, {1, 0, 1, 2}),
+              Grey({{18}, {18}}));
 }
 
 }  // namespace
