@@ -1,6 +1,7 @@
 // A desk with two monitors: every window counts its place from the one that holds the main window.
 #include "panels/form11.h"
 #include "screen/desktop.h"
+#include "shell/spy_effect.h"
 #include "support/modal_steps.h"
 #include "windows/screen_dialogs.h"
 
@@ -70,10 +71,20 @@ TEST_F(TwoMonitors, HoldTheWindowsThatInformInTheirMiddle)
         });
         ClickEntry(index);
     }
-    session.form4.setScreen(session.form1.screen());
-    session.form4.Show();
-    ExpectOnTheRight(session.form4);
-    session.form4.hide();
+}
+
+TEST_F(TwoMonitors, HoldTheProgressWindowWhereTheMainWindowIs)
+{
+    OpenSized(300, 200);
+    bool seen = false;
+    SpyAction() = [&](Work& w) {
+        w.ShowProgress();
+        ExpectOnTheRight(session.form4);
+        seen = true;
+    };
+    RunInFrame(Spy());
+    SpyAction() = nullptr;
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(TwoMonitors, HoldWhatAsksAndTellsWhereTheMainWindowIs)

@@ -1,6 +1,7 @@
 // The command line of the windowed program: what is understood, and what the real program answers
 // to what is not.
 #include "shell/options.h"
+#include "support/temporary_folder.h"
 #include "windows/file_names.h"
 
 #include <QProcess>
@@ -11,6 +12,8 @@
 
 #include <array>
 #include <vector>
+
+#include <sys/resource.h>
 
 namespace pixano::test {
 namespace {
@@ -63,7 +66,9 @@ TEST(ProgramOptions, LoseNoByteOfAName)
     for (const auto& [argument, picture] :
          {std::pair("/tmp/perch\xE8 \xC3\xA9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"),
           {"file:///tmp/perch%E8%20%C3%A9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"},
-          {"file:///tmp/perch\xE8 \xC3\xA9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"}}) {
+          {"file:///tmp/perch\xE8 \xC3\xA9.bmp", "/tmp/perch\xE8 \xC3\xA9.bmp"},
+          // The lowest byte that is no letter of its own, and the highest that is.
+          {"file:///tmp/\x80 \x7F.bmp", "/tmp/\x80 \x7F.bmp"}}) {
         const std::array arguments{"pixano", "--", argument};
         const std::optional<Options> options = OptionsFrom(ArgumentsOf(3, arguments.data()));
         ASSERT_TRUE(options);
@@ -116,11 +121,15 @@ TEST(ProgramOptions, AreAnsweredWithoutAScreenWhereTheyOnlyAsk)
     EXPECT_EQ(Answer({}), nullptr);
 }
 
-TEST(ProgramOptions, AreAllInTheUsageText)
+TEST(ProgramOptions, AreExplainedInTheUsageText)
 {
-    EXPECT_THAT(UsageText, StartsWith("Uso: pixano "));
-    for (const char* const option : {"--da-menu", "--aiuto", "--versione", "IMMAGINE"})
-        EXPECT_THAT(UsageText, HasSubstr(option));
+    EXPECT_STREQ(UsageText, "Uso: pixano [--da-menu] [--] [IMMAGINE]\n\n"
+                            "Applica effetti particolari a immagini BMP, JPEG e GIF.\n\n"
+                            "  IMMAGINE     l'immagine da aprire (anche come URL file:)\n"
+                            "  --da-menu    lavora nella cartella dei dati dell'utente\n"
+                            "  --aiuto      mostra questo testo (anche --help, -h)\n"
+                            "  --versione   mostra la versione (anche --version)\n"
+                            "  --           quello che segue è il nome dell'immagine\n");
 }
 
 TEST(ProgramOptions, PreferXWhereItIsToBeHadAndNobodyAskedForAnotherPlatform)
@@ -214,6 +223,25 @@ TEST(RealProgram, OpensNoWindowForTwoPictures)
     const Ended ended = Started({"a.bmp", "b.bmp"}, "offscreen");
     EXPECT_EQ(ended.status, 2);
     EXPECT_THAT(ended.err, EndsWith(UsageText));
+}
+
+TEST(RealProgram, OutlivesAWriteBeyondALimitOnTheSizeOfFiles)
+{
+    const TemporaryFolder folder;
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("XDG_DATA_HOME", QString::fromStdString(folder / "dati"));
+    program.setProcessEnvironment(environment);
+    program.setChildProcessModifier([] {
+        const rlimit nothing{0, 0};
+        setrlimit(RLIMIT_FSIZE, &nothing);
+    });
+    // From the menu it brings its strengths to the data folder before it asks for anything.
+    program.start(PIXANO, {"--da-menu"});
+    EXPECT_FALSE(program.waitForFinished(1500)) << program.exitCode();
+    program.kill();
+    program.waitForFinished();
 }
 
 }  // namespace
