@@ -166,6 +166,24 @@ TEST_F(Starting, KeepsThePictureBroughtBackWhenItsSaveIsCancelled)
     });
 }
 
+TEST_F(Starting, GoesOnThoughThePreviewOfThePictureBroughtBackHasNoFile)
+{
+    KillWithUnsavedWork();
+    QDir().mkpath("altrove/elabor.tmp");
+    QDir::setCurrent("altrove");
+    dialogs.answers = {true};
+    Letters seen;
+    EXPECT_EQ(RunWith({},
+                      [&] {
+                          seen = CanvasLetters();
+                          dialogs.answers = {false};
+                      }),
+              0);
+    EXPECT_EQ(seen, (Letters{"cba"}));
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando «Recupero»:\n"));
+}
+
 TEST_F(Starting, WorksInTheDataFolderWhenStartedFromTheMenu)
 {
     const QString here = QDir::currentPath();
