@@ -104,19 +104,22 @@ std::vector<GivenCommand> HistoryCommands()
     };
 }
 
-std::vector<GivenCommand> FileCommands()
+/// Gives the command, and that answer to whether the picture is to be saved.
+std::function<void(Desk&)> Answering(bool save, const std::function<void(Desk&)>& command)
 {
-    const auto answering = [](bool save, const std::function<void(Desk&)>& then) {
-        return [save, then](Desk& d) {
-            d.dialogs.answers.push_back(save);
-            if (save) {
-                // Where nobody can look whether the file is there, it is not replaced unasked.
-                d.dialogs.answers.push_back(true);
-                d.dialogs.saveNames.push_back(Folders::Path("salvata.bmp"));
-            }
-            then(d);
-        };
+    return [save, command](Desk& d) {
+        d.dialogs.answers.push_back(save);
+        if (save) {
+            // Where nobody can look whether the file is there, it is not replaced unasked.
+            d.dialogs.answers.push_back(true);
+            d.dialogs.saveNames.push_back(Folders::Path("salvata.bmp"));
+        }
+        command(d);
     };
+}
+
+std::vector<GivenCommand> OpeningCommands()
+{
     const auto opens = [](Desk& d) { d.Open(Folders::Path("b.bmp")); };
     const auto drops = [](Desk& d) { emit d.session.drops.Dropped(Folders::Path("b.bmp")); };
     const auto pastes = [](Desk& d) { emit d.session.form1.Pasted(); };
@@ -125,14 +128,20 @@ std::vector<GivenCommand> FileCommands()
         image.fill(Qt::red);
         QApplication::clipboard()->setImage(image);
     };
-    const auto ends = [](Desk& d) { d.Entry(entry::Esci).trigger(); };
     return {
         {.name = "open", .give = opens, .scenes = {Scene::Opened}},
-        {.name = "open, yes", .give = answering(true, opens)},
-        {.name = "open, no", .give = answering(false, opens)},
-        {.name = "drop, no", .give = answering(false, drops)},
+        {.name = "open, yes", .give = Answering(true, opens)},
+        {.name = "open, no", .give = Answering(false, opens)},
+        {.name = "drop, no", .give = Answering(false, drops)},
         {.name = "paste", .give = pastes, .scenes = {Scene::Opened}, .before = copies},
-        {.name = "paste, no", .give = answering(false, pastes), .before = copies},
+        {.name = "paste, no", .give = Answering(false, pastes), .before = copies},
+    };
+}
+
+std::vector<GivenCommand> SavingAndClosingCommands()
+{
+    const auto ends = [](Desk& d) { d.Entry(entry::Esci).trigger(); };
+    return {
         {.name = "save",
          .give =
              [](Desk& d) {
@@ -140,9 +149,9 @@ std::vector<GivenCommand> FileCommands()
                  d.SaveAs(Folders::Path("salvata.bmp"));
              }},
         {.name = "close the canvas, yes",
-         .give = answering(true, [](Desk& d) { d.session.form2.close(); })},
+         .give = Answering(true, [](Desk& d) { d.session.form2.close(); })},
         {.name = "close the preview, no",
-         .give = answering(false, [](Desk& d) { d.session.form9.close(); })},
+         .give = Answering(false, [](Desk& d) { d.session.form9.close(); })},
         {.name = "close the palette", .give = [](Desk& d) { d.session.form10.close(); }},
         {.name = "close the progress window",
          .give = [](Desk& d) { d.session.form4.close(); },
@@ -158,8 +167,8 @@ std::vector<GivenCommand> FileCommands()
          .scenes = {Scene::Opened, Scene::Changed}},
         {.name = "zoom", .give = [](Desk& d) { d.Button("Command1").click(); }},
         {.name = "end", .give = ends, .scenes = {Scene::Opened}},
-        {.name = "end, yes", .give = answering(true, ends)},
-        {.name = "end, no", .give = answering(false, ends)},
+        {.name = "end, yes", .give = Answering(true, ends)},
+        {.name = "end, no", .give = Answering(false, ends)},
     };
 }
 
@@ -187,7 +196,8 @@ std::vector<GivenCommand> StartCommands()
 std::vector<GivenCommand> EveryCommand()
 {
     std::vector<GivenCommand> all;
-    for (const auto& some : {EffectCommands(), HistoryCommands(), FileCommands(), StartCommands()})
+    for (const auto& some : {EffectCommands(), HistoryCommands(), OpeningCommands(),
+                             SavingAndClosingCommands(), StartCommands()})
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

@@ -21,6 +21,31 @@ void AnswerSlider()
     });
 }
 
+void Redo(Busy& b)
+{
+    b.desk.ClickEntry(entry::Orig);
+    b.desk.dialogs.told.clear();
+    b.desk.ClickEntry(entry::Redo);
+}
+
+void OpenAnother(Busy& b)
+{
+    b.desk.dialogs.answers.push_back(false);
+    b.desk.Open(Folders::Path("b.bmp"));
+}
+
+void AskStrength(Busy& b)
+{
+    AnswerSlider();
+    b.desk.session.form10.findChild<QPushButton*>("SSCommand6")->click();
+}
+
+void End(Busy& b)
+{
+    b.desk.dialogs.answers.push_back(false);
+    b.desk.ClickEntry(entry::Esci);
+}
+
 }  // namespace
 
 const std::vector<Command>& Commands()
@@ -36,43 +61,12 @@ const std::vector<Command>& Commands()
          {"temp.bml"},
          {"temp2.bml"},
          true},
-        {"redo",
-         [](Busy& b) {
-             b.desk.ClickEntry(entry::Orig);
-             b.desk.dialogs.told.clear();
-             b.desk.ClickEntry(entry::Redo);
-         },
-         {},
-         {"temp2.bml"}},
+        {"redo", Redo, {}, {"temp2.bml"}},
         {"original", [](Busy& b) { b.desk.ClickEntry(entry::Orig); }, {}, {"temp2.bml"}, true},
-        {"open",
-         [](Busy& b) {
-             b.desk.dialogs.answers.push_back(false);
-             b.desk.Open(Folders::Path("b.bmp"));
-         },
-         {},
-         {"percors.dat"},
-         true},
-        {"zoom",
-         [](Busy& b) {
-             Start(b.desk.session, PaletteButtons()[PaletteButtons().size() - 2].starts);
-         },
-         {},
-         {"elabor.tmp"}},
-        {"slider",
-         [](Busy& b) {
-             AnswerSlider();
-             b.desk.session.form10.findChild<QPushButton*>("SSCommand6")->click();
-         },
-         {"valori.tip"},
-         {"temp.bml", "elab.ser", "elabor.tmp"}},
-        {"end",
-         [](Busy& b) {
-             b.desk.dialogs.answers.push_back(false);
-             b.desk.ClickEntry(entry::Esci);
-         },
-         {},
-         {"temp.bml", "temp2.bml", "elabor.tmp"}},
+        {"open", OpenAnother, {}, {"percors.dat"}, true},
+        {"zoom", [](Busy& b) { b.desk.Button("Command1").click(); }, {}, {"elabor.tmp"}},
+        {"slider", AskStrength, {"valori.tip"}, {"temp.bml", "elab.ser", "elabor.tmp"}},
+        {"end", End, {}, {"temp.bml", "temp2.bml", "elabor.tmp"}},
     };
     return commands;
 }

@@ -1,0 +1,110 @@
+// The small windows are never covered wholly by the large ones, nor what asks by them.
+#include "screen/desktop.h"
+
+#include <QMessageBox>
+
+namespace pixano::test {
+namespace {
+
+class SmallWindows : public Desktop {
+  protected:
+    static void Maximise(QWidget& window)
+    {
+        window.showMaximized();
+        EXPECT_TRUE(Stays([&] { return window.width() > 1000; }));
+    }
+    void ExpectNotCoveredBy(const QWidget& large)
+    {
+        for (const QWidget* const window :
+             std::initializer_list<const QWidget*>{&session.form1, &session.form10}) {
+            if (!large.frameGeometry().contains(window->frameGeometry())) continue;
+            EXPECT_TRUE(StaysOnceAnswered([&] { return IsAbove(*window, large); }))
+                << window->objectName().toStdString() << " below "
+                << large.objectName().toStdString();
+        }
+    }
+};
+
+TEST_F(SmallWindows, StayBelowWhatWaitsForAnAnswer)
+{
+    OpenSized(2000, 2000);
+    for (HeldWindow* const window :
+         std::initializer_list<HeldWindow*>{&session.form9, &session.form2}) {
+        SCOPED_TRACE(window->objectName().toStdString());
+        QMessageBox box(QMessageBox::Warning, "Attenzione!", "Prova", QMessageBox::Ok,
+                        &session.form10);
+        box.setWindowModality(Qt::ApplicationModal);
+        box.show();
+        box.move(session.form1.pos());
+        EXPECT_TRUE(ComesToHold([&] { return IsAbove(box, session.form1); }));
+        for (int i = 0; i < 2; ++i) {
+            ClickAt(window->mapToGlobal(QPoint(30, window->height() - 30)));
+            EXPECT_TRUE(StaysOnceAnswered([&] { return IsAbove(box, session.form1); }));
+        }
+        EXPECT_TRUE(IsAbove(session.form1, *window));
+    }
+}
+
+TEST_F(SmallWindows, AreNeverCoveredByTheCanvasThatIsRaised)
+{
+    OpenSized(900, 700);
+    Apply("Specchio");
+    session.form2.showMaximized();
+    ASSERT_TRUE(ComesToHold([this] { return session.form2.width() > 1200; }));
+    if (!RaisesWithFocus()) Activate(session.form2);
+    ExpectNotCoveredBy(session.form2);
+    for (int i = 0; i < 2; ++i) {
+        Do("windowraise " + Id(session.form2));
+        ExpectNotCoveredBy(session.form2);
+        EXPECT_TRUE(RaisesWithFocus() || IsActive(session.form2));
+    }
+}
+
+TEST_F(SmallWindows, AreNotCoveredWhereTheyHangOffTheScreenEither)
+{
+    OpenSized(300, 200);
+    const int bottom = session.form1.screen()->geometry().bottom();
+    for (QWidget* const window : std::initializer_list<QWidget*>{&session.form1, &session.form10}) {
+        window->move(window->x(), bottom - 25);
+        Maximise(session.form2);
+        Do("windowraise " + Id(session.form2));
+        EXPECT_TRUE(StaysOnceAnswered([&] { return IsAbove(*window, session.form2); }))
+            << window->objectName().toStdString();
+        session.form2.showNormal();
+        EXPECT_TRUE(Stays([&] { return session.form2.width() < 1000; }));
+    }
+}
+
+TEST_F(SmallWindows, LeaveTheButtonsOfAMaximisedWindowInReach)
+{
+    for (QWidget* const large : std::initializer_list<QWidget*>{&session.form2, &session.form9}) {
+        SCOPED_TRACE(large->objectName().toStdString());
+        OpenSized(300, 200);
+        session.form10.move(session.form10.x(), 0);
+        EXPECT_TRUE(Stays([this] { return session.form10.y() == 0; }));
+        Maximise(*large);
+        EXPECT_GE(session.form10.y(), large->geometry().top());
+        ExpectNotCoveredBy(*large);
+        large->showNormal();
+        EXPECT_TRUE(Stays([&] { return large->width() < 1000 && session.form10.y() == 0; }));
+    }
+}
+
+TEST_F(SmallWindows, AreNeverCoveredByAWindowThatIsPressedOnceMore)
+{
+    OpenSized(2000, 2000);
+    for (HeldWindow* const window :
+         std::initializer_list<HeldWindow*>{&session.form2, &session.form9}) {
+        if (!RaisesWithFocus()) Activate(*window);
+        ExpectNotCoveredBy(*window);
+        const QRect frame = window->frameGeometry();
+        const QPoint title(frame.center().x(), (frame.top() + window->geometry().top()) / 2);
+        for (const QPoint place : {title, QPoint(60, 900), title, title}) {
+            ClickAt(place);
+            ExpectNotCoveredBy(*window);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace pixano::test
