@@ -97,11 +97,22 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
 TEST_F(FatalFaults, LeaveNoFileThatNothingNeeds)
 {
     // From a time when the working folder could not be written.
+    QDir().mkpath(Data(""));
     Write(Data("elabor.tmp"), "a copy of the canvas");
     Apply("Multi Step Orizzontale");
     for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Data("elabor.tmp"),
                                 Path("elabor.tmp"), Path("elab.ser"), Data("recupero.txt")})
         EXPECT_FALSE(Exists(file)) << file.toStdString();
+}
+
+TEST_F(FatalFaults, LeaveEveryFileWhereTheNoteCannotBeRead)
+{
+    QDir().mkpath(Data("recupero.txt"));
+    Write(Data("temp2.bml"), "what is left of somebody's work");
+    Apply("Multi Step Orizzontale");
+    EXPECT_EQ(session.ending, 1);
+    EXPECT_TRUE(Exists(Data("temp.bml")));
+    EXPECT_TRUE(Exists(Data("temp2.bml")));
 }
 
 TEST_F(FatalFaults, LeaveWhatTheNextStartOffersAndNothingElse)

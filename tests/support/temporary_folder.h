@@ -1,6 +1,8 @@
 // A folder of a test's own, gone with everything in it at the end.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -51,7 +53,9 @@ inline std::string BytesOf(const std::filesystem::path& path)
 
 inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes)
 {
-    std::ofstream(path, std::ios::binary) << bytes;
+    std::ofstream file(path, std::ios::binary);
+    file << bytes;
+    EXPECT_TRUE(file.flush()) << path << " is not written";
 }
 
 }  // namespace pixano::test
