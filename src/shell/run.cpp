@@ -90,7 +90,6 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
         return;
     }
     Tell(s, BoxIcon::Critical, sentence + '.' + KeepUnsavedWork(s) + "\n\nIl programma termina.");
-    if (s.doc.Modificato == 0) ForgetCanvasCopy(s);
     RemoveNeedlessFiles(s);
     EndProgram(s, 1);
 }

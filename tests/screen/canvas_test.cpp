@@ -42,7 +42,9 @@ class SeenCanvas : public Desktop {
 TEST_F(SeenCanvas, FollowsEveryCommand)
 {
     ExpectSeen("opening");
-    for (const int index : {31, 32, 33, 46, entry::Undo, entry::Redo, entry::Orig, entry::Redo}) {
+    // The last but one of the effects leaves the caption as it is.
+    for (const int index :
+         {31, 32, 33, 37, 46, entry::Undo, entry::Redo, entry::Orig, entry::Redo}) {
         const Surface before = Canvas();
         ClickEntry(index);
         EXPECT_FALSE(Canvas() == before) << index;

@@ -145,6 +145,13 @@ TEST_F(Faults, AreToldBeforeWhatElseThereIsToTellAndEachThingOnce)
               (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!", remarks}}));
 }
 
+TEST_F(Faults, EndOnlyTheCommandThatMemoryIsTooShortFor)
+{
+    RunCommand(session, "Prova", Fatal::IndexAndDivision, [] { throw std::bad_alloc(); });
+    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{ErrorIn("Prova", "La memoria non basta")}));
+    EXPECT_FALSE(session.ending.has_value());
+}
+
 TEST_F(Faults, LeaveNoProgressWindowWhenTheProgramEnds)
 {
     FailHalfway();
