@@ -7,8 +7,8 @@ std::string_view Sentence(FaultKind kind)
 {
     switch (kind) {
     case FaultKind::SubscriptOutOfRange:
-        return "Indice fuori dalla matrice (ammessi da 0 a 1500): l'immagine è troppo grande o "
-               "troppo allungata per questo effetto";
+        return "Indice fuori dalla matrice (ammessi da 0 a 1500): l'immagine è troppo grande, "
+               "troppo piccola o troppo allungata per questo effetto";
     case FaultKind::DivisionByZero:
         return "Divisione per zero";
     case FaultKind::Overflow:

@@ -17,9 +17,9 @@ struct Told {
 
 // Italian, one sentence, no full stop: whoever tells it puts it behind the effect's name.
 constexpr std::array<Told, 10> Sentences{{
-    {K::SubscriptOutOfRange,
-     "Indice fuori dalla matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo "
-     "allungata per questo effetto"},
+    {K::SubscriptOutOfRange, "Indice fuori dalla matrice (ammessi da 0 a 1500): l'immagine è "
+                             "troppo grande, troppo piccola o troppo "
+                             "allungata per questo effetto"},
     {K::DivisionByZero, "Divisione per zero"},
     {K::Overflow, "Numero troppo grande"},
     {K::TypeMismatch, "È stato letto un testo al posto di un numero"},

@@ -16,13 +16,13 @@ class FatalFaults : public Faults {
 TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
 {
     Apply("Multi Step Orizzontale");
-    EXPECT_EQ(
-        dialogs.told,
-        (std::vector<ShownBox>{
-            {BoxIcon::Critical, "Attenzione!",
-             "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla "
-             "matrice (ammessi da 0 a 1500): l'immagine è troppo grande o troppo allungata per "
-             "questo effetto.\n\nIl programma termina."}}));
+    EXPECT_EQ(dialogs.told,
+              (std::vector<ShownBox>{
+                  {BoxIcon::Critical, "Attenzione!",
+                   "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla "
+                   "matrice (ammessi da 0 a 1500): l'immagine è troppo grande, troppo piccola o "
+                   "troppo allungata per "
+                   "questo effetto.\n\nIl programma termina."}}));
     EXPECT_EQ(session.ending, 1);
     EXPECT_FALSE(session.form1.isVisible());
     EXPECT_FALSE(session.form2.isVisible());
@@ -87,7 +87,8 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
     const QString path = Data(Conserved()[0]);
     EXPECT_EQ(dialogs.told.back().text,
               "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla matrice "
-              "(ammessi da 0 a 1500): l'immagine è troppo grande o troppo allungata per questo "
+              "(ammessi da 0 a 1500): l'immagine è troppo grande, troppo piccola o troppo "
+              "allungata per questo "
               "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
                   path + "».\n\nIl programma termina.");
     EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
