@@ -56,8 +56,7 @@ QRect HeldWindow::Room(bool held) const
 QRect HeldWindow::RoomToGrow() const
 {
     QRect room = Room(IsHeld());
-    const QRect beside = Room(true);
-    if (size().grownBy(FrameOf(*this)).width() <= beside.width()) room.setRight(beside.right());
+    room.setRight(Room(true).right());
     return room;
 }
 

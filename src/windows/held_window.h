@@ -53,7 +53,7 @@ class HeldWindow : public QScrollArea {
     bool StandsElsewhere() const { return !placed_ || pos() != *placed_; }
     /// What it has of the free screen, with its frame.
     QRect Room(bool held) const;
-    /// What it is kept within when its size changes: beside `leftFree` too if it fits there.
+    /// What it is kept within when its size changes: where it is wider it begins at the left.
     QRect RoomToGrow() const;
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Asks the window manager for place and size once more.

@@ -9,6 +9,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace pixano {
@@ -17,6 +18,21 @@ namespace {
 bool IsOnScreen(const QWidget& window)
 {
     return window.isVisible() && !window.isMinimized();
+}
+
+/// What is to be seen of it: without its frame, as long as any of that is on the screen.
+QRect InsideOnScreen(const QWidget& window)
+{
+    const QRect screen = window.screen()->virtualGeometry();
+    const QRect inside = window.geometry() & screen;
+    return inside.isEmpty() ? window.frameGeometry() & screen : inside;
+}
+
+int AreaOf(const QRegion& region)
+{
+    return std::accumulate(region.begin(), region.end(), 0, [](int area, const QRect& part) {
+        return area + part.width() * part.height();
+    });
 }
 
 }  // namespace
@@ -37,11 +53,12 @@ void NeverCovered::RaiseCovered() const
         if (QWidget* const keeper = FocusKeeperOf(*used)) used = keeper;
     for (QWidget* const window : small_) {
         if (!IsOnScreen(*window)) continue;
-        QRegion seen = window->frameGeometry() & window->screen()->virtualGeometry();
+        const QRect whole = InsideOnScreen(*window);
+        QRegion seen = whole;
         for (const QWidget* const larger : large_)
             if (IsOnScreen(*larger) && stacking_.IsAbove(*larger, *window))
                 seen -= larger->frameGeometry();
-        if (!seen.isEmpty()) continue;
+        if (2 * AreaOf(seen) >= AreaOf(whole)) continue;
         Stacking::Raise(*window);
         // One of the large ones, though, would come to the front with the focus once more.
         if (used != window && std::ranges::find(small_, used) != small_.end())

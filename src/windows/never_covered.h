@@ -1,5 +1,4 @@
-// Keeps windows from being covered whole by larger ones that come to the front. Knows not what they
-// show.
+// Keeps small windows in reach when larger ones come to the front. Knows not what they show.
 #pragma once
 
 #include "windows/stacking.h"
@@ -11,8 +10,8 @@
 
 namespace pixano {
 
-/// Whenever one of the larger windows comes to the front, moves or grows, the small ones that
-/// nothing would be seen of come with it; where it is maximised, they leave its buttons free. The
+/// Whenever one of the larger windows comes to the front, moves or grows, the small ones that less
+/// than half would be seen of come with it; where it is maximised, they leave its buttons free. The
 /// windows outlive this.
 class NeverCovered : public QObject {
     Q_OBJECT

@@ -60,6 +60,23 @@ TEST_F(SmallWindows, AreNeverCoveredByTheCanvasThatIsRaised)
     }
 }
 
+TEST_F(SmallWindows, ComeAlongWhereLessThanHalfOfThemWouldBeSeen)
+{
+    OpenSized(600, 500);
+    const QRect menus = session.form1.frameGeometry();
+    for (const int left : {10, menus.width() / 2 - 40}) {
+        session.form9.move(menus.x() + left, menus.y() - 100);
+        EXPECT_TRUE(Stays([&] { return session.form9.x() == menus.x() + left; }));
+        Do("windowraise " + Id(session.form9));
+        EXPECT_TRUE(StaysOnceAnswered([this] { return IsAbove(session.form1, session.form9); }))
+            << left;
+    }
+    session.form9.move(menus.center().x() + 40, menus.y() - 100);
+    Cover(session.form1, session.form9);
+    EXPECT_TRUE(RaisesWithFocus() ||
+                StaysOnceAnswered([this] { return IsAbove(session.form9, session.form1); }));
+}
+
 TEST_F(SmallWindows, AreNotCoveredWhereTheyHangOffTheScreenEither)
 {
     OpenSized(300, 200);

@@ -84,6 +84,16 @@ TEST_F(Places, ThePreviewBesideThePaletteAsLongAsItFitsThere)
     }
 }
 
+TEST_F(Places, ThePreviewAtTheLeftWhereItHasNoRoomBesideThePalette)
+{
+    OpenSized(850, 300);
+    Button("Command1").click();
+    EXPECT_TRUE(StaysOnceAnswered(
+        [this] { return Preview().left() == session.form1.screen()->geometry().left(); }));
+    EXPECT_FALSE(IsHeld(session.form9));
+    EXPECT_GT(Preview().right(), StripLeft());
+}
+
 TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
 {
     OpenSized(200, 100);
