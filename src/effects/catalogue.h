@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <stdexcept>
 
 namespace pixano {
@@ -80,6 +81,13 @@ inline constexpr auto Effects = std::to_array<Effect>({
     {.name = "Mix Orizzontale", .run = MixOriz, .family = Family::Composite, .fatal = Fatal::Index},
     {.name = "Mix Multifoto", .run = MixMultif, .family = Family::Composite, .fatal = Fatal::Index},
 });
+
+static_assert(std::ranges::all_of(Effects,
+                                  [](const Effect& effect) {
+                                      return static_cast<std::size_t>(effect.selector) <
+                                             std::tuple_size_v<Strengths>;
+                                  }),
+              "a strength is one of the cells that there are");
 
 /// The row of that function; one that is missing does not compile.
 consteval const Effect* EffectOf(void (*run)(Work&))

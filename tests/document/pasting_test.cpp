@@ -1,7 +1,5 @@
 // Opening what lies in the clipboard: a picture file, or a picture that has no file yet.
-#include "canvas/fault.h"
 #include "document/pasting.h"
-#include "shell/run.h"
 #include "support/hindrances.h"
 #include "support/program.h"
 
@@ -55,18 +53,6 @@ TEST_F(Pasting, OpensAPicture)
     EXPECT_EQ(session.doc.Modificato, 0);
     EXPECT_TRUE(dialogs.openFolders.empty());
     EXPECT_TRUE(dialogs.told.empty());
-}
-
-// The next start offers the changes, and "Originale" needs the picture that they were made to.
-TEST_F(Pasting, KeepsThePictureWhereAnErrorEndsTheProgramWithChangesToIt)
-{
-    CopyPicture(ImageOf(Drawn({"abc", "def"})));
-    Paste();
-    Apply("Specchio");
-    const QString pasted = session.doc.FileAperto;
-    RunCommand(session, "Prova", Fatal::All, [] { throw Fault(FaultKind::DivisionByZero); });
-    EXPECT_TRUE(session.ending.has_value());
-    EXPECT_TRUE(Exists(pasted));
 }
 
 TEST_F(Pasting, ShowsTheBackgroundWhereAPictureIsTransparent)

@@ -2,6 +2,8 @@
 #include "document/recovery_note.h"
 #include "shell/failing_halfway.h"
 
+#include <QClipboard>
+
 #include <array>
 
 namespace pixano::test {
@@ -129,6 +131,21 @@ TEST_F(FatalFaults, LeaveWhatTheNextStartOffersAndNothingElse)
     EXPECT_TRUE(Exists(note->copy));
     for (const QString& file : {Data("temp.bml"), Data("temp2.bml"), Path("elabor.tmp")})
         EXPECT_EQ(Exists(file), file == note->copy) << file.toStdString();
+}
+
+// The next start offers the changes, and "Originale" needs the picture that they were made to.
+TEST_F(Faults, KeepThePastedPictureThatUnsavedWorkBeganWith)
+{
+    QImage copied(3, 2, QImage::Format_RGB32);
+    copied.fill(Qt::red);
+    QApplication::clipboard()->setImage(copied);
+    emit session.form1.Pasted();
+    QApplication::clipboard()->clear();
+    Apply("Specchio");
+    const QString pasted = session.doc.FileAperto;
+    FailHalfway(Fatal::All);
+    EXPECT_EQ(session.ending, 1);
+    EXPECT_TRUE(Exists(pasted));
 }
 
 TEST_F(Faults, KeepThePictureBeforeTheEffectThatFailedHalfway)

@@ -23,7 +23,7 @@ inline Effect& Spy()
     return spy;
 }
 
-/// The program's controls and one entry more, the 63rd, which starts the spy.
+/// The program's controls and one entry more, which starts the spy.
 inline Controls ControlsWithSpy()
 {
     static const std::vector<MenuEntry> menu = [] {
@@ -33,6 +33,6 @@ inline Controls ControlsWithSpy()
     }();
     return {menu, PaletteButtons()};
 }
-inline constexpr int SpyEntry = 63;
+inline const int SpyEntry = static_cast<int>(MenuEntries().size()) + 1;
 
 }  // namespace pixano::test
