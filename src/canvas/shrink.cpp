@@ -81,8 +81,9 @@ class ColumnSums {
             ForEach(under, to, [&](int i, std::uint64_t weight) {
                 whole += weight * sums[static_cast<std::size_t>(i - begin)];
             });
-            // Exact: both numbers are whole, and far below what a double holds.
-            colour |= static_cast<std::uint32_t>(static_cast<double>(whole) / area + 0.5) << shift;
+            // Exact: all these numbers are whole, and far below what a double holds.
+            const double twice = 2 * static_cast<double>(whole);
+            colour |= static_cast<std::uint32_t>((twice + area) / (2 * area)) << shift;
             shift += ChannelBits;
         }
         return static_cast<Colour>(colour);
