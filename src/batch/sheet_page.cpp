@@ -114,11 +114,11 @@ std::string Refusals(const SheetContents& contents)
     if (items.empty()) return {};
     // No side beyond this, and every effect has room.
     constexpr int Enough = 1400;
-    const bool tooLarge = std::max(contents.width, contents.height) > Enough;
-    const std::string advice = "<p>Un'immagine troppo grande si riduce con <b>--entro " +
-                               std::to_string(Enough) + "</b>.</p>\n";
-    return "<h2>Effetti che questa misura non consente</h2>\n<ul>\n" + items + "</ul>\n" +
-           (tooLarge ? advice : std::string());
+    std::string advice;
+    if (std::max(contents.width, contents.height) > Enough)
+        advice = "<p>Un'immagine troppo grande si riduce con <b>--entro " + std::to_string(Enough) +
+                 "</b>.</p>\n";
+    return "<h2>Effetti che questa misura non consente</h2>\n<ul>\n" + items + "</ul>\n" + advice;
 }
 
 }  // namespace

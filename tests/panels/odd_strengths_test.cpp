@@ -6,7 +6,7 @@ namespace {
 
 TEST_F(StrengthsInUse, OutsideTheRangeBecomeTheEnd)
 {
-    Ship("1\r\n2\r\n12010\r\n4\r\n-5\r\n");
+    Ship("valori.tip", "1\r\n2\r\n12010\r\n4\r\n-5\r\n");
     PressVetro([](QWidget& window) {
         EXPECT_EQ(LabelIn(window), "10000");
         Confirm(window);
@@ -20,7 +20,7 @@ TEST_F(StrengthsInUse, OutsideTheRangeBecomeTheEnd)
 
 TEST_F(StrengthsInUse, WithoutANumberAreNothing)
 {
-    Ship("uno\r\ndue\r\ntre\r\nquattro\r\ncinque\r\n");
+    Ship("valori.tip", "uno\r\ndue\r\ntre\r\nquattro\r\ncinque\r\n");
     PressVetro([](QWidget& window) { EXPECT_EQ(LabelIn(window), "0"); });
     EXPECT_EQ(session.work.Valori, Strengths{});
 }
@@ -56,14 +56,14 @@ class UnreadableStrengths : public StrengthsInUse {
 
 TEST_F(UnreadableStrengths, EndTheProgramWithItsMessage)
 {
-    QFile::remove(Root() + "/program/valori.tip");
+    QFile::remove(Beside("valori.tip"));
     PressVetroInVain();
     ASSERT_EQ(dialogs.told.size(), 1U);
     const ShownBox& box = dialogs.told.front();
     EXPECT_EQ(box.icon, BoxIcon::Critical);
     EXPECT_EQ(box.title, "Attenzione!");
     EXPECT_TRUE(box.text.contains("«Vetro»")) << box;
-    EXPECT_TRUE(box.text.contains(Root() + "/program/valori.tip")) << box;
+    EXPECT_TRUE(box.text.contains(Beside("valori.tip"))) << box;
     EXPECT_TRUE(box.text.endsWith("Il programma termina.")) << box;
     EXPECT_EQ(session.ending, 1);
     EXPECT_TRUE(KeptWork().isEmpty()) << "nothing was unsaved";
@@ -73,7 +73,7 @@ TEST_F(UnreadableStrengths, KeepUnsavedWork)
 {
     ClickEntry(32);
     const Values unsaved = ValuesOf(Canvas());
-    Ship("1\r\n2\r\n3\r\n4\r\n");
+    Ship("valori.tip", "1\r\n2\r\n3\r\n4\r\n");
     PressVetroInVain();
     EXPECT_EQ(session.ending, 1);
     ASSERT_FALSE(KeptWork().isEmpty());
@@ -85,7 +85,7 @@ TEST_F(UnreadableStrengths, KeepUnsavedWork)
 TEST_F(UnreadableStrengths, EndTheProgramAtAResizeToo)
 {
     PressVetro([this](QWidget& window) {
-        Ship("");
+        Ship("valori.tip", "");
         window.resize(window.width() + 50, window.height());
         EXPECT_EQ(session.ending, 1);
     });
@@ -95,7 +95,7 @@ TEST_F(UnreadableStrengths, EndTheProgramAtAResizeToo)
 
 TEST_F(UnreadableStrengths, LeaveNoWindowBehind)
 {
-    Ship("");
+    Ship("valori.tip", "");
     PressVetroInVain();
     for (const QWidget* const window : QApplication::topLevelWidgets())
         EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();

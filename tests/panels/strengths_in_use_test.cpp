@@ -98,7 +98,7 @@ TEST_F(StrengthsInUse, OkWritesAllFiveInTheCurrentFolder)
 
 TEST_F(StrengthsInUse, OkLeavesAFractionAlone)
 {
-    Ship("1\r\n2\r\n0.25\r\n4\r\n5\r\n");
+    Ship("valori.tip", "1\r\n2\r\n0.25\r\n4\r\n5\r\n");
     PressVetro([](QWidget& window) {
         EXPECT_EQ(LabelIn(window), "0.25");
         Confirm(window);
@@ -118,7 +118,7 @@ TEST_F(StrengthsInUse, ResizingReadsThemAgain)
 {
     PressVetro([this](QWidget& window) {
         SliderIn(window).setValue(7000);
-        Ship("1\r\n2\r\n333\r\n4\r\n5\r\n");
+        Ship("valori.tip", "1\r\n2\r\n333\r\n4\r\n5\r\n");
         window.resize(window.width() + 50, window.height() + 10);
         EXPECT_EQ(LabelIn(window), "333");
         EXPECT_EQ(SliderIn(window).value(), 333);

@@ -13,19 +13,14 @@
 
 namespace pixano::test {
 
-/// The program lies in one folder and runs in another.
 class StrengthsInUse : public Program {
   protected:
     StrengthsInUse()
     {
-        QDir(Root()).mkdir("program");
-        session.programFolder = Root() + "/program";
-        Ship("1000\r\n2000\r\n3000\r\n4000\r\n4500\r\n");
+        Ship("valori.tip", "1000\r\n2000\r\n3000\r\n4000\r\n4500\r\n");
         Open("a.bmp", Varied(9, 7));
     }
 
-    /// Puts a "valori.tip" beside the program.
-    void Ship(const std::string& content) { Write(Root() + "/program/valori.tip", content); }
     /// Presses "Vetro" and does something in the slider window.
     void PressVetro(const std::function<void(QWidget&)>& act) { Ask("SSCommand6", act); }
     void Ask(const char* button, const std::function<void(QWidget&)>& act)

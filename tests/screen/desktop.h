@@ -133,6 +133,17 @@ class Desktop : public Program {
         }));
     }
 
+    /// Whatever the program asks or tells by boxes and file dialogs, each in its turn.
+    static std::vector<std::function<void()>> Questions(Dialogs& real)
+    {
+        return {
+            [&] { real.Ask(BoxIcon::Question, "Messaggio!", "Salvare?"); },
+            [&] { real.Tell(BoxIcon::Exclamation, "Attenzione!", "Fatto."); },
+            [&] { real.AskOpenName(QDir::currentPath()); },
+            [&] { real.AskSaveName(QDir::currentPath(), {}); },
+        };
+    }
+
     std::vector<QWidget*> Companions() { return {&session.form2, &session.form9, &session.form10}; }
 };
 

@@ -171,14 +171,9 @@ TEST_F(Minimised, AWindowThatWaitsForAnAnswerComesBack)
 {
     OpenSized(300, 200);
     ScreenDialogs real;
-    const std::vector<std::function<void()>> questions{
-        [&] { real.Ask(BoxIcon::Question, "Messaggio!", "Salvare?"); },
-        [&] { real.Tell(BoxIcon::Exclamation, "Attenzione!", "Fatto."); },
-        [&] { real.AskOpenName(QDir::currentPath()); },
-        [&] { real.AskSaveName(QDir::currentPath(), {}); },
-        [&] { Form11("Vetro", session.form10).exec(); },
-        [&] { Form6().exec(); },
-    };
+    std::vector<std::function<void()>> questions = Questions(real);
+    questions.emplace_back([&] { Form11("Vetro", session.form10).exec(); });
+    questions.emplace_back([&] { Form6().exec(); });
     for (std::size_t i = 0; i < questions.size(); ++i) {
         const ModalSteps steps({[&](QDialog& dialog) {
             EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); })) << i;

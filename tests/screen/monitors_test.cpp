@@ -90,13 +90,7 @@ TEST_F(TwoMonitors, HoldTheProgressWindowWhereTheMainWindowIs)
 TEST_F(TwoMonitors, HoldWhatAsksAndTellsWhereTheMainWindowIs)
 {
     ScreenDialogs real;
-    const std::vector<std::function<void()>> questions{
-        [&] { real.Ask(BoxIcon::Question, "Messaggio!", "Salvare?"); },
-        [&] { real.Tell(BoxIcon::Exclamation, "Attenzione!", "Fatto."); },
-        [&] { real.AskOpenName(QDir::currentPath()); },
-        [&] { real.AskSaveName(QDir::currentPath(), {}); },
-    };
-    for (const auto& question : questions) {
+    for (const auto& question : Questions(real)) {
         Activate(session.form1);
         const ModalSteps steps({[this](QDialog& dialog) {
             EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); }));

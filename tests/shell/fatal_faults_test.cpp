@@ -9,6 +9,10 @@
 namespace pixano::test {
 namespace {
 
+constexpr const char* NoRoomInMatrix =
+    "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla matrice (ammessi da "
+    "0 a 1500): l'immagine è troppo grande, troppo piccola o troppo allungata per questo effetto.";
+
 /// A picture is open that is too wide for a matrix.
 class FatalFaults : public Faults {
   protected:
@@ -19,12 +23,8 @@ TEST_F(FatalFaults, EndTheProgramWithAStatusThatIsNotZero)
 {
     Apply("Multi Step Orizzontale");
     EXPECT_EQ(dialogs.told,
-              (std::vector<ShownBox>{
-                  {BoxIcon::Critical, "Attenzione!",
-                   "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla "
-                   "matrice (ammessi da 0 a 1500): l'immagine è troppo grande, troppo piccola o "
-                   "troppo allungata per "
-                   "questo effetto.\n\nIl programma termina."}}));
+              (std::vector<ShownBox>{{BoxIcon::Critical, "Attenzione!",
+                                      NoRoomInMatrix + QString("\n\nIl programma termina.")}}));
     EXPECT_EQ(session.ending, 1);
     EXPECT_FALSE(session.form1.isVisible());
     EXPECT_FALSE(session.form2.isVisible());
@@ -88,10 +88,7 @@ TEST_F(FatalFaults, KeepUnsavedWorkInTheDataFolderAndNameTheFile)
     ASSERT_EQ(Conserved().size(), 1);
     const QString path = Data(Conserved()[0]);
     EXPECT_EQ(dialogs.told.back().text,
-              "Errore durante il comando «Multi Step Orizzontale»:\nIndice fuori dalla matrice "
-              "(ammessi da 0 a 1500): l'immagine è troppo grande, troppo piccola o troppo "
-              "allungata per questo "
-              "effetto.\n\nIl lavoro non salvato è stato conservato nel file «" +
+              NoRoomInMatrix + QString("\n\nIl lavoro non salvato è stato conservato nel file «") +
                   path + "».\n\nIl programma termina.");
     EXPECT_TRUE(ReadPicture(path.toStdString()).picture == mirrored);
     EXPECT_EQ(session.ending, 1);

@@ -8,15 +8,7 @@ namespace pixano::test {
 
 class Starting : public SessionInFolders {
   protected:
-    Starting()
-    {
-        // Beside the program lie the strengths that it comes with.
-        QDir(Root()).mkdir("program");
-        session.programFolder = Root() + "/program";
-        Write(Beside("valori.tip"), "1000\r\n2000\r\n3000\r\n4000\r\n5000\r\n");
-    }
-
-    QString Beside(const QString& name) const { return Root() + "/program/" + name; }
+    Starting() { Ship("valori.tip", "1000\r\n2000\r\n3000\r\n4000\r\n5000\r\n"); }
 
     /// Runs the program with these arguments to its end; `then` is done once it waits for the user.
     int RunWith(const QStringList& arguments, const std::function<void()>& then = Nothing)

@@ -30,6 +30,15 @@ class SessionInFolders : public testing::Test, protected Folders, protected Desk
     {
         WriteBytes(Path(name).toStdString(), bytes);
     }
+    /// The path of a file beside the program.
+    QString Beside(const QString& name) const { return Root() + "/program/" + name; }
+    /// Puts the file beside the program, which lies in a folder of its own.
+    void Ship(const QString& name, const std::string& bytes)
+    {
+        QDir(Root()).mkdir("program");
+        session.programFolder = Root() + "/program";
+        Write(Beside(name), bytes);
+    }
     static bool Exists(const QString& path) { return QFileInfo::exists(path); }
     /// The letters of the picture in that file.
     static Letters Kept(const QString& path)
