@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Links of the documents lead somewhere, no picture of theirs is left over, and all name one version:
-# documents.sh PROJECT
+# Links of the documents lead somewhere, no picture of theirs is left over, all name one version, and the files and
+# names that they speak of are there: documents.sh PROJECT
 set -euo pipefail
 
 cd -- "$1"
@@ -51,6 +51,26 @@ packaging/man/it/pixano.1:"Pixano VERSION"
 packaging/man/it/pixano-batch.1:"Pixano VERSION"
 resources/descrizione.html:<b>Pixano VERSION</b>
 TEXTS
+# Files in backticks, named from the project's folder or from that of the sources or tests. ROOM stands for any.
+while IFS=: read -r page file; do
+    file=${file/ROOM/*}
+    [[ -e ${file%%/*} || -e src/${file%%/*} || -e tests/${file%%/*} ]] || continue
+    compgen -G "$file*" >>"$used" || compgen -G "src/$file*" >>"$used" || compgen -G "tests/$file*" >>"$used" ||
+        complain "$page: no file $file"
+done < <(grep -oE '`[a-z_]+/[^` ]*' README.md CONTRIBUTING.md docs/*.md | tr -d '`' | grep -v ':build/')
+# The glossary's names are the code's (what only its class sees begins in lower case there), and all that an effect or a
+# command meets under an Italian name is in the glossary.
+explained=$(grep -oE '^\| [^|]+ \|' docs/glossary.md | grep -oE '`[A-Za-z0-9_]+`' | tr -d '`' | sort -u)
+while read -r name; do
+    grep -rqE "\b($name|${name,}_)\b" src || complain "docs/glossary.md: nothing is called $name"
+done <<<"$explained"
+while read -r name; do
+    grep -qxF -- "$name" <<<"$explained" || complain "docs/glossary.md does not explain $name"
+done < <(
+    sed -nE 's/.*\.run = ([A-Za-z0-9]+).*/\1/p' src/effects/catalogue.h
+    sed -nE 's/^    [A-Za-z0-9_:]+ ([A-Z][A-Za-z0-9]*)(\{\}| = [^;]+)?;.*/\1/p' src/document/document.h src/canvas/work.h
+    sed -nE 's/^void ([A-Z][a-z]*_Click)\(.*/\1/p' src/*/*.h
+)
 effects=$(grep -c '\.run = ' src/effects/catalogue.h)
 [[ $(grep -c '<a id="' docs/guida.md) -eq $effects ]] || complain "The guide does not describe all $effects effects"
 exit "$failed"
