@@ -32,6 +32,8 @@ TEST_F(AnyScreen, ShowsItsPicturesInTheScreensOwnDots)
          {static_cast<const QWidget*>(&emblem), static_cast<const QWidget*>(&opening)}) {
         const QPixmap shown = window->findChild<QLabel*>("Picture1")->pixmap();
         EXPECT_EQ(shown.devicePixelRatio(), dots) << window->objectName().toStdString();
+        // As large to the eye on each, unless the screen is too small for it.
+        EXPECT_GE(shown.deviceIndependentSize().width(), std::min(480, Screen().width() * 3 / 4));
     }
 }
 
