@@ -33,8 +33,9 @@ void HeldWindow::SetInside(QSize size)
         home_ = pos();
         moved_ = true;
     }
+    const QSize held = Held(stated_);
     LetItsSizeChange();
-    resize(Held(stated_));
+    resize(held);
     ShowBarsOnlyWhenHeld();
     if (isVisible() && this->size() != before) {
         const QPoint place = PlaceWithin(RoomToGrow(), *this, home_);
@@ -62,8 +63,9 @@ QRect HeldWindow::RoomToGrow() const
 
 QSize HeldWindow::Held(QSize size) const
 {
-    const auto most = [this](bool held) {
-        return Room(held).size().shrunkBy(FrameOf(*this)).expandedTo({1, 1});
+    const QMargins frame = HasFixedSize() ? FrameOf(*this) | UsualFrame : FrameOf(*this);
+    const auto most = [&](bool held) {
+        return Room(held).size().shrunkBy(frame).expandedTo({1, 1});
     };
     const bool fits = size.boundedTo(most(false)) == size;
     return fits ? size : size.boundedTo(most(true));
@@ -122,6 +124,13 @@ void HeldWindow::showEvent(QShowEvent* event)
     windowHandle()->setMinimumSize(size());
     windowHandle()->setMaximumSize(size());
     QTimer::singleShot(Appearing, this, &HeldWindow::LetItsSizeChange);
+}
+
+/// Its frame is a thin one as long as it has.
+bool HeldWindow::HasFixedSize() const
+{
+    return windowHandle() != nullptr &&
+           windowHandle()->minimumSize() == windowHandle()->maximumSize();
 }
 
 void HeldWindow::LetItsSizeChange()

@@ -58,6 +58,7 @@ class HeldWindow : public QScrollArea {
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Asks the window manager for place and size once more.
     void AskAgain();
+    bool HasFixedSize() const;
     void LetItsSizeChange();
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();

@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 namespace pixano {
 namespace {
@@ -16,6 +18,24 @@ void BringBackIfMinimised(QObject& changed)
     if (window == nullptr || !window->isModal() || !window->isMinimized()) return;
     // Not before the toolkit has taken note of it.
     QTimer::singleShot(0, window, [window] { BringForward(*window); });
+}
+
+/// The window itself would be placed by the frame that it had when it was last moved.
+void BringDownIfAboveScreen(QWindow& window)
+{
+    const int top = window.screen()->availableGeometry().top();
+    const QPoint place = window.framePosition();
+    if (place.y() < top) window.setFramePosition({place.x(), top});
+}
+
+/// Of its frame, which makes it higher, the toolkit knows only once the window is there.
+void KeepTitleOnScreen(QObject& shown)
+{
+    constexpr int UntilFramed = 200;
+    auto* const window = qobject_cast<QWidget*>(&shown);
+    if (window == nullptr || !window->isModal()) return;
+    QTimer::singleShot(UntilFramed, window->windowHandle(),
+                       [window] { BringDownIfAboveScreen(*window->windowHandle()); });
 }
 
 bool ActsOnceOnly(const QKeyEvent& event, const QObject& watched)
@@ -35,6 +55,7 @@ Manners::Manners()
 bool Manners::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::WindowStateChange) BringBackIfMinimised(*watched);
+    if (event->type() == QEvent::Show && !event->spontaneous()) KeepTitleOnScreen(*watched);
     if (event->type() == QEvent::KeyPress) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         if (key.isAutoRepeat() && ActsOnceOnly(key, *watched)) return true;

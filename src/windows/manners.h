@@ -8,6 +8,8 @@ namespace pixano {
 /// As long as it lives:
 /// - A modal window that is minimised comes back: behind it no other window takes a click, and the
 ///   program would seem dead. A window manager may offer to minimise it whatever it is asked for.
+/// - One that appears above the upper edge of its screen, as window managers place high ones over
+///   their parents, comes down: by its title it is moved, and out of the way.
 /// - The return key does once what it does, however long it is held down: what it starts may take
 ///   seconds, and would be started again for every time that the key has repeated meanwhile.
 /// - So does a letter in a menu: the one that has opened it would choose an entry of it.

@@ -20,7 +20,8 @@ class SeenCanvas : public Desktop {
     bool Shows(const Surface& picture)
     {
         PictureBox& box = session.form2.Picture1();
-        const QPoint corner = box.mapToGlobal(QPoint(2, 2));
+        const QPoint corner =
+            box.mapToGlobal(QPoint(2, 2)) - session.form2.screen()->geometry().topLeft();
         const QImage seen =
             session.form2.screen()
                 ->grabWindow(0, corner.x(), corner.y(), picture.Width(), picture.Height())

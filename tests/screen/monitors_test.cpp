@@ -6,6 +6,7 @@
 #include "windows/screen_dialogs.h"
 
 #include <QDir>
+#include <QMessageBox>
 
 namespace pixano::test {
 namespace {
@@ -14,9 +15,10 @@ class TwoMonitors : public Desktop {
   protected:
     TwoMonitors() : right_(QApplication::screens().back()->geometry())
     {
-        // The program starts on the left one, which begins at the origin.
+        // The program starts on the left one.
         EXPECT_EQ(QApplication::screens().size(), 2);
         EXPECT_GT(right_.left(), 0);
+        EXPECT_GT(right_.top(), 0);
         Do(QString("windowmove --sync %1 %2 200").arg(Id(session.form1)).arg(right_.left() + 300));
         EXPECT_TRUE(ComesToHold([this] { return right_.contains(session.form1.frameGeometry()); }));
     }
@@ -24,7 +26,8 @@ class TwoMonitors : public Desktop {
     void ExpectOnTheRight(const QWidget& window) const
     {
         EXPECT_TRUE(right_.contains(window.frameGeometry()))
-            << window.objectName().toStdString() << " begins at " << window.x();
+            << window.objectName().toStdString() << " begins at " << window.x() << ","
+            << window.y();
     }
     /// In the middle of the right monitor, up to what rounding takes away.
     void ExpectInTheMiddle(const QWidget& window) const
@@ -52,6 +55,10 @@ TEST_F(TwoMonitors, HoldCanvasPreviewAndPaletteBesideTheMainWindow)
 TEST_F(TwoMonitors, HoldLargePicturesAndTheGrowingPreviewOnTheRight)
 {
     OpenSized(3000, 3000);
+    ExpectOnTheRight(session.form2);
+    ExpectOnTheRight(session.form9);
+    // Their frames are known by now.
+    OpenSized(3000, 2900);
     ExpectOnTheRight(session.form2);
     ExpectOnTheRight(session.form9);
     OpenSized(300, 200);
@@ -87,6 +94,17 @@ TEST_F(TwoMonitors, HoldTheProgressWindowWhereTheMainWindowIs)
     EXPECT_TRUE(seen);
 }
 
+// There may be nothing above, or another monitor.
+TEST_F(TwoMonitors, HoldTheTitleOfWhatAsks)
+{
+    QMessageBox box(&session.form1);
+    box.setText("Salvare?");
+    box.move(right_.topLeft() + QPoint(100, -50));
+    box.open();
+    EXPECT_TRUE(ComesToHold([&] { return !box.windowHandle()->frameMargins().isNull(); }));
+    EXPECT_TRUE(Stays([&] { return box.y() == right_.top(); })) << box.y();
+}
+
 TEST_F(TwoMonitors, HoldWhatAsksAndTellsWhereTheMainWindowIs)
 {
     ScreenDialogs real;
@@ -95,7 +113,8 @@ TEST_F(TwoMonitors, HoldWhatAsksAndTellsWhereTheMainWindowIs)
         const ModalSteps steps({[this](QDialog& dialog) {
             EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); }));
             EXPECT_TRUE(Stays([&] { return right_.contains(dialog.frameGeometry()); }))
-                << dialog.windowTitle().toStdString() << " begins at " << dialog.x();
+                << dialog.windowTitle().toStdString() << " begins at " << dialog.x() << ","
+                << dialog.y() << " with " << dialog.frameGeometry().height() << " rows";
         }});
         question();
     }

@@ -140,7 +140,7 @@ TEST_F(Places, ALargeCanvasBesideThePaletteAsItAppears)
     EXPECT_TRUE(StaysOnceAnswered(
         [this] { return !session.form2.isMaximized() && Canvas().right() < StripLeft(); }));
     EXPECT_FALSE(session.form9.isMaximized());
-    EXPECT_EQ(session.form10.y(), 0);
+    EXPECT_EQ(session.form10.y(), session.form10.screen()->geometry().top());
 }
 
 TEST_F(Places, TheTitlesOfCanvasAndPreviewApart)

@@ -59,5 +59,17 @@ TEST_F(HeldKey, AnswersNoQuestionThatComesMeanwhile)
     EXPECT_FALSE(question.isVisible());
 }
 
+TEST_F(Program, BringsWhatAsksAboveTheScreenDownOntoIt)
+{
+    for (const bool modal : {true, false}) {
+        QDialog window;
+        window.setModal(modal);
+        window.move(40, -60);
+        window.show();
+        EXPECT_EQ(QTest::qWaitFor([&] { return window.y() == 0; }, 400), modal) << window.y();
+        EXPECT_EQ(window.x(), 40);
+    }
+}
+
 }  // namespace
 }  // namespace pixano::test
