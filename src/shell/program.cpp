@@ -175,6 +175,17 @@ int RunAsOnlyInstance(Session& session, const Options& options)
     return RunSession(session, options);
 }
 
+int RunOrTell(Dialogs& dialogs, const Options& options)
+{
+    try {
+        Session session(dialogs, ProgramControls());
+        return RunAsOnlyInstance(session, options);
+    } catch (const Fault& fault) {
+        dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
+        return 1;
+    }
+}
+
 int StartProgram(int argc, char* argv[])
 {
     SurviveSizeLimits();
@@ -196,13 +207,7 @@ int StartProgram(int argc, char* argv[])
     const std::optional<Options> options = OptionsFrom(ArgumentsOf(argc, argv));
     if (!options) return TellUsage();
     ScreenDialogs dialogs;
-    try {
-        Session session(dialogs, ProgramControls());
-        return RunAsOnlyInstance(session, *options);
-    } catch (const Fault& fault) {
-        dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
-        return 1;
-    }
+    return RunOrTell(dialogs, *options);
 }
 
 }  // namespace pixano

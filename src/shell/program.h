@@ -16,6 +16,10 @@ int StartProgram(int argc, char* argv[]);
 /// Throws Fault FileAccess when the data folder cannot be used.
 int RunAsOnlyInstance(Session& session, const Options& options);
 
+/// The same with a session of its own. Where the data folder cannot be used `dialogs` tell it, and
+/// the exit status is 1.
+int RunOrTell(Dialogs& dialogs, const Options& options);
+
 /// What the application needs whatever its windows are: its name, Italian for the toolkit's own
 /// texts, the toolkit's own dialogs.
 void PrepareApplication(QApplication& application);

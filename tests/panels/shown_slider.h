@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QSlider>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,14 @@ class SliderWindow : public testing::Test {
     QSlider& Slider() { return *window.findChild<QSlider*>("Slider1"); }
     std::string Label() { return window.findChild<QLabel*>("Label1")->text().toStdString(); }
     void Type(const char* keys) { QTest::keyClicks(&Slider(), keys); }
+    /// The wheel, by so many eighths of a degree; a notch is 120.
+    void Turn(int eighths)
+    {
+        const QPointF middle = QRectF(Slider().rect()).center();
+        QWheelEvent event(middle, Slider().mapToGlobal(middle), {}, {0, eighths}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&Slider(), &event);
+    }
     void Key(Qt::Key key) { QTest::keyClick(&Slider(), key); }
 
     /// Slider and label show the value, and it was told last.

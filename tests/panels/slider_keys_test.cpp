@@ -1,8 +1,6 @@
 // The hands that move the slider and confirm it: keys, typed digits, the wheel and the mouse.
 #include "panels/shown_slider.h"
 
-#include <QWheelEvent>
-
 namespace pixano::test {
 namespace {
 
@@ -34,16 +32,10 @@ TEST_F(SliderWindow, MovesWithArrowsAndPageKeys)
 
 TEST_F(SliderWindow, MovesWithTheWheel)
 {
-    const auto turn = [this](int eighths) {
-        const QPointF middle = QRectF(Slider().rect()).center();
-        QWheelEvent event(middle, Slider().mapToGlobal(middle), {}, {0, eighths}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&Slider(), &event);
-    };
-    turn(120);
+    Turn(120);
     EXPECT_GT(Slider().value(), 5000);
     ExpectMovedTo(Slider().value());
-    turn(-120);
+    Turn(-120);
     ExpectMovedTo(5000);
 }
 
@@ -99,6 +91,24 @@ TEST_F(SliderWindow, BeginsANewNumberAfterAnotherKey)
     Key(Qt::Key_Right);
     Type("7");
     ExpectMovedTo(7);
+}
+
+TEST_F(SliderWindow, BeginsANewNumberOnceTheMouseHasMovedIt)
+{
+    const std::vector<std::function<void()>> hands{
+        [this] { Turn(120); },
+        [this] {
+            QTest::mouseClick(&Slider(), Qt::LeftButton, {}, {Slider().width() - 4, 8});
+        },
+    };
+    for (const auto& move : hands) {
+        Type("25");
+        move();
+        EXPECT_EQ(window.findChild<QLabel*>("Typed")->text(), "");
+        Type("3");
+        ExpectMovedTo(3);
+        Key(Qt::Key_Home);
+    }
 }
 
 TEST_F(SliderWindow, TakesTheLastDigitAwayAtABackspace)
