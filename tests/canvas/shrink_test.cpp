@@ -1,6 +1,7 @@
 // Pictures made smaller: sizes, and means worked out by hand.
 #include "canvas/shrink.h"
 
+#include "support/effect_run.h"
 #include "support/letters.h"
 
 #include <gtest/gtest.h>
