@@ -43,9 +43,8 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     grid->addWidget(label, 0, 0);
     grid->addWidget(combo1_, 0, 1);
     grid->addLayout(buttons, 1, 0, 1, 2);
+    // Told too when an entry is chosen that is shown already.
     connect(combo1_, &QComboBox::editTextChanged, this,
-            [this](const QString& text) { result_.TestoSottrazione = text; });
-    connect(combo1_, &QComboBox::textActivated, this,
             [this](const QString& text) { result_.TestoSottrazione = text; });
     connect(ok, &QPushButton::clicked, this, [this] {
         result_.TestoSottrazione = combo1_->currentText();
