@@ -24,9 +24,8 @@ QPoint BesidePalette(const QWidget& preview, QSize inside)
 {
     // The same before its frame is known and after.
     const QSize whole = inside.grownBy(FrameOf(preview) | UsualFrame);
-    const QRect screen = preview.screen()->geometry();
     const QRect free = preview.screen()->availableGeometry();
-    const QPoint corner(screen.left() + screen.width() - PaletteStrip(), free.bottom());
+    const QPoint corner(free.left() + free.width() - PaletteStrip(), free.bottom());
     const QPoint place = corner - QPoint(whole.width(), whole.height());
     return {std::max(place.x(), free.left()), std::max(place.y(), free.top())};
 }
@@ -98,7 +97,8 @@ void Carica(Session& s, Surface picture)
     // Of the smallest pictures, though, the border would hide columns.
     s.form2.SetInside(QSize(Pixels(w.Larg * CanvasWidth), Pixels(w.Alt * CanvasHeight))
                           .expandedTo(s.form2.Picture1().size()));
-    s.form2.PlaceAt(s.form1.screen()->geometry().topLeft());
+    // A panel of the desktop would lie on its title.
+    s.form2.PlaceAt(s.form1.screen()->availableGeometry().topLeft());
     ShowCanvas(s);
     s.form9.Image1().SetStretch(false);
     s.form9.Image1().SetPicture(w.Picture1);

@@ -156,9 +156,9 @@ void Form10::setVisible(bool visible)
 {
     // Closed and shown again it is loaded anew, in its own place.
     if (visible && !isVisible()) {
-        ArrangeFor(screen()->availableGeometry().height());
-        const QRect screen = this->screen()->geometry();
-        move(screen.left() + screen.width() - PaletteStrip(), screen.top());
+        const QRect free = screen()->availableGeometry();
+        ArrangeFor(free.height());
+        move(free.left() + free.width() - PaletteStrip(), free.top());
         // The keyboard starts at the effects, and not at the history that the first one switches
         // on.
         if (focusWidget() == nullptr) boxes_.at(1)->findChild<QPushButton*>()->setFocus();

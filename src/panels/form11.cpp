@@ -113,7 +113,7 @@ void Form11::ShowStrength(double value)
 
 void Form11::StayOnScreen()
 {
-    const int beyond = geometry().right() - screen()->geometry().right();
+    const int beyond = geometry().right() - screen()->availableGeometry().right();
     QMargins margins = layout()->contentsMargins();
     margins.setRight(margins.left() + std::max(0, beyond));
     layout()->setContentsMargins(margins);
