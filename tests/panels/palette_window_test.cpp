@@ -1,6 +1,7 @@
 #include "panels/form10.h"
 
 #include "panels/expected_buttons.h"
+#include "shell/controls.h"
 
 #include <QGroupBox>
 #include <QScreen>

@@ -65,6 +65,7 @@ pixano_windowed(pixano-visitor visitor.cpp)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Gui)
 add_library(decoy MODULE ${RELIABILITY}/decoy/decoy.cpp)
 set_target_properties(decoy PROPERTIES AUTOMOC ON)
+target_include_directories(decoy PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(decoy PRIVATE pixano_options Qt6::Gui)
 pixano_reliability_tests(foreign_folder_test foreign_folder_test.cpp child.cpp)
 target_compile_definitions(foreign_folder_test
