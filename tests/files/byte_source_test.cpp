@@ -120,6 +120,23 @@ TEST(ByteSource, OfAStreamGoesBackAsLongAsItKeepsItsStart)
     EXPECT_EQ(source.Next(), -1);
 }
 
+// However little is there at once.
+TEST(ByteSource, OfAStreamKeepsItsStartFromSmallPieces)
+{
+    const Bytes bytes = Told(900);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+    const Descriptor from(ends[0]);
+    const Descriptor into(ends[1]);
+    ByteSource source = ByteSource::Stream(from.Number(), Long);
+    for (const std::size_t place : {0U, 300U, 600U}) {
+        DescriptorSink(into.Number()).Write(Part(bytes, place, 300));
+        EXPECT_EQ(Next(source, 300), Part(bytes, place, 300));
+    }
+    source.Seek(0);
+    EXPECT_EQ(Next(source, 900), bytes);
+}
+
 // However much is read at once.
 TEST(ByteSource, OfAStreamKeepsItsStartFromALongFirstRead)
 {

@@ -56,7 +56,7 @@ TEST_F(ValueText, ReachesBothEndsOfThirtyTwoBits)
 TEST_F(ValueText, IsNoWord)
 {
     for (const char* const text :
-         {"abc", "12x", "x12", "--1", "1 2", "-", "\"a b\"", "1.2.3", "inf", "-nan"}) {
+         {"abc", "12x", "x12", "--1", "1 2", "-", "\"a b\"", "\"1,5\"", "1.2.3", "inf", "-nan"}) {
         EXPECT_EQ(Read(std::string("1\r\n2\r\n") + text + "\r\n3\r\n"), (Numbers{1, 2})) << text;
         EXPECT_EQ(fault, FaultKind::TypeMismatch) << text;
     }

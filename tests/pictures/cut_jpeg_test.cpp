@@ -59,5 +59,14 @@ TEST(CutJpeg, InALaterScanIsThereFromTopToBottom)
     }
 }
 
+// Nobody knows whether another scan was to follow.
+TEST(CutJpeg, BetweenScansMayLackSomething)
+{
+    const Bytes whole = MakeJpeg(Shaded(Width, Height), Progressive);
+    const PictureRead read = whole.Without(2).Read();
+    EXPECT_TRUE(read.truncated);
+    EXPECT_EQ(read.picture, whole.Read().picture);
+}
+
 }  // namespace
 }  // namespace pixano::test

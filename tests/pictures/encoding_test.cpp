@@ -79,14 +79,17 @@ TEST(Encoding, JpegKeepsGreyAndAllButTheFinestShades)
 
 TEST(Encoding, JpegKeepsTheColourOfEachPixelOnItsOwn)
 {
-    // Red and blue columns take turns: were colours halved, all would be the same purple.
-    Surface stripes(16, 16);
-    for (int y = 0; y < 16; ++y)
-        for (int x = 0; x < 16; ++x)
-            stripes.PSet(x, y, x % 2 == 0 ? Rgb(200, 40, 40) : Rgb(40, 40, 200));
-    const Surface read = Encoded(stripes, PictureFormat::Jpeg).Read().picture;
-    EXPECT_GT(read.Point(4, 8) & 255, 170);
-    EXPECT_LT(read.Point(5, 8) & 255, 70);
+    // Red and blue columns take turns, and then rows: were colours halved that way, all would be
+    // the same purple.
+    for (const bool across : {true, false}) {
+        Surface stripes(16, 16);
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+                stripes.PSet(x, y, (across ? x : y) % 2 == 0 ? Rgb(200, 40, 40) : Rgb(40, 40, 200));
+        const Surface read = Encoded(stripes, PictureFormat::Jpeg).Read().picture;
+        EXPECT_GT(read.Point(8, 8) & 255, 170) << across;
+        EXPECT_LT((across ? read.Point(9, 8) : read.Point(8, 9)) & 255, 70) << across;
+    }
 }
 
 // Longer than what is written at once; nothing follows the mark of the end.

@@ -49,6 +49,20 @@ TEST_F(Saving, AWorkingFileHasTheSameBytes)
     EXPECT_THAT(folder.Names(), ElementsAre("figura.bmp"));
 }
 
+TEST_F(Saving, EveryRowWhateverIsLeftForTheLastWrite)
+{
+    // Some rows of that width are written at once; at last there are all numbers of them.
+    constexpr int Wide = 20000;
+    for (int height = 1; height <= 10; ++height) {
+        Surface picture(Wide, height);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < Wide; ++x)
+                picture.PSet(x, y, x + 1000 * y);
+        SaveBitmap(picture, path);
+        EXPECT_TRUE(ReadPicture(path).picture == picture) << height;
+    }
+}
+
 TEST_F(Saving, WhatIsSavedIsReadBack)
 {
     // More rows than are written at once, with every length of padding.
