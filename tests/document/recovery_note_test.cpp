@@ -61,6 +61,20 @@ TEST_F(Noted, IsGoneAsSoonAsThePictureIsSaved)
     EXPECT_FALSE(there);
 }
 
+// It stays open, and "Originale" of the next start goes back to it.
+TEST_F(Noted, NamesThePictureThatWasOpenedThoughItWasChosenAgain)
+{
+    Apply("Specchio");
+    dialogs.answers = {false};
+    dialogs.openNames = {Path("a.bmp")};
+    ClickEntry(entry::Apri);
+    QFile::remove(Data("recupero.txt"));
+    Apply("Capovolgi");
+    const std::optional<RecoveryNote> note = ReadRecoveryNote();
+    ASSERT_TRUE(note);
+    EXPECT_EQ(note->picture, Path("a.bmp"));
+}
+
 TEST_F(Noted, IsWrittenWhenTheUserClosesTheProgressWindow)
 {
     QDir().mkpath(Data("recupero.txt"));
