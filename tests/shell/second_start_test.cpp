@@ -1,28 +1,18 @@
 // What a second start hands over arrives letter for letter.
-#include "shell/second_start.h"
-
+#include "shell/handing_over.h"
 #include "support/temporary_folder.h"
 #include "windows/file_names.h"
 
-#include <QTest>
-
 #include <gtest/gtest.h>
-
-#include <future>
 
 namespace pixano::test {
 namespace {
 
 class SecondStart : public testing::Test {
   protected:
-    /// Hands the name over from a second start, while this one handles its events.
     bool IsHeard(const std::string& name) const
     {
-        auto heard =
-            std::async(std::launch::async, [&] { return HandOver(place_, FileName(name)); });
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return heard.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
-        return heard.get();
+        return HandOverMeanwhile(place_, FileName(name));
     }
 
     const TemporaryFolder folder_;

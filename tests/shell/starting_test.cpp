@@ -1,5 +1,6 @@
 // Which picture the program opens when it starts, and in which folder it works.
 #include "document/recovery_note.h"
+#include "shell/handing_over.h"
 #include "shell/starting.h"
 #include "windows/file_names.h"
 
@@ -138,6 +139,19 @@ TEST_F(Starting, GoesOnThoughThePreviewOfThePictureBroughtBackHasNoFile)
     EXPECT_EQ(seen, (Letters{"cba"}));
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando «Recupero»:\n"));
+}
+
+// The main window, which takes no click meanwhile, would come before it.
+TEST_F(Starting, BringsForwardWhatAsksWhenItIsStartedAgain)
+{
+    RunWith({}, [this] {
+        EXPECT_TRUE(HandOverMeanwhile(Data("."), {}));
+        EXPECT_EQ(QApplication::activeWindow(), &session.form1);
+        QDialog question(&session.form1);
+        question.open();
+        EXPECT_TRUE(HandOverMeanwhile(Data("."), {}));
+        EXPECT_EQ(QApplication::activeWindow(), &question);
+    });
 }
 
 }  // namespace
