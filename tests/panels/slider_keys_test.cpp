@@ -95,11 +95,10 @@ TEST_F(SliderWindow, BeginsANewNumberAfterAnotherKey)
 
 TEST_F(SliderWindow, BeginsANewNumberOnceTheMouseHasMovedIt)
 {
+    const QPoint nearTheEnd(Slider().width() - 4, 8);
     const std::vector<std::function<void()>> hands{
         [this] { Turn(120); },
-        [this] {
-            QTest::mouseClick(&Slider(), Qt::LeftButton, {}, {Slider().width() - 4, 8});
-        },
+        [&] { QTest::mouseClick(&Slider(), Qt::LeftButton, {}, nearTheEnd); },
     };
     for (const auto& move : hands) {
         Type("25");
