@@ -27,8 +27,8 @@ void Confirm(Session& s, Form11& window)
     try {
         SalvaValori(FileBytes(NativePath(file::Strengths)), s.work.Valori);
     } catch (const Fault& fault) {
-        s.remarks += QString::fromUtf8(fault.what()) +
-                     ". La forza vale per questa volta, ma non sarà ricordata";
+        // Whatever becomes of the effect.
+        s.remarks += QString::fromUtf8(fault.what()) + ". Questa forza non sarà ricordata";
     }
     window.accept();
 }

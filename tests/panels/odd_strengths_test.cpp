@@ -33,8 +33,7 @@ TEST_F(StrengthsInUse, ThatCannotBeWrittenHoldForThisTime)
     EXPECT_EQ(session.doc.Modificato, 1);
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_EQ(dialogs.told.front().text, "Impossibile salvare «" + Path("valori.tip") +
-                                             "»: è una cartella. La forza vale per questa volta, "
-                                             "ma non sarà ricordata.");
+                                             "»: è una cartella. Questa forza non sarà ricordata.");
     PressVetro(Cancel);
     EXPECT_EQ(session.doc.NumEffetti, 1) << "the confirmation must not count again";
 }
