@@ -129,6 +129,7 @@ Surface ShrunkPart(const Surface& picture, int width, int height, const Part& pa
     return shrunk;
 }
 
+// cppcheck-suppress passedByValue ; it is given back where it fits
 Surface ShrunkWithin(Surface picture, int side)
 {
     const int longer = std::max(picture.Width(), picture.Height());
