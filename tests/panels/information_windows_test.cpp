@@ -53,6 +53,18 @@ TEST(Informazioni, ClosesAtItsButtonReturnAndEscape)
     }
 }
 
+TEST(InformationWindows, AreAsLargeAsWhatTheyShow)
+{
+    Form5 emblem;
+    Form6 opening;
+    Form7 description;
+    for (QDialog* const window : std::initializer_list<QDialog*>{&emblem, &opening, &description}) {
+        window->show();
+        EXPECT_EQ(window->minimumSize(), window->maximumSize())
+            << window->objectName().toStdString();
+    }
+}
+
 TEST(OpeningPicture, HasNoCaption)
 {
     Form6 window;

@@ -93,10 +93,15 @@ TEST_F(SliderWindow, BeginsANewNumberAfterAnotherKey)
     ExpectMovedTo(7);
 }
 
-TEST_F(SliderWindow, BeginsANewNumberOnceTheMouseHasMovedIt)
+TEST_F(SliderWindow, BeginsANewNumberAfterTheMouseOrAnotherControl)
 {
     const QPoint nearTheEnd(Slider().width() - 4, 8);
+    const auto goElsewhere = [this] {
+        QFocusEvent leaves(QEvent::FocusOut);
+        QApplication::sendEvent(&Slider(), &leaves);
+    };
     const std::vector<std::function<void()>> hands{
+        goElsewhere,
         [this] { Turn(120); },
         [&] { QTest::mouseClick(&Slider(), Qt::LeftButton, {}, nearTheEnd); },
     };

@@ -64,6 +64,7 @@ TEST_F(FileDialogs, AreItalianWhateverTheLocale)
         EXPECT_EQ(cell(file, 1), "9,05 KiB");
         EXPECT_EQ(cell(file, 2), "Immagine BMP");
         EXPECT_EQ(cell(1 - file, 1), "");
+        EXPECT_EQ(cell(1 - file, 1), "");
         EXPECT_EQ(cell(1 - file, 2), "Cartella");
         EXPECT_THAT(cell(file, 3),
                     testing::StartsWith(QDate::currentDate().toString("dd/MM/yy").toStdString()));
@@ -150,8 +151,8 @@ TEST_F(FileDialogs, BeginWithTheNameThatMayBeChanged)
 
 TEST_F(FileDialogs, AnswerToEveryNameTyped)
 {
-    for (const QString& name :
-         {QString("due \"virgolette\".bmp"), QString(300, 'm') + ".bmp", QString("a.bmp")})
+    for (const QString& name : {QString("due \"virgolette\".bmp"), QString(300, 'm') + ".bmp",
+                                QString(130, u'è') + ".bmp", QString("a.bmp")})
         for (const bool saving : {false, true})
             EXPECT_EQ(Typed(saving, name), Path(name)) << name.toStdString();
     EXPECT_EQ(Typed(true, "\"senza\""), Path("\"senza\".bmp"));

@@ -25,8 +25,12 @@ class Frame : public Program {
     std::vector<int> Checked() const
     {
         std::vector<int> indices;
-        for (int index = 1; index <= SpyEntry; ++index)
-            if (session.form1.Control(index - 1).isChecked()) indices.push_back(index);
+        for (int index = 1; index <= SpyEntry; ++index) {
+            const QAction& entry = session.form1.Control(index - 1);
+            // One that could be marked and is not would show an empty box.
+            EXPECT_EQ(entry.isCheckable(), entry.isChecked()) << index;
+            if (entry.isChecked()) indices.push_back(index);
+        }
         return indices;
     }
     int BarValue() { return session.form4.findChild<QProgressBar*>("ProgressBar1")->value(); }
