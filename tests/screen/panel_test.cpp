@@ -62,7 +62,7 @@ class BesidePanel : public testing::WithParamInterface<Qt::Edge>, protected Pane
 INSTANTIATE_TEST_SUITE_P(Edges, BesidePanel,
                          testing::Values(Qt::TopEdge, Qt::LeftEdge, Qt::BottomEdge));
 
-TEST_P(BesidePanel, ThePicturesOfEverySizeAreHeld)
+TEST_P(BesidePanel, StandTheWindowsOfSmallAndLargePictures)
 {
     for (const int side : {200, 3000}) {
         SCOPED_TRACE(side);

@@ -55,7 +55,7 @@ TEXTS
 while IFS=: read -r page file; do
     file=${file/ROOM/*}
     [[ -e ${file%%/*} || -e src/${file%%/*} || -e tests/${file%%/*} ]] || continue
-    compgen -G "$file*" >>"$used" || compgen -G "src/$file*" >>"$used" || compgen -G "tests/$file*" >>"$used" ||
+    compgen -G "$file" >/dev/null || compgen -G "src/$file" >/dev/null || compgen -G "tests/$file" >/dev/null ||
         complain "$page: no file $file"
 done < <(grep -oE '`[a-z_]+/[^` ]*' README.md CONTRIBUTING.md docs/*.md | tr -d '`' | grep -v ':build/')
 # The glossary's names are the code's (what only its class sees begins in lower case there), and all that an effect or a
