@@ -8,10 +8,10 @@
 #include "effects/catalogue.h"
 #include "measure.h"
 #include "pictures/picture_files.h"
+#include "shell/application.h"
 #include "shell/commands.h"
 #include "shell/controls.h"
 #include "shell/events.h"
-#include "shell/program.h"
 #include "shell/run.h"
 #include "shell/start_up.h"
 

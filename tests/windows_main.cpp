@@ -1,6 +1,6 @@
 // The windows' tests run on a platform without a screen, unless they are told that there is one for
 // them.
-#include "shell/program.h"
+#include "shell/application.h"
 
 #include <QApplication>
 #include <QSettings>

@@ -28,6 +28,8 @@ struct Document {
     bool open = false;
     /// Whether the preview's copy was written, and so has to be deleted at the end.
     bool previewCopied = false;
+    /// Why it could not be written last; empty when it was.
+    QString noCopyBecause;
     /// Path of the working picture that holds the canvas as it is; empty when none does. What the
     /// recovery note says of it at the moment.
     QString canvasCopy;

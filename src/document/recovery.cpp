@@ -106,7 +106,7 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
     s.form10.EnableHistory(
         {.annulla = std::nullopt, .originale = true, .ripristina = std::nullopt});
     s.doc.canvasCopy = s.doc.notedCopy = note.copy;
-    Mostra(s);
+    if (!Mostra(s)) return;
     // The preview's copy is complete, so it can be noted.
     const QString current = AbsolutePath(file::PreviewCopy);
     s.doc.canvasCopy = current;

@@ -19,18 +19,39 @@ Surface ByWayOfItsFile(Session& s)
     return LoadWorkingPicture(file::PreviewCopy, s.work.Picture1);
 }
 
+/// The command was done: nothing but the copy is missing. Each change of scale would say it again.
+void RemarkMissingCopy(Session& s, const Fault& fault)
+{
+    const QString reason = QString::fromUtf8(fault.what());
+    if (reason == s.doc.noCopyBecause) return;
+    s.doc.noCopyBecause = reason;
+    s.remarks +=
+        "L'anteprima mostra l'immagine com'è ora, ma non c'è la sua copia su disco. " + reason;
+}
+
+/// Puts the canvas, by way of its file, into the preview; whether the file holds it.
+bool FillPreview(Session& s)
+{
+    ImageControl& image = s.form9.Image1();
+    try {
+        image.SetPicture(ByWayOfItsFile(s));
+        s.doc.noCopyBecause.clear();
+        return true;
+    } catch (const Fault& fault) {
+        RemarkMissingCopy(s, fault);
+    }
+    image.SetPicture(s.work.Picture1);
+    return false;
+}
+
 }  // namespace
 
-void Mostra(Session& s)
+bool Mostra(Session& s)
 {
     constexpr double SmallestZoom = 0.4;
     constexpr double TwipsPerColumn = 15.2;
     constexpr double TwipsPerRow = 16.4;
-    ImageControl& image = s.form9.Image1();
-    FirstFault fault;
-    fault.Try([&] { image.SetPicture(ByWayOfItsFile(s)); });
-    // It shows the canvas, whatever becomes of the file.
-    if (fault) image.SetPicture(s.work.Picture1);
+    const bool copied = FillPreview(s);
     s.doc.Zoom = std::max(s.doc.Zoom, SmallestZoom);
     const double width = TwipsPerColumn * s.work.Larg;
     const double height = TwipsPerRow * s.work.Alt;
@@ -47,7 +68,7 @@ void Mostra(Session& s)
     BringForward(s.form10);
     if (comesBack) KeepFocus(s.form10, s.form9);
     s.form9.setWindowTitle(PreviewCaption(s, s.doc.Zoom));
-    fault.Throw();
+    return copied;
 }
 
 void ChangeZoom(Session& s, double change)

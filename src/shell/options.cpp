@@ -75,7 +75,7 @@ QStringList ArgumentsOf(int argc, const char* const argv[])
     return arguments;
 }
 
-std::optional<Options> OptionsFrom(const QStringList& arguments)
+Options OptionsFrom(const QStringList& arguments)
 {
     Options options;
     bool namesOnly = false;
@@ -84,8 +84,11 @@ std::optional<Options> OptionsFrom(const QStringList& arguments)
             namesOnly = true;
         } else if (!namesOnly && argument == "--da-menu") {
             options.fromMenu = true;
-        } else if ((!namesOnly && argument.startsWith('-')) || !options.picture.isEmpty()) {
-            return std::nullopt;
+        } else if (!namesOnly && argument.startsWith('-')) {
+            throw WrongArguments("opzione sconosciuta: «" + argument + "»");
+        } else if (!options.picture.isEmpty()) {
+            throw WrongArguments("si apre una sola immagine alla volta, e «" + argument +
+                                 "» è di troppo");
         } else {
             options.picture = PathOf(argument);
         }

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
+#include <stdexcept>
 
 namespace pixano {
 
@@ -29,8 +29,15 @@ bool ScreenIsMissing(const QStringList& arguments);
 /// and activate themselves. Only where X is to be had, and nobody has asked for another platform.
 bool PrefersX(const QStringList& arguments);
 
-/// The options in the arguments, the program's name first; nothing when they cannot be understood.
-/// The picture may be given as a file URL.
-std::optional<Options> OptionsFrom(const QStringList& arguments);
+/// Arguments that cannot be understood. `what()` is an Italian sentence without a full stop, which
+/// starts in lower case.
+class WrongArguments : public std::runtime_error {
+  public:
+    explicit WrongArguments(const QString& why) : std::runtime_error(why.toStdString()) {}
+};
+
+/// The options in the arguments, the program's name first. The picture may be given as a file URL.
+/// Throws WrongArguments.
+Options OptionsFrom(const QStringList& arguments);
 
 }  // namespace pixano

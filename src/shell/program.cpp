@@ -5,6 +5,7 @@
 #include "document/places.h"
 #include "document/recovery.h"
 #include "files/system_reason.h"
+#include "shell/application.h"
 #include "shell/controls.h"
 #include "shell/events.h"
 #include "shell/only_instance.h"
@@ -12,22 +13,15 @@
 #include "shell/run.h"
 #include "shell/second_start.h"
 #include "shell/start_up.h"
-#include "version.h"
-#include "windows/assistive.h"
 #include "windows/file_names.h"
-#include "windows/own_style.h"
 #include "windows/screen_dialogs.h"
 #include "windows/window_operation.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QIcon>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QStandardPaths>
 #include <QTimer>
-#include <QTranslator>
 
 #include <cerrno>
 #include <csignal>
@@ -42,14 +36,6 @@ namespace {
 void SurviveSizeLimits()
 {
     std::signal(SIGXFSZ, SIG_IGN);
-}
-
-QIcon ProgramIcon()
-{
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addFile(QString(":/pixano/icons/pixano-%1.png").arg(size));
-    return icon;
 }
 
 /// Started from the desktop's menu there is no folder that the user chose: the program works in its
@@ -136,29 +122,40 @@ int Answer(const char* text)
     return 1;
 }
 
-int TellUsage()
+int TellUsage(const WrongArguments& wrong)
 {
-    std::fputs(UsageText, stderr);
+    std::fprintf(stderr, "Pixano: %s.\n\n%s", wrong.what(), UsageText);
     return 2;
 }
 
-}  // namespace
-
-void PrepareApplication(QApplication& application)
+int TellMissingScreen()
 {
-    QApplication::setApplicationName("pixano");
-    QApplication::setApplicationVersion(Version);
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(ProgramIcon());
-    QApplication::setStyle(new OwnStyle);
-    TellAssistiveTools();
-    // Dialogs of the desktop would speak its language, whatever it is.
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-    auto* const italian = new QTranslator(&application);
-    if (italian->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(italian);
+    std::fputs("Pixano: non c'è uno schermo (le variabili DISPLAY e "
+               "WAYLAND_DISPLAY sono vuote). "
+               "Senza finestre lavora pixano-batch.\n",
+               stderr);
+    return 1;
 }
+
+/// Gives the exit status. Throws WrongArguments.
+int StartWithWindows(int argc, char* argv[])
+{
+    const QStringList arguments = ArgumentsOf(argc, argv);
+    // Told before the application is made: the toolkit would end the program by a signal.
+    if (ScreenIsMissing(arguments)) {
+        OptionsFrom(arguments);
+        return TellMissingScreen();
+    }
+    if (PrefersX(arguments)) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    // The toolkit has taken its own options away.
+    const Options options = OptionsFrom(ArgumentsOf(argc, argv));
+    ScreenDialogs dialogs;
+    return RunOrTell(dialogs, options);
+}
+
+}  // namespace
 
 int RunAsOnlyInstance(Session& session, const Options& options)
 {
@@ -191,23 +188,11 @@ int StartProgram(int argc, char* argv[])
     SurviveSizeLimits();
     // These answers need no screen, so they come before the application does.
     if (const char* const answer = AnswerWithoutScreen(argc, argv)) return Answer(answer);
-    // So does this one: the toolkit would end the program by a signal.
-    const QStringList arguments = ArgumentsOf(argc, argv);
-    if (ScreenIsMissing(arguments)) {
-        if (!OptionsFrom(arguments)) return TellUsage();
-        std::fputs("Pixano: non c'è uno schermo (le variabili DISPLAY e "
-                   "WAYLAND_DISPLAY sono vuote). "
-                   "Senza finestre lavora pixano-batch.\n",
-                   stderr);
-        return 1;
+    try {
+        return StartWithWindows(argc, argv);
+    } catch (const WrongArguments& wrong) {
+        return TellUsage(wrong);
     }
-    if (PrefersX(arguments)) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-    QApplication application(argc, argv);
-    PrepareApplication(application);
-    const std::optional<Options> options = OptionsFrom(ArgumentsOf(argc, argv));
-    if (!options) return TellUsage();
-    ScreenDialogs dialogs;
-    return RunOrTell(dialogs, *options);
 }
 
 }  // namespace pixano

@@ -4,8 +4,6 @@
 #include "document/session.h"
 #include "shell/options.h"
 
-class QApplication;
-
 namespace pixano {
 
 /// Runs the windowed program until it ends; gives its exit status. The first argument, if any,
@@ -19,9 +17,5 @@ int RunAsOnlyInstance(Session& session, const Options& options);
 /// The same with a session of its own. Where the data folder cannot be used `dialogs` tell it, and
 /// the exit status is 1.
 int RunOrTell(Dialogs& dialogs, const Options& options);
-
-/// What the application needs whatever its windows are: its name, Italian for the toolkit's own
-/// texts, the toolkit's own dialogs.
-void PrepareApplication(QApplication& application);
 
 }  // namespace pixano

@@ -9,8 +9,13 @@
 #include "windows/file_names.h"
 
 #include <QDateTime>
+#include <QDir>
 
 #include <new>
+#include <string>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace pixano {
 namespace {
@@ -55,6 +60,20 @@ void RemoveNeedlessFiles(const Session& s)
     }
 }
 
+/// What helps when `text` tells of a working file that the current folder, chosen by whoever
+/// started the program, does not take; nothing otherwise.
+QString AdviceOnFolder(const QString& text)
+{
+    const std::string folder = FileBytes(QDir::currentPath());
+    if (faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) == 0) return {};
+    for (const QString& name : {file::Pixels, file::PreviewCopy})
+        if (text.contains("«" + NativePath(name) + "»"))
+            return "\n\nPixano tiene i suoi file di lavoro nella cartella da cui è avviato: "
+                   "conviene "
+                   "avviarlo da una in cui può scrivere, o dal menu del desktop.";
+    return {};
+}
+
 /// What a run-time error leaves behind, or a command has remarked, is told in one box, once the
 /// user sees the canvas that it speaks of.
 void Tell(Session& s, BoxIcon icon, QString text)
@@ -64,7 +83,7 @@ void Tell(Session& s, BoxIcon icon, QString text)
         text += (text.isEmpty() ? "" : "\n\n") + remark + (remark.endsWith('!') ? "" : ".");
     s.form2.Picture1().repaint();
     s.form9.Image1().repaint();
-    s.dialogs.Tell(icon, title::Warning, text);
+    s.dialogs.Tell(icon, title::Warning, text + AdviceOnFolder(text));
 }
 
 /// The palette is as the menus are, and its pointer that of a program that waits.

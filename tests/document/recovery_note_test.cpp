@@ -2,6 +2,7 @@
 // its account.
 #include "document/recovery_note.h"
 
+#include "canvas/captures.h"
 #include "document/places.h"
 #include "document/recovery.h"
 #include "shell/spy_effect.h"
@@ -102,11 +103,15 @@ TEST_F(Noted, ThatCannotBeWrittenIsRemarkedWithThePlaceOfTheCopy)
 
 TEST_F(Noted, KeepsTheFinishedPictureWhenTheProgramEndsAfterTheLoops)
 {
-    QDir().mkdir("elabor.tmp");
     Effect ends = Spy();
     ends.fatal = Fatal::All;
-    SpyAction() = [](Work& w) { w.Picture1.PSet(0, 0, ColourOf('x')); };
+    SpyAction() = [](Work& w) {
+        Cattura(w);
+        w.Picture1.PSet(0, 0, ColourOf('x'));
+        QFile::remove("elab.ser");
+    };
     RunInFrame(ends);
+    ASSERT_TRUE(session.ending);
     const QStringList kept = QDir(Data("")).entryList({"lavoro-*.bmp"});
     ASSERT_EQ(kept.size(), 1);
     EXPECT_EQ(Kept(Data(kept[0])), (Letters{"xbc"}));

@@ -1,10 +1,13 @@
 // How large canvas and preview are, and how the preview's scale changes. 15 twips are a pixel; the
 // picture is 200 x 100.
 #include "document/showing.h"
+#include "support/hindrances.h"
 #include "support/program.h"
 
 #include <QScreen>
 #include <QScrollBar>
+
+#include <utility>
 
 namespace pixano::test {
 namespace {
@@ -121,13 +124,35 @@ TEST_F(Showing, CopiesTheCanvasByWayOfAFileInTheCurrentFolder)
     EXPECT_TRUE(Image().Picture() == Canvas());
 }
 
-TEST_F(Showing, TellsThatThePreviewsCopyCannotBeWritten)
+TEST_F(Showing, TellsOnceWhyThePreviewsCopyCannotBeWritten)
 {
-    QDir::current().mkdir("elabor.tmp");
+    const auto toldOfCopy = [this](const char* reason) {
+        const std::vector<ShownBox> box{
+            {BoxIcon::Exclamation, "Attenzione!",
+             "L'anteprima mostra l'immagine com'è ora, ma non c'è la sua copia su disco. "
+             "Impossibile salvare «" +
+                 Path("elabor.tmp") + "»: " + reason + "."}};
+        return std::exchange(dialogs.told, {}) == box;
+    };
+    QDir here;
+    here.mkdir("elabor.tmp");
     Enlarge();
-    ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_THAT(dialogs.told[0].text.toStdString(),
-                testing::StartsWith("Errore durante il comando «Scala dell'anteprima»:\n"));
+    EXPECT_TRUE(toldOfCopy("è una cartella"));
+    EXPECT_EQ(PreviewCaption(), "a.bmp  (200 x 100) - 130%");
+    Enlarge();
+    Apply("Specchio");
+    EXPECT_TRUE(dialogs.told.empty()) << "the same, for the same reason";
+    here.rmdir("elabor.tmp");
+    {
+        const FileSizeLimit disk(0);
+        Enlarge();
+    }
+    EXPECT_TRUE(toldOfCopy("il file supera la dimensione consentita")) << "another reason";
+    Enlarge();
+    EXPECT_TRUE(dialogs.told.empty()) << "it is written";
+    const FileSizeLimit disk(0);
+    Enlarge();
+    EXPECT_TRUE(toldOfCopy("il file supera la dimensione consentita")) << "it was, meanwhile";
 }
 
 TEST_F(Showing, ShowsPreviewAndPaletteAgainThatWereHidden)

@@ -47,8 +47,7 @@ void StartAnew(Desk& desk, const QStringList& arguments)
     });
     user.start(0);
     try {
-        RunAsOnlyInstance(desk.session,
-                          OptionsFrom(QStringList{"pixano"} + arguments).value_or(Options()));
+        RunAsOnlyInstance(desk.session, OptionsFrom(QStringList{"pixano"} + arguments));
     } catch (const Fault& fault) {
         desk.dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
         desk.session.ending = 1;

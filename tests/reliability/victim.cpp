@@ -4,6 +4,7 @@
 #include "reliability/checksum.h"
 #include "reliability/difference.h"
 #include "reliability/player.h"
+#include "shell/application.h"
 #include "shell/controls.h"
 #include "shell/program.h"
 #include "support/entries.h"

@@ -1,5 +1,6 @@
 // The windowed program visiting a picture that somebody else has made: opens it, tries every
 // command on it but saving, and ends: pixano-visitor PICTURE.
+#include "shell/application.h"
 #include "shell/commands.h"
 #include "shell/controls.h"
 #include "shell/events.h"

@@ -1,4 +1,5 @@
 // What the application is like whatever its windows are: its name, its icon, its language, its end.
+#include "shell/application.h"
 #include "shell/program.h"
 #include "support/program.h"
 #include "windows/own_style.h"

@@ -10,16 +10,26 @@
 namespace pixano::test {
 namespace {
 
-std::optional<Options> Parsed(const QStringList& arguments)
+Options Parsed(const QStringList& arguments)
 {
     return OptionsFrom(QStringList{"pixano"} + arguments);
 }
 
-/// The picture that these arguments name; "?" when they are not understood.
+/// The picture that these arguments name.
 std::string PictureIn(const QStringList& arguments)
 {
-    const std::optional<Options> options = Parsed(arguments);
-    return options ? options->picture.toStdString() : "?";
+    return Parsed(arguments).picture.toStdString();
+}
+
+/// Why these arguments are not understood; nothing when they are.
+std::string WrongIn(const QStringList& arguments)
+{
+    try {
+        Parsed(arguments);
+        return {};
+    } catch (const WrongArguments& wrong) {
+        return wrong.what();
+    }
 }
 
 const char* Answer(std::vector<const char*> arguments)
@@ -30,10 +40,9 @@ const char* Answer(std::vector<const char*> arguments)
 
 TEST(ProgramOptions, NameNoPictureWhenThereAreNone)
 {
-    const std::optional<Options> options = Parsed({});
-    ASSERT_TRUE(options);
-    EXPECT_TRUE(options->picture.isEmpty());
-    EXPECT_FALSE(options->fromMenu);
+    const Options options = Parsed({});
+    EXPECT_TRUE(options.picture.isEmpty());
+    EXPECT_FALSE(options.fromMenu);
 }
 
 TEST(ProgramOptions, TakeAPathAsItIs)
@@ -58,9 +67,7 @@ TEST(ProgramOptions, LoseNoByteOfAName)
           // The lowest byte that is no letter of its own, and the highest that is.
           {"file:///tmp/\x80 \x7F.bmp", "/tmp/\x80 \x7F.bmp"}}) {
         const std::array arguments{"pixano", "--", argument};
-        const std::optional<Options> options = OptionsFrom(ArgumentsOf(3, arguments.data()));
-        ASSERT_TRUE(options);
-        EXPECT_EQ(FileBytes(options->picture), picture);
+        EXPECT_EQ(FileBytes(OptionsFrom(ArgumentsOf(3, arguments.data())).picture), picture);
     }
 }
 
@@ -71,30 +78,32 @@ TEST(ProgramOptions, TakeEveryOtherAddressForAName)
 
 TEST(ProgramOptions, TellAStartFromTheMenu)
 {
-    const std::optional<Options> options = Parsed({"--da-menu", "a.bmp"});
-    ASSERT_TRUE(options);
-    EXPECT_TRUE(options->fromMenu);
-    EXPECT_EQ(options->picture, "a.bmp");
-    EXPECT_TRUE(Parsed({"a.bmp", "--da-menu"})->fromMenu);
+    const Options options = Parsed({"--da-menu", "a.bmp"});
+    EXPECT_TRUE(options.fromMenu);
+    EXPECT_EQ(options.picture, "a.bmp");
+    EXPECT_TRUE(Parsed({"a.bmp", "--da-menu"}).fromMenu);
 }
 
 TEST(ProgramOptions, TakeWhatFollowsTwoDashesForAName)
 {
     EXPECT_EQ(PictureIn({"--", "-a.bmp"}), "-a.bmp");
     EXPECT_EQ(PictureIn({"--", "--da-menu"}), "--da-menu");
-    EXPECT_FALSE(Parsed({"--", "--da-menu"})->fromMenu);
+    EXPECT_FALSE(Parsed({"--", "--da-menu"}).fromMenu);
     EXPECT_EQ(Answer({"--", "--aiuto"}), nullptr);
 }
 
-TEST(ProgramOptions, AreNotUnderstoodWhenUnknownOrTooMany)
+TEST(ProgramOptions, SayWhatIsNotUnderstoodWhenUnknownOrTooMany)
 {
-    for (const QStringList& arguments : {QStringList{"--sbagliata"},
-                                         {"-x"},
-                                         {"-"},
-                                         {"a.bmp", "--sbagliata"},
-                                         {"a.bmp", "b.bmp"},
-                                         {"--", "a.bmp", "--"}})
-        EXPECT_FALSE(Parsed(arguments)) << arguments.join(' ').toStdString();
+    const std::string unknown = "opzione sconosciuta: «";
+    const std::string tooMany = "si apre una sola immagine alla volta, e «";
+    for (const auto& [arguments, why] :
+         {std::pair(QStringList{"--sbagliata"}, unknown + "--sbagliata»"),
+          {{"-x"}, unknown + "-x»"},
+          {{"-"}, unknown + "-»"},
+          {{"a.bmp", "--sbagliata"}, unknown + "--sbagliata»"},
+          {{"a.bmp", "b.bmp", "c.bmp"}, tooMany + "b.bmp» è di troppo"},
+          {{"--", "a.bmp", "--"}, tooMany + "--» è di troppo"}})
+        EXPECT_EQ(WrongIn(arguments), why);
 }
 
 TEST(ProgramOptions, AreAnsweredWithoutAScreenWhereTheyOnlyAsk)

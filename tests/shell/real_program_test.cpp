@@ -59,12 +59,16 @@ TEST(RealProgram, TellsThatItCannotAnswer)
                 HasSubstr("standard output: non c'è più spazio"));
 }
 
+/// What is said of "--sbagliata".
+const std::string WrongOption =
+    std::string("Pixano: opzione sconosciuta: «--sbagliata».\n\n") + UsageText;
+
 TEST(RealProgram, TellsItsUsageAndEndsWithTwoAtAnUnknownOption)
 {
     const Ended ended = Started({"--sbagliata"}, "offscreen");
     EXPECT_EQ(ended.status, 2);
     EXPECT_EQ(ended.out, "");
-    EXPECT_THAT(ended.err, EndsWith(UsageText));
+    EXPECT_THAT(ended.err, EndsWith(WrongOption));
 }
 
 TEST(RealProgram, SaysThatThereIsNoScreen)
@@ -77,21 +81,21 @@ TEST(RealProgram, SaysThatThereIsNoScreen)
     }
     const Ended misunderstood = Started({"--sbagliata"});
     EXPECT_EQ(misunderstood.status, 2);
-    EXPECT_EQ(misunderstood.err, UsageText);
+    EXPECT_EQ(misunderstood.err, WrongOption);
 }
 
 TEST(RealProgram, LeavesThePlatformToTheToolkitWhereOneIsNamed)
 {
     const Ended ended = Started({"-platform", "offscreen", "--sbagliata"});
     EXPECT_EQ(ended.status, 2);
-    EXPECT_THAT(ended.err, EndsWith(UsageText));
+    EXPECT_THAT(ended.err, EndsWith(WrongOption));
 }
 
 TEST(RealProgram, OpensNoWindowForTwoPictures)
 {
     const Ended ended = Started({"a.bmp", "b.bmp"}, "offscreen");
     EXPECT_EQ(ended.status, 2);
-    EXPECT_THAT(ended.err, EndsWith(UsageText));
+    EXPECT_THAT(ended.err, HasSubstr("«b.bmp» è di troppo.\n\nUso: "));
 }
 
 TEST(RealProgram, OutlivesAWriteBeyondALimitOnTheSizeOfFiles)

@@ -20,7 +20,7 @@ class Starting : public SessionInFolders {
                 session.form1.close();
             });
         });
-        return RunAsOnlyInstance(session, OptionsFrom(QStringList{"pixano"} + arguments).value());
+        return RunAsOnlyInstance(session, OptionsFrom(QStringList{"pixano"} + arguments));
     }
     /// Leaves the folders as a run does that is killed when "abc" has become "cba".
     void KillWithUnsavedWork() const

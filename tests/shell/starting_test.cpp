@@ -127,18 +127,21 @@ TEST_F(Starting, GoesOnThoughThePreviewOfThePictureBroughtBackHasNoFile)
 {
     KillWithUnsavedWork();
     QDir().mkpath("altrove/elabor.tmp");
+    const QString copy = Path("elabor.tmp");
     QDir::setCurrent("altrove");
     dialogs.answers = {true};
     Letters seen;
     EXPECT_EQ(RunWith({},
                       [&] {
                           seen = CanvasLetters();
+                          const std::optional<RecoveryNote> note = ReadRecoveryNote();
+                          EXPECT_TRUE(note && note->copy == copy) << "where it still lies";
                           dialogs.answers = {false};
                       }),
               0);
     EXPECT_EQ(seen, (Letters{"cba"}));
     ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_TRUE(dialogs.told[0].text.startsWith("Errore durante il comando «Recupero»:\n"));
+    EXPECT_TRUE(dialogs.told[0].text.startsWith("L'anteprima mostra l'immagine com'è ora, ma "));
 }
 
 // The main window, which takes no click meanwhile, would come before it.
