@@ -70,9 +70,11 @@ start_screen() {
             manager=$!
             if wait_for manages_windows; then return 0; fi
             kill "$manager" 2>/dev/null || true
+            wait "$manager" || true
         fi
         kill "$screen" 2>/dev/null || true
-        wait
+        # Not for all: a session bus goes on.
+        wait "$screen" || true
         : >"$number"
     done
     fail "no screen with $WINDOW_MANAGER on it can be started"

@@ -25,24 +25,34 @@ class FileManager : public QWidget {
         dragged->setUrls({QUrl::fromLocalFile(path_)});
         auto* const drag = new QDrag(this);
         drag->setMimeData(dragged);
+        // The hand lets go once it sees the file taken, or that nobody takes it.
+        constexpr int Patience = 1500;
+        constexpr int Rest = 100;
+        QTimer::singleShot(Patience, drag, LetGo);
+        QObject::connect(
+            drag, &QDrag::actionChanged, drag, [drag] { QTimer::singleShot(Rest, drag, LetGo); },
+            Qt::SingleShotConnection);
         answer = drag->exec(offered, Qt::MoveAction);
     }
 
   private:
+    static void LetGo() { QProcess::startDetached("xdotool", {"mouseup", "1"}); }
+
     QString path_;
 };
 
 class Dragging : public Desktop {
   protected:
     static QString At(QPoint place) { return QString("%1 %2").arg(place.x()).arg(place.y()); }
-    /// Drags from the one to the other, small steps at both ends, as a hand does.
+    /// Drags from the one to the other, a small step first, as a hand does, and waits until
+    /// it lets go.
     static void DragTo(FileManager& from, const QWidget& onto, QPoint place)
     {
         const QPoint start = from.mapToGlobal(from.rect().center());
         const QPoint end = onto.mapToGlobal(place);
         from.answer.reset();
         Do("mousemove " + At(start) + " mousedown 1 mousemove_relative 12 12 sleep 0.1 mousemove " +
-           At(end - QPoint(4, 4)) + " sleep 0.1 mousemove " + At(end) + " sleep 0.1 mouseup 1");
+           At(end));
         EXPECT_TRUE(ComesToHold([&] { return from.answer.has_value(); }));
     }
 };
