@@ -90,6 +90,22 @@ TEST_F(WhateverFails, AFinishedEffectCountsInAFolderThatHasVanished)
     ExpectItIsOffered();
 }
 
+TEST_F(WhateverFails, ACanvasWithoutAnyCopyIsToldOfAfterEveryEffect)
+{
+    QDir().mkdir("elabor.tmp");
+    QDir().mkpath(Data("elabor.tmp"));
+    const QString warning =
+        "Dell'immagine modificata non c'è nessuna copia su disco: conviene salvarla.";
+    for (int i = 0; i < 2; ++i) {
+        Apply("Specchio");
+        ASSERT_EQ(dialogs.told.size(), 1U);
+        EXPECT_TRUE(dialogs.told[0].text.endsWith(warning)) << dialogs.told[0];
+        EXPECT_EQ(dialogs.told[0].text.contains("copia su disco. Impossibile"), i == 0)
+            << "why, it was told before";
+        dialogs.told.clear();
+    }
+}
+
 TEST_F(WhateverFails, AFullDiskEndsOnlyTheCommandInTheEffectsThatMayEndTheProgram)
 {
     int count = 0;
