@@ -107,6 +107,20 @@ TEST_F(SmallWindows, LeaveTheButtonsOfAMaximisedWindowInReach)
     }
 }
 
+TEST_F(SmallWindows, StayWhereTheUserMovesThemMeanwhile)
+{
+    OpenSized(300, 200);
+    session.form10.move(session.form10.x(), 0);
+    EXPECT_TRUE(Stays([this] { return session.form10.y() == 0; }));
+    Maximise(session.form2);
+    const QPoint moved(session.form10.x() - 100, 400);
+    session.form10.move(moved);
+    EXPECT_TRUE(Stays([&] { return session.form10.pos() == moved; }));
+    session.form2.showNormal();
+    EXPECT_TRUE(StaysOnceAnswered(
+        [&] { return session.form2.width() < 1000 && session.form10.pos() == moved; }));
+}
+
 TEST_F(SmallWindows, AreNeverCoveredByAWindowThatIsPressedOnceMore)
 {
     OpenSized(2000, 2000);

@@ -102,6 +102,21 @@ TEST_F(Places, ThePreviewWhereTheUserHasMovedIt)
     EXPECT_EQ(session.form9.pos(), moved);
 }
 
+TEST_F(Places, ThePreviewInItsCornerAgainOnceItWasClosed)
+{
+    OpenSized(200, 100);
+    const QPoint corner = Preview().bottomRight();
+    PreviewMovedByHand();
+    // Its new size is where it was moved to.
+    Apply("Specchio");
+    session.doc.Modificato = 0;
+    session.form2.close();
+    for (const int width : {200, 300}) {
+        OpenSized(width, 100);
+        EXPECT_TRUE(Stays([&] { return Preview().bottomRight() == corner; })) << width;
+    }
+}
+
 TEST_F(Places, ThePreviewBackThereOnceALargePictureNeedsNoRoomAnyMore)
 {
     OpenSized(200, 100);
@@ -122,6 +137,16 @@ TEST_F(Places, ThePreviewBackInItsCornerOnceItIsAsSmallAgain)
     for (int i = 0; i < 5; ++i)
         Button("Command2").click();
     EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().topLeft() == before.topLeft(); }));
+}
+
+TEST_F(Places, ThePaletteAboveTheCanvasOnEveryOpening)
+{
+    OpenSized(600, 400);
+    Do(QString("windowmove --sync %1 550 100").arg(Id(session.form10)));
+    // A part of it, not so much that it would come along.
+    Cover(session.form10, session.form2);
+    OpenSized(600, 300);
+    EXPECT_TRUE(Stays([this] { return IsAbove(session.form10, session.form2); }));
 }
 
 TEST_F(Places, ThePreviewAboveTheCanvasOnEveryOpening)
