@@ -69,7 +69,6 @@ QLineEdit& FileDialog::Name() const
 void FileDialog::BeginWith(const QString& name)
 {
     Name().setText(name);
-    Name().selectAll();
 }
 
 bool FileDialog::eventFilter(QObject* watched, QEvent* event)

@@ -135,18 +135,22 @@ TEST_F(FileDialogs, TakeTheFirstPressOnAButtonThoughNamesAreOffered)
         }
 }
 
-TEST_F(FileDialogs, BeginWithTheNameThatMayBeChanged)
+TEST_F(FileDialogs, BeginWithTheNameThatMayBeChangedOrTypedAnew)
 {
-    QTimer::singleShot(0, [] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_TRUE(ComesToHold([&] { return IsActive(*dialog); }));
-        EXPECT_EQ(NameIn(*dialog).text(), "prima.bmp");
-        Do("key End BackSpace BackSpace BackSpace BackSpace 2 Return");
-        EXPECT_TRUE(ComesToHold([&] { return !dialog->isVisible(); }));
-        if (dialog->isVisible()) dialog->reject();
-    });
-    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), "prima.bmp"), Path("prima2.bmp"));
+    for (const auto& [keys, name] :
+         {std::pair("End BackSpace BackSpace BackSpace BackSpace 2", "prima2.bmp"),
+          {"p o i", "poi.bmp"}}) {
+        QTimer::singleShot(0, [keys = QString(keys)] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_TRUE(ComesToHold([&] { return IsActive(*dialog); }));
+            EXPECT_EQ(NameIn(*dialog).text(), "prima.bmp");
+            Do("key " + keys + " Return");
+            EXPECT_TRUE(ComesToHold([&] { return !dialog->isVisible(); }));
+            if (dialog->isVisible()) dialog->reject();
+        });
+        EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), "prima.bmp"), Path(name));
+    }
 }
 
 TEST_F(FileDialogs, AnswerToEveryNameTyped)

@@ -22,6 +22,9 @@ TEST(FileNames, OfOtherBytesKeepEachOfThem)
 {
     EXPECT_EQ(FileName("a\xE8.bmp"), QString("a") + QChar(0xDCE8) + ".bmp");
     EXPECT_EQ(FileName("\x80\xFF"), QString(QChar(0xDC80)) + QChar(0xDCFF));
+    // What can be read beside them stays readable, however long it is.
+    EXPECT_EQ(FileName("\xE8 \xC3\xA9\xE2\x82\xAC\xF0\x9F\x99\x82"),
+              QChar(0xDCE8) + QString(" \u00E9\u20AC\U0001F642"));
     // The sign for what cannot be read may stand beside what cannot.
     EXPECT_EQ(FileName("\xEF\xBF\xBD\xEF\xBF"),
               QString(QChar(0xFFFD)) + QChar(0xDCEF) + QChar(0xDCBF));

@@ -1,5 +1,6 @@
 // The real boxes and file dialogs, answered by keys and clicks.
 #include "support/program.h"
+#include "windows/file_looks.h"
 #include "windows/screen_dialogs.h"
 
 #include <QDialogButtonBox>
@@ -195,6 +196,20 @@ TEST_F(RealFileDialog, AddsTheDefaultExtensionWhenSaving)
         Type(dialog, "nuovo");
     });
     EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path("nuovo.bmp"));
+}
+
+TEST_F(RealFileDialog, NamesTheKindsOfFilesInItalian)
+{
+    const FileLooks looks;
+    for (const auto& [name, kind] : {std::pair("a.bmp", "Immagine BMP"),
+                                     {"a.jpg", "Immagine JPEG"},
+                                     {"a.jpeg", "Immagine JPEG"},
+                                     {"A.JPG", "Immagine JPEG"},
+                                     {"a.gif", "Immagine GIF"},
+                                     {"a.txt", "File TXT"},
+                                     {"senza", "File"},
+                                     {".", "Cartella"}})
+        EXPECT_EQ(looks.type(QFileInfo(name)), kind) << name;
 }
 
 TEST_F(RealFileDialog, AsksNoQuestionOfItsOwnAboutAnExistingFile)
