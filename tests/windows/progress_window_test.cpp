@@ -65,6 +65,17 @@ TEST_F(ProgressShown, RepaintsAtMostTwentyFiveTimesASecond)
     EXPECT_GT(step, 2 * paints.count);
 }
 
+TEST_F(ProgressShown, PaintsTheFullBarOfEveryEffectHoweverShort)
+{
+    for (const char* const which : {"the first", "the next"}) {
+        window.Show();
+        const PaintCount paints(Bar());
+        window.ShowFull();
+        EXPECT_EQ(paints.count, 1) << which;
+        window.Unload();
+    }
+}
+
 TEST_F(ProgressShown, StandsInTheMiddleOfTheScreen)
 {
     window.Show();
