@@ -39,6 +39,11 @@ TEST(FittedPicture, ShrinksInProportionWhereTheScreenIsTooSmall)
     EXPECT_LE(shown.width(), Left - 40) << "no room for the window's frame";
     EXPECT_GT(shown.width(), Left / 2);
     EXPECT_NEAR(shown.height(), shown.width() * 420.0 / 640, 1);
+    const QImage seen = label->pixmap().toImage();
+    const QImage jagged = BuiltIn("apertura.jpg", seen.devicePixelRatio())
+                              .scaled(seen.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                              .convertToFormat(seen.format());
+    EXPECT_NE(seen, jagged) << "its lines are broken";
 }
 
 }  // namespace

@@ -9,6 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+#include <vector>
+
 namespace pixano::test {
 namespace {
 
@@ -111,6 +115,24 @@ TEST_F(PaletteWindow, ShowsItsButtonsInReadingOrderWithoutOverlap)
         EXPECT_TRUE(follows || place.top() > before.bottom()) << expected;
         before = place;
     }
+}
+
+TEST_F(PaletteWindow, HasButtonsOfOneWidthInEachRow)
+{
+    for (const QGroupBox* const frame : palette.findChildren<QGroupBox*>()) {
+        std::map<int, std::vector<int>> rows;
+        for (const QPushButton* const button : frame->findChildren<QPushButton*>())
+            rows[button->y()].push_back(button->width());
+        for (const auto& [y, widths] : rows) {
+            const auto [least, most] = std::ranges::minmax(widths);
+            EXPECT_LE(most - least, 1) << frame->title().toStdString() << " at " << y;
+        }
+    }
+}
+
+TEST_F(PaletteWindow, NamesItsButtonsThoughAnotherWindowHasTheKeyboard)
+{
+    EXPECT_TRUE(palette.testAttribute(Qt::WA_AlwaysShowToolTips));
 }
 
 TEST_F(PaletteWindow, CutsOffNoCaption)
