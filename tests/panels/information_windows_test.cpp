@@ -74,6 +74,7 @@ TEST(OpeningPicture, HasNoCaption)
     EXPECT_EQ(window.windowHandle()->title(), " ");
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     ExpectPicture(window, {640, 420});
+    EXPECT_EQ(window.size(), QSize(640, 420)) << "nothing but the picture";
     ExpectCentred(window);
 }
 

@@ -1,0 +1,87 @@
+// The file dialogs: what they offer, and what becomes of a name that is typed.
+#include "support/program.h"
+#include "windows/file_looks.h"
+#include "windows/screen_dialogs.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+
+namespace pixano::test {
+namespace {
+
+class RealFileDialog : public UnstartedProgram {
+  protected:
+    static void Meanwhile(const std::function<void(QFileDialog&)>& action)
+    {
+        QTimer::singleShot(0, [action] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            action(*dialog);
+        });
+    }
+    static void Type(QFileDialog& dialog, const QString& name)
+    {
+        auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_NE(edit, nullptr);
+        edit->setText(name);
+        QTest::keyClick(edit, Qt::Key_Return);
+        // A dialog that did not take the name must not hold the test up.
+        if (dialog.isVisible()) dialog.reject();
+    }
+    ScreenDialogs screen;
+};
+
+TEST_F(RealFileDialog, OpensWithTheFilterInTheFolder)
+{
+    Meanwhile([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory(), QDir::current());
+        EXPECT_EQ(dialog.windowTitle(), "Apri");
+        EXPECT_EQ(dialog.nameFilters(), QStringList("(*.Bmp) (*.Jpg) (*.Gif) (*.bmp *.jpg *.gif)"));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        dialog.reject();
+    });
+    EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), std::nullopt);
+}
+
+TEST_F(RealFileDialog, LetsANameBeTypedThatDoesNotExist)
+{
+    Meanwhile([](QFileDialog& dialog) { Type(dialog, "no.bmp"); });
+    EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), Path("no.bmp"));
+}
+
+TEST_F(RealFileDialog, AddsTheDefaultExtensionWhenSaving)
+{
+    Meanwhile([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.defaultSuffix(), "bmp");
+        EXPECT_EQ(dialog.windowTitle(), "Salva con nome");
+        EXPECT_EQ(dialog.nameFilters(), QStringList("Bitmap (*.bmp)"));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        Type(dialog, "nuovo");
+    });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path("nuovo.bmp"));
+}
+
+TEST_F(RealFileDialog, NamesTheKindsOfFilesInItalian)
+{
+    const FileLooks looks;
+    for (const auto& [name, kind] : {std::pair("a.bmp", "Immagine BMP"),
+                                     {"a.jpg", "Immagine JPEG"},
+                                     {"a.jpeg", "Immagine JPEG"},
+                                     {"A.JPG", "Immagine JPEG"},
+                                     {"a.gif", "Immagine GIF"},
+                                     {"a.txt", "File TXT"},
+                                     {"senza", "File"},
+                                     {".", "Cartella"}})
+        EXPECT_EQ(looks.type(QFileInfo(name)), kind) << name;
+}
+
+TEST_F(RealFileDialog, AsksNoQuestionOfItsOwnAboutAnExistingFile)
+{
+    Write("s.bmp", "vecchio");
+    Meanwhile([](QFileDialog& dialog) { Type(dialog, "s.bmp"); });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path("s.bmp"));
+}
+
+}  // namespace
+}  // namespace pixano::test
