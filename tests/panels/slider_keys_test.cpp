@@ -57,6 +57,14 @@ TEST_F(SliderWindow, TakesTypedDigits)
     ExpectMovedTo(10000);
 }
 
+TEST_F(SliderWindow, TakesAPointForTheThousandsOnlyBeforeThreeDigits)
+{
+    Type("1.234");
+    ExpectMovedTo(1234);
+    Type("5");
+    ExpectMovedTo(1);
+}
+
 TEST_F(SliderWindow, ShowsWhatIsTypedInAPlaceThatStays)
 {
     const QSize before = window.size();
@@ -80,7 +88,8 @@ TEST_F(SliderWindow, ShowsWhatIsTypedInAPlaceThatStays)
 TEST_F(SliderWindow, BeginsANewNumberAfterAnotherKey)
 {
     Type("25");
-    Key(Qt::Key_Shift);
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_ScrollLock})
+        Key(key);
     Type("3");
     ExpectMovedTo(253);
     // Held all the time, as on keyboards that have their digits above.
