@@ -10,7 +10,7 @@ trap 'rm -rf "$sandbox"' EXIT
 export PARALLEL_HOME=$sandbox/parallel
 cd "$sandbox"
 mkdir foto risultati parallel
-count=24
+count=12
 
 fail() {
     printf '%s\n' "$*" >&2
@@ -20,7 +20,7 @@ fail() {
 
 # Long enough for the interruption to find some pictures done, some begun and some waiting.
 effects=()
-for _ in $(seq 30); do effects+=(-e Vetro=2500 -e 'Artistico 1'); done
+for _ in $(seq 8); do effects+=(-e Vetro=2500 -e 'Artistico 1'); done
 
 for i in $(seq -w "$count"); do cp "$picture" "foto/foto$i.jpg"; done
 
@@ -48,7 +48,7 @@ for _ in $(seq 600); do
     sleep 0.05
 done
 # The first signal lets what runs come to its end, the second does not.
-kill -TERM "$parallel"
+kill -HUP "$parallel"
 for _ in $(seq 600); do
     ! grep -q 'No new jobs' errori.txt || break
     sleep 0.05

@@ -5,7 +5,6 @@
 #include "support/temporary_folder.h"
 
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include <sys/stat.h>
@@ -21,9 +20,7 @@ inline void WriteFile(const std::string& path, const Bytes& content)
 
 inline Bytes ReadFile(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
-    return Bytes().Add(std::string_view(text));
+    return Bytes().Add(BytesOf(path));
 }
 
 inline unsigned PermissionsOf(const std::string& path)

@@ -3,6 +3,7 @@
 #include "reliability/child.h"
 #include "support/desk.h"
 #include "support/effect_run.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
@@ -19,12 +20,6 @@ namespace fs = std::filesystem;
 using testing::Contains;
 using testing::Not;
 using testing::StartsWith;
-
-std::string BytesOf(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 void Write(const fs::path& path, const std::string& bytes)
 {

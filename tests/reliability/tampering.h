@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pictures/picture_files.h"
+#include "support/temporary_folder.h"
 
 #include <array>
 #include <filesystem>
@@ -27,11 +28,7 @@ class Elsewhere {
     bool Untouched() const { return Bytes() == bytes_; }
 
   private:
-    std::string Bytes() const
-    {
-        std::ifstream file(path_, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::string Bytes() const { return BytesOf(path_); }
 
     std::filesystem::path path_;
     Surface picture_;
