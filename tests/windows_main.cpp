@@ -1,6 +1,7 @@
 // The windows' tests run on a platform without a screen, unless they are told that there is one for
 // them.
 #include "shell/application.h"
+#include "support/desk.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -10,6 +11,14 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+
+namespace {
+
+class ForgettingTheEnd : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { pixano::test::ForgetEarlierEnd(); }
+};
+
+}  // namespace
 
 int main(int argc, char* argv[])
 {
@@ -25,5 +34,6 @@ int main(int argc, char* argv[])
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     QApplication application(argc, argv);
     pixano::PrepareApplication(application);
+    testing::UnitTest::GetInstance()->listeners().Append(new ForgettingTheEnd);
     return RUN_ALL_TESTS();
 }
