@@ -56,9 +56,16 @@ TEST_F(DamagedHistory, GoesOnWithoutAPictureToGoBackTo)
     ExpectUndoneWithoutAPicture();
 }
 
-TEST_F(DamagedHistory, TakesNoForeignPictureOfAnotherSizeGoingBack)
+TEST_F(DamagedHistory, TakesNoForeignPictureOfAnotherWidthGoingBack)
 {
     SaveBitmap(Drawn({"xy"}), Data("temp.bml").toStdString());
+    ClickEntry(entry::Undo);
+    ExpectUndoneWithoutAPicture();
+}
+
+TEST_F(DamagedHistory, TakesNoForeignPictureOfAnotherHeightGoingBack)
+{
+    SaveBitmap(Drawn({"xyz", "xyz"}), Data("temp.bml").toStdString());
     ClickEntry(entry::Undo);
     ExpectUndoneWithoutAPicture();
 }
@@ -92,6 +99,21 @@ TEST_F(DamagedHistory, GoesBackEvenWhereTheWayForwardCannotBeKept)
     ClickEntry(entry::Undo);
     EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
     ExpectTheWayForwardInMemory();
+}
+
+// The file can be written again: what was kept in memory before is no longer the last effect.
+TEST_F(DamagedHistory, GoesForwardToTheLatestEffectAfterOneThatWasKeptInMemory)
+{
+    QDir().mkpath(Data("temp2.bml"));
+    ClickEntry(entry::Undo);
+    ExpectTheWayForwardInMemory();
+    QDir().rmdir(Data("temp2.bml"));
+    Apply("Specchio");
+    EXPECT_EQ(CanvasLetters(), (Letters{"ba~"}));
+    ClickEntry(entry::Undo);
+    EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
+    ClickEntry(entry::Redo);
+    EXPECT_EQ(CanvasLetters(), (Letters{"ba~"}));
 }
 
 TEST_F(DamagedHistory, TellsThatThereIsNoPictureToGoForwardTo)
