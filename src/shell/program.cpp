@@ -77,13 +77,14 @@ QString PictureIn(const Options& options)
     return options.picture.isEmpty() ? QString() : AbsolutePath(options.picture);
 }
 
-/// A second start is answered at once; what it wants opened waits for the command that runs.
+/// A second start is answered at once; what it wants opened waits for the command that runs, beside
+/// which none begins.
 void HearSecondStarts(Session& s, const SecondStarts& starts)
 {
     const auto waiting = std::make_shared<QStringList>();
     const auto openNext = [&s, waiting] {
         // cppcheck-suppress knownConditionTrueFalse ; it is filled below
-        if (waiting->isEmpty() || s.busy || s.ending) return;
+        if (waiting->isEmpty() || s.ending) return;
         // cppcheck-suppress containerOutOfBounds ; it is not empty here
         RunCommand(s, "Apri", Fatal::None, [&] { OpenNamed(s, waiting->takeFirst()); });
     };

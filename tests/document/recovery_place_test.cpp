@@ -2,6 +2,7 @@
 #include "document/places.h"
 #include "document/recovery_note.h"
 #include "support/program.h"
+#include "windows/file_names.h"
 
 #include <sys/stat.h>
 

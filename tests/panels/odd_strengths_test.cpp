@@ -28,7 +28,10 @@ TEST_F(StrengthsInUse, WithoutANumberAreNothing)
 TEST_F(StrengthsInUse, ThatCannotBeWrittenHoldForThisTime)
 {
     QDir().mkdir("valori.tip");
-    PressVetro(Confirm);
+    PressVetro([](QWidget& window) {
+        Confirm(window);
+        EXPECT_FALSE(window.isVisible());
+    });
     EXPECT_EQ(session.doc.Effetto, "Vetro");
     EXPECT_EQ(session.doc.Modificato, 1);
     ASSERT_EQ(dialogs.told.size(), 1U);
