@@ -23,7 +23,7 @@ namespace {
 
 constexpr const char* SocketName = "pixano.socket";
 /// A message is one of these letters, the first one followed by a path.
-constexpr char Open = 'A';
+constexpr char ToOpen = 'A';
 constexpr char ComeForward = 'V';
 constexpr char Heard = 'S';
 constexpr std::size_t LongestMessage = PATH_MAX + 1;
@@ -77,7 +77,7 @@ std::optional<QString> ReceivePath(const Descriptor& connection)
     const QByteArray message(buffer.data(), static_cast<qsizetype>(size));
     if (message == QByteArray(1, ComeForward)) return QString();
     const QByteArray path = message.sliced(1);
-    const bool asked = message.front() == Open && path.startsWith('/') && !path.contains('\0');
+    const bool asked = message.front() == ToOpen && path.startsWith('/') && !path.contains('\0');
     return asked ? std::optional(FileName(path.toStdString())) : std::nullopt;
 }
 
@@ -97,7 +97,7 @@ bool HandOver(const QString& folder, const QString& picture)
     }
     const QByteArray message = picture.isEmpty()
                                    ? QByteArray(1, ComeForward)
-                                   : Open + QByteArray::fromStdString(FileBytes(picture));
+                                   : ToOpen + QByteArray::fromStdString(FileBytes(picture));
     if (send(socket.Number(), message.data(), static_cast<std::size_t>(message.size()),
              MSG_NOSIGNAL) < 0)
         return false;
