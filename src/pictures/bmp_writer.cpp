@@ -57,9 +57,9 @@ void StoreRow(std::span<const std::uint32_t> row, std::byte* bytes)
 
 void EncodeBmp(const Surface& surface, ByteSink& sink)
 {
-    const std::size_t used = static_cast<std::size_t>(surface.Width()) * 3;
-    const std::size_t stride = (used + 3) / 4 * 4;
+    const std::size_t stride = (static_cast<std::size_t>(surface.Width()) * 3 + 3) / 4 * 4;
     const int rowsInBlock = static_cast<int>(std::max<std::size_t>(1, BlockSize / stride));
+    // What fills a row up to its stride is nought from here on.
     std::vector<std::byte> block(static_cast<std::size_t>(rowsInBlock) * stride);
     Put(sink, Header(surface, stride));
     for (int bottom = surface.Height(); bottom > 0; bottom -= rowsInBlock) {
@@ -70,7 +70,6 @@ void EncodeBmp(const Surface& surface, ByteSink& sink)
         for (int y = top; y < bottom; ++y) {
             row -= stride;
             StoreRow(surface.Row(y), row);
-            std::fill(row + used, row + stride, std::byte{0});
         }
         Put(sink, {block.data(), size});
     }

@@ -167,6 +167,10 @@ TEST(IccProfile, GoesIntoJpegAndPngResults)
     EXPECT_EQ(ProfileOfPng(ReadFile(folder / "a.png")), profile);
     SaveWithExtras(picture, folder / "b.png", {.profile = MadeProfile(133).Vector()});
     EXPECT_EQ(ProfileOfPng(ReadFile(folder / "b.png")), Profile()) << "its length is odd";
+    Profile strange = profile;
+    std::fill_n(strange.begin() + 64, 4, std::byte{0xFF});
+    SaveWithExtras(picture, folder / "c.png", {.profile = strange});
+    EXPECT_EQ(ProfileOfPng(ReadFile(folder / "c.png")), Profile()) << "there is no such intent";
     SaveWithExtras(picture, folder / "a.bmp", {.profile = profile});
     SavePicture(picture, folder / "b.bmp");
     EXPECT_EQ(ReadFile(folder / "a.bmp"), ReadFile(folder / "b.bmp"));
