@@ -96,6 +96,8 @@ TEST_F(MenusAtHand, StartAnEntryOfTheBarThatIsWalkedTo)
             Do(QString("key ") + key);
         ASSERT_TRUE(ComesToHold([this] { return session.doc.InOriginale == 1; }))
             << keys << " in " << window->objectName().toStdString();
+        // The next step may be wanted from there.
+        EXPECT_TRUE(Stays([this] { return IsActive(session.form1); })) << keys;
         Do("key e");
         EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
         ClickEntry(entry::Redo);
