@@ -59,6 +59,11 @@ TEST_F(Preview, MixesNeighboursWhereAPictureIsNotEnlargedByAWholeFactor)
     const Colour middle = Painted()[0][1];
     EXPECT_NE(middle, a_);
     EXPECT_NE(middle, b_);
+    // One direction alone is enough.
+    image_.SetPicture(Drawn({"a", "b"}));
+    image_.resize(2, 3);
+    EXPECT_NE(Painted()[1][0], a_);
+    EXPECT_NE(Painted()[1][0], b_);
 }
 
 TEST_F(Preview, KeepsItsSizeForAnotherPictureWhileItStretches)
@@ -67,6 +72,23 @@ TEST_F(Preview, KeepsItsSizeForAnotherPictureWhileItStretches)
     image_.resize(4, 2);
     image_.SetPicture(Drawn({"ab"}));
     EXPECT_EQ(image_.size(), QSize(4, 2));
+}
+
+TEST_F(Preview, HasBarsWhileTheUserHasMadeItSmaller)
+{
+    image_.SetPicture(Surface(200, 200));
+    window_.SetInside(QSize(200, 200));
+    window_.show();
+    const auto bars = [this] {
+        QTest::qWait(0);
+        return std::pair(window_.horizontalScrollBar()->isVisible(),
+                         window_.verticalScrollBar()->isVisible());
+    };
+    EXPECT_EQ(bars(), std::pair(false, false));
+    window_.resize(100, 100);
+    EXPECT_EQ(bars(), std::pair(true, true));
+    window_.resize(200, 200);
+    EXPECT_EQ(bars(), std::pair(false, false));
 }
 
 TEST_F(Preview, IsHeldByAHandWhileTheMouseIsPressed)
