@@ -141,6 +141,24 @@ TEST_F(Preview, TellsEveryNotchOfTheWheelWithTheControlKey)
     EXPECT_EQ(zoomed, (std::vector<bool>{true, false, true}));
 }
 
+TEST_F(Preview, GoesSidewaysWithTheShiftKey)
+{
+    image_.SetPicture(Surface(400, 400));
+    window_.SetInside(QSize(400, 400));
+    window_.resize(100, 100);
+    window_.show();
+    // A finger on a touchpad never moves quite straight.
+    for (const QPoint turned : {QPoint(0, -120), QPoint(10, -120)}) {
+        window_.horizontalScrollBar()->setValue(0);
+        QWheelEvent event({1, 1}, {1, 1}, {}, turned, Qt::NoButton, Qt::ShiftModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(window_.viewport(), &event);
+        EXPECT_GT(window_.horizontalScrollBar()->value(), 0) << turned.x();
+        EXPECT_LT(window_.horizontalScrollBar()->value(), 100) << "not by a whole page";
+        EXPECT_EQ(window_.verticalScrollBar()->value(), 0);
+    }
+}
+
 TEST_F(Preview, HoldsItsOwnCopy)
 {
     Surface picture = Drawn({"ab"});
