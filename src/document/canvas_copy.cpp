@@ -48,6 +48,13 @@ void SecureCanvas(Session& s)
         s.remarks += "Dell'immagine modificata non c'è nessuna copia su disco: conviene salvarla";
     else if (s.doc.canvasCopy != s.doc.notedCopy || !RecoveryNoteThere())
         WriteNote(s);
+    // Who reads that another copy is missing would take the work for lost with it.
+    const bool toldOfMissing =
+        !s.doc.noCopyBecause.isEmpty() && !s.remarks.filter(s.doc.noCopyBecause).isEmpty();
+    if (toldOfMissing && s.doc.canvasCopy == NativePath(file::SpareCopy) &&
+        s.doc.canvasCopy == s.doc.notedCopy)
+        s.remarks += "Le modifiche sono comunque al sicuro: ce n'è una copia nel file «" +
+                     s.doc.canvasCopy + "»";
 }
 
 void ForgetCanvasCopy(Session& s)

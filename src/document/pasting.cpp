@@ -57,12 +57,16 @@ void OpenPasted(Session& s)
 {
     const QMimeData* const data = QApplication::clipboard()->mimeData();
     // Some desktops have nothing at all for an empty clipboard.
-    if (data == nullptr) return;
-    const QList<QUrl> urls = data->urls();
+    const QList<QUrl> urls = data != nullptr ? data->urls() : QList<QUrl>();
+    const auto image = data != nullptr ? qvariant_cast<QImage>(data->imageData()) : QImage();
     if (urls.size() == 1 && urls.front().isLocalFile())
         OpenNamed(s, LocalFile(urls.front()));
-    else if (const auto image = qvariant_cast<QImage>(data->imageData()); !image.isNull())
+    else if (!image.isNull())
         OpenNamed(s, KeepAsFile(s, image));
+    else
+        s.remarks += urls.size() > 1
+                         ? "Negli appunti c'è più di un file: Pixano ne apre uno alla volta"
+                         : "Negli appunti non c'è un'immagine";
 }
 
 bool IsPasted(const QString& path)

@@ -38,14 +38,32 @@ bool IsOurs(const QString& path)
     return file.fileName() == file::PreviewCopy || QDir(file.path()) == QDir(DataFolder());
 }
 
+/// The file in which an error that ended the program has kept that very picture; empty without one.
+QString KeptBefore(const Surface& picture)
+{
+    const QDir folder(DataFolder(), "lavoro-*.bmp", QDir::Time, QDir::Files | QDir::NoSymLinks);
+    for (const QFileInfo& kept : folder.entryInfoList()) {
+        try {
+            const PictureRead read = ReadWorkingPicture(FileBytes(kept.filePath()));
+            if (!read.truncated && read.picture == picture) return kept.filePath();
+        } catch (const Fault&) {
+            continue;  // it holds another, whatever it is
+        }
+    }
+    return {};
+}
+
 /// Puts the picture into a file of its own in the data folder; the path. The copy goes only when
 /// the file is complete and the note is gone, so that whenever the program ends one of them is
 /// left, and is either noted or named to the user.
 QString PutAside(const QString& copy, const Surface& picture)
 {
     try {
-        QString aside = AsideName(MakeDataFolder());
-        SavePrivateBitmap(picture, FileBytes(aside));
+        QString aside = KeptBefore(picture);
+        if (aside.isEmpty()) {
+            aside = AsideName(MakeDataFolder());
+            SavePrivateBitmap(picture, FileBytes(aside));
+        }
         RemoveRecoveryNote();
         if (IsOurs(copy)) unlink(FileBytes(copy).c_str());
         return aside;

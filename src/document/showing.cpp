@@ -25,8 +25,9 @@ void RemarkMissingCopy(Session& s, const Fault& fault)
     const QString reason = QString::fromUtf8(fault.what());
     if (reason == s.doc.noCopyBecause) return;
     s.doc.noCopyBecause = reason;
-    s.remarks +=
-        "L'anteprima mostra l'immagine com'è ora, ma non c'è la sua copia su disco. " + reason;
+    s.remarks += "L'anteprima mostra l'immagine com'è ora, ma la sua copia di lavoro non è stata "
+                 "scritta. " +
+                 reason;
 }
 
 /// Puts the canvas, by way of its file, into the preview; whether the file holds it.

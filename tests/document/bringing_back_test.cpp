@@ -147,6 +147,19 @@ TEST_F(BringingBack, NamesTheFileOfWhatIsNotWanted)
     EXPECT_FALSE(session.doc.open);
 }
 
+TEST_F(BringingBack, NamesTheFileInWhichAnErrorHasKeptTheSame)
+{
+    Kill();
+    SaveBitmap(Drawn({"cba"}), Data("lavoro-2.bmp").toStdString());
+    SaveBitmap(Drawn({"~ab"}), Data("lavoro-3.bmp").toStdString());
+    dialogs.answers = {false};
+    Offer();
+    EXPECT_EQ(Aside(), QStringList());
+    EXPECT_EQ(dialogs.told.front().text,
+              "L'immagine resta nel file «" + Data("lavoro-3.bmp") + "».");
+    EXPECT_FALSE(Exists(Path("elabor.tmp")) || RecoveryNoteThere());
+}
+
 TEST_F(BringingBack, KeepsAllThatIsLeftWhereTheCopyIsNoLongerThePicture)
 {
     Kill("abua");

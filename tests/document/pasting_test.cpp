@@ -136,26 +136,28 @@ TEST_F(Pasting, TellsThatAFileHasGone)
                                       "File " + Path("andata.bmp") + " non trovato!"}}));
 }
 
-TEST_F(Pasting, DoesNothingWithAnythingElse)
+TEST_F(Pasting, SaysThatItDoesNothingWithAnythingElse)
 {
     Open("a.bmp", Drawn({"abc"}));
     Apply("Specchio");
     const QList<QUrl> two{QUrl::fromLocalFile(Made("b.bmp", Drawn({"x"}))),
                           QUrl::fromLocalFile(Made("c.bmp", Drawn({"y"})))};
-    const std::vector<std::function<void()>> copies{
-        [] { QApplication::clipboard()->clear(); },
-        [] { QApplication::clipboard()->setText("file:///tmp/a.bmp"); },
-        [] { CopyFiles({QUrl("https://example.org/a.bmp")}); },
-        [two] { CopyFiles(two); },
+    const char* const none = "Negli appunti non c'è un'immagine.";
+    const std::vector<std::pair<std::function<void()>, const char*>> copies{
+        {[] { QApplication::clipboard()->clear(); }, none},
+        {[] { QApplication::clipboard()->setText("file:///tmp/a.bmp"); }, none},
+        {[] { CopyFiles({QUrl("https://example.org/a.bmp")}); }, none},
+        {[two] { CopyFiles(two); },
+         "Negli appunti c'è più di un file: Pixano ne apre uno alla volta."},
     };
-    for (const auto& copy : copies) {
+    for (const auto& [copy, said] : copies) {
         copy();
         Paste();
+        EXPECT_EQ(std::exchange(dialogs.told, {}),
+                  (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!", said}}));
     }
     EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
-    EXPECT_TRUE(dialogs.asked.empty());
-    EXPECT_TRUE(dialogs.told.empty());
-    EXPECT_EQ(KeptFiles(), QStringList());
+    EXPECT_TRUE(dialogs.asked.empty() && KeptFiles().empty());
 }
 
 TEST_F(Pasting, LeadsNoDialogIntoTheProgramsOwnFolder)

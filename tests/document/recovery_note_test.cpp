@@ -196,6 +196,9 @@ TEST_F(Noted, IsWithAllThatIsKeptTheUsersOwnThoughTheFolderWasOpenToAll)
     ends.fatal = Fatal::Index;
     RunInFrame(ends);
     EXPECT_EQ(session.ending, 1);
+    const QStringList work = QDir(Data("")).entryList({"lavoro-*.bmp"});
+    ASSERT_EQ(work.size(), 1);
+    QFile::rename(Data(work.front()), Data("lavoro.bmp"));  // the user has named it anew
     NextStart(false);
     const auto modeOf = [](const std::string& path) {
         struct stat status = {};
@@ -204,7 +207,7 @@ TEST_F(Noted, IsWithAllThatIsKeptTheUsersOwnThoughTheFolderWasOpenToAll)
     };
     EXPECT_EQ(modeOf(folder), 0700U);
     const QStringList kept = QDir(Data("")).entryList(QDir::Files | QDir::Hidden);
-    EXPECT_THAT(kept.join(' ').toStdString(), testing::ContainsRegex("lavoro-.*recupero-"));
+    EXPECT_THAT(kept.join(' ').toStdString(), testing::ContainsRegex("lavoro.bmp recupero-"));
     for (const QString& name : kept)
         EXPECT_EQ(modeOf(Data(name).toStdString()), 0600U) << name.toStdString();
 }

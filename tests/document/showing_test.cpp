@@ -126,14 +126,18 @@ TEST_F(Showing, CopiesTheCanvasByWayOfAFileInTheCurrentFolder)
 
 TEST_F(Showing, TellsOnceWhyThePreviewsCopyCannotBeWritten)
 {
-    const auto toldOfCopy = [this](const char* reason) {
+    const auto toldOfCopy = [this](const QString& reason) {
         const std::vector<ShownBox> box{
             {BoxIcon::Exclamation, "Attenzione!",
-             "L'anteprima mostra l'immagine com'è ora, ma non c'è la sua copia su disco. "
-             "Impossibile salvare «" +
+             "L'anteprima mostra l'immagine com'è ora, ma la sua copia di lavoro non è stata "
+             "scritta. Impossibile salvare «" +
                  Path("elabor.tmp") + "»: " + reason + "."}};
         return std::exchange(dialogs.told, {}) == box;
     };
+    const QString tooLarge =
+        "il file supera la dimensione consentita.\n\nLe modifiche sono comunque "
+        "al sicuro: ce n'è una copia nel file «" +
+        Data("elabor.tmp") + "»";
     QDir here;
     here.mkdir("elabor.tmp");
     Enlarge();
@@ -147,12 +151,12 @@ TEST_F(Showing, TellsOnceWhyThePreviewsCopyCannotBeWritten)
         const FileSizeLimit disk(0);
         Enlarge();
     }
-    EXPECT_TRUE(toldOfCopy("il file supera la dimensione consentita")) << "another reason";
+    EXPECT_TRUE(toldOfCopy(tooLarge)) << "another reason";
     Enlarge();
     EXPECT_TRUE(dialogs.told.empty()) << "it is written";
     const FileSizeLimit disk(0);
     Enlarge();
-    EXPECT_TRUE(toldOfCopy("il file supera la dimensione consentita")) << "it was, meanwhile";
+    EXPECT_TRUE(toldOfCopy(tooLarge)) << "it was, meanwhile";
 }
 
 TEST_F(Showing, ShowsPreviewAndPaletteAgainThatWereHidden)

@@ -15,8 +15,8 @@ class WhateverFails : public Program {
     ~WhateverFails() override { SpyAction() = nullptr; }
 
     /// The effect has made its picture; only the preview's copy could not be written. The box says
-    /// so, `why`, and what helps.
-    void ExpectItCounts(const char* effect, const QString& why)
+    /// so, `why`, that nothing is lost, and what helps.
+    void ExpectItCounts(const char* effect, const QString& why, const QString& advice)
     {
         EffectRun run(Varied(64, 48));
         EXPECT_EQ(Canvas(), run.Apply(*FindEffect(effect)).work.Picture1);
@@ -30,9 +30,11 @@ class WhateverFails : public Program {
         EXPECT_EQ(
             dialogs.told[0],
             (ShownBox{BoxIcon::Exclamation, "Attenzione!",
-                      "L'anteprima mostra l'immagine com'è ora, ma non c'è la sua copia su disco. "
-                      "Impossibile salvare «" +
-                          why}));
+                      "L'anteprima mostra l'immagine com'è ora, ma la sua copia di lavoro non è "
+                      "stata scritta. Impossibile salvare «" +
+                          why +
+                          ".\n\nLe modifiche sono comunque al sicuro: ce n'è una copia nel file «" +
+                          Data("elabor.tmp") + "»." + advice}));
     }
     static inline const QString Advice = "\n\nPixano tiene i suoi file di lavoro nella cartella da "
                                          "cui è avviato: conviene avviarlo da "
@@ -56,7 +58,7 @@ TEST_F(WhateverFails, AFinishedEffectCountsThoughAFolderIsInThePreviewsPlace)
 {
     QDir().mkdir("elabor.tmp");
     Apply("Specchio");
-    ExpectItCounts("Specchio", Path("elabor.tmp") + "»: è una cartella.");
+    ExpectItCounts("Specchio", Path("elabor.tmp") + "»: è una cartella", "");
     ExpectItIsOffered();
 }
 
@@ -65,9 +67,8 @@ TEST_F(WhateverFails, AFinishedEffectCountsInAFolderThatCannotBeWritten)
     const OrdinaryUser user{Root().toStdString()};
     const Locked locked(QDir::currentPath().toStdString());
     Apply("Rotazione +90°");
-    ExpectItCounts("Rotazione +90°", Path("elabor.tmp") +
-                                         "»: manca il permesso di scrivere nella cartella." +
-                                         Advice);
+    ExpectItCounts("Rotazione +90°",
+                   Path("elabor.tmp") + "»: manca il permesso di scrivere nella cartella", Advice);
     ExpectItIsOffered();
 }
 
@@ -86,7 +87,7 @@ TEST_F(WhateverFails, AFinishedEffectCountsInAFolderThatHasVanished)
 {
     QDir(QDir::currentPath()).removeRecursively();
     Apply("Rotazione +90°");
-    ExpectItCounts("Rotazione +90°", "./elabor.tmp»: la cartella non esiste." + Advice);
+    ExpectItCounts("Rotazione +90°", "./elabor.tmp»: la cartella non esiste", Advice);
     ExpectItIsOffered();
 }
 
@@ -100,7 +101,7 @@ TEST_F(WhateverFails, ACanvasWithoutAnyCopyIsToldOfAfterEveryEffect)
         Apply("Specchio");
         ASSERT_EQ(dialogs.told.size(), 1U);
         EXPECT_TRUE(dialogs.told[0].text.endsWith(warning)) << dialogs.told[0];
-        EXPECT_EQ(dialogs.told[0].text.contains("copia su disco. Impossibile"), i == 0)
+        EXPECT_EQ(dialogs.told[0].text.contains("scritta. Impossibile"), i == 0)
             << "why, it was told before";
         dialogs.told.clear();
     }
