@@ -13,6 +13,12 @@
 #include <algorithm>
 
 namespace pixano {
+namespace {
+
+/// How long a window manager may take to answer, in milliseconds.
+constexpr int AnswerTime = 300;
+
+}  // namespace
 
 HeldWindow::HeldWindow(QWidget* inside)
 {
@@ -29,7 +35,7 @@ void HeldWindow::SetInside(QSize size)
 {
     stated_ = size.expandedTo(QSize(1, 1));
     const QSize before = this->size();
-    if (StandsElsewhere()) {
+    if (StandsElsewhere() && !IsSettling()) {
         home_ = pos();
         moved_ = true;
     }
@@ -42,7 +48,16 @@ void HeldWindow::SetInside(QSize size)
         if (place != pos()) move(place);
     }
     placed_ = pos();
-    sincePlaced_.invalidate();
+    if (!IsSettling()) {
+        sincePlaced_.invalidate();
+        return;
+    }
+    // What the window manager makes of a window that has only just appeared comes yet. One that
+    // puts its frame around it later shifts it without a word.
+    sincePlaced_.start();
+    QTimer::singleShot(AnswerTime, this, [this] {
+        if (StandsElsewhere()) AskAgain();
+    });
 }
 
 QRect HeldWindow::Room(bool held) const
@@ -80,13 +95,17 @@ void HeldWindow::PlaceAt(QPoint place)
     move(place);
 }
 
+bool HeldWindow::IsSettling() const
+{
+    return sincePlaced_.isValid() && sincePlaced_.elapsed() < AnswerTime;
+}
+
 /// Some window managers choose the place of a window that appears without the focus, whatever was
 /// asked; they are asked again then. Later it is the user who moves it.
 void HeldWindow::moveEvent(QMoveEvent* event)
 {
-    constexpr int Settling = 300;
     QScrollArea::moveEvent(event);
-    if (placed_ && pos() != *placed_ && sincePlaced_.isValid() && sincePlaced_.elapsed() < Settling)
+    if (placed_ && pos() != *placed_ && IsSettling())
         QTimer::singleShot(0, this, &HeldWindow::AskAgain);
 }
 

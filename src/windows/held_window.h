@@ -56,6 +56,8 @@ class HeldWindow : public QScrollArea {
     /// What it is kept within when its size changes: where it is wider it begins at the left.
     QRect RoomToGrow() const;
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
+    /// Whether the window manager may not have answered yet.
+    bool IsSettling() const;
     /// Asks the window manager for place and size once more.
     void AskAgain();
     bool HasFixedSize() const;
