@@ -85,13 +85,13 @@ TEST_F(BringingBack, TakesTheWorkUpWhereItWas)
     EXPECT_TRUE(session.form2.isVisible() && session.form9.isVisible());
     EXPECT_EQ(MenuHistory(), (History{false, true, false}));
     EXPECT_EQ(PaletteHistory(), (History{false, true, false}));
-    EXPECT_TRUE(Enabled(entry::Salva));
-    EXPECT_TRUE(Enabled(37));
+    EXPECT_TRUE(Enabled(entry::Salva) && Enabled(37));
     EXPECT_EQ(session.doc.Modificato, 1);
     EXPECT_EQ(session.doc.FileAperto, Path("a.bmp"));
     EXPECT_TRUE(dialogs.told.empty());
     ASSERT_TRUE(ReadRecoveryNote());
     EXPECT_EQ(ReadRecoveryNote()->copy, Path("elabor.tmp"));
+    EXPECT_EQ(Kept(Path("elabor.tmp")), (Letters{"~ab"}));
 }
 
 TEST_F(BringingBack, LetsTheWorkGoOn)

@@ -98,5 +98,15 @@ TEST_F(Program, MakesTheStartUpFolderCurrentAgainAfterAnUnreadableFile)
     EXPECT_EQ(QDir::currentPath(), session.doc.CartellaAvvio);
 }
 
+TEST_F(Program, OffersTheFolderOfTheOpenPictureWhereItsPathCannotBeKept)
+{
+    QDir().mkdir("percors.dat");
+    QDir().mkdir("altrove");
+    Open("altrove/a.bmp", Drawn({"abc"}));
+    dialogs.openNames.push_back(std::nullopt);
+    ClickEntry(entry::Apri);
+    EXPECT_EQ(dialogs.openFolders.back(), Path("altrove"));
+}
+
 }  // namespace
 }  // namespace pixano::test

@@ -10,8 +10,11 @@
 #include <cerrno>
 #include <csignal>
 #include <thread>
+#include <tuple>
 
 #include <fcntl.h>
+#include <sys/time.h>
+#include <unistd.h>
 
 namespace pixano::test {
 namespace {
@@ -168,6 +171,31 @@ TEST(ByteSource, OfAStreamBeyondItsLimitIsAnError)
     EXPECT_EQ(Next(source, Long + 1).size(), Long);
     EXPECT_EQ(source.Next(), -1);
     EXPECT_EQ(source.Error(), EFBIG);
+}
+
+int& ToBeFilled()
+{
+    static int descriptor = -1;
+    return descriptor;
+}
+
+TEST(ByteSource, GoesOnReadingWhereASignalHasInterruptedIt)
+{
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    const Descriptor from(ends[0]);
+    const Descriptor into(ends[1]);
+    ToBeFilled() = into.Number();
+    struct sigaction fills = {};
+    fills.sa_handler = [](int) { std::ignore = write(ToBeFilled(), "x", 1); };
+    struct sigaction before = {};
+    sigaction(SIGALRM, &fills, &before);
+    constexpr itimerval Soon{{0, 0}, {0, 50000}};
+    setitimer(ITIMER_REAL, &Soon, nullptr);
+    ByteSource source = ByteSource::Stream(from.Number(), 1);
+    EXPECT_EQ(source.Next(), 'x');
+    EXPECT_EQ(source.Error(), 0);
+    sigaction(SIGALRM, &before, nullptr);
 }
 
 TEST(ByteSource, TellsTheFirstErrorAndGivesNothingMore)

@@ -78,8 +78,11 @@ TEST_F(Focus, LeavesABlankWithNothingToDoOnceItsButtonIsOff)
             Do(QString("key ") + key);
             EXPECT_TRUE(ComesToHold([&, last = after] { return PaletteHistory() == last; }))
                 << button;
+            const Surface canvas = Canvas();
             Do(QString("key %1 %1").arg(key));
-            EXPECT_TRUE(Stays([&, last = after] { return PaletteHistory() == last; })) << button;
+            EXPECT_TRUE(Stays([&, last = after] {
+                return PaletteHistory() == last && Canvas() == canvas;
+            })) << button;
         }
 }
 
