@@ -1,8 +1,5 @@
 // Where the window manager really puts the windows, and what of a picture is seen in them.
-#include "document/recovery.h"
-#include "document/recovery_note.h"
 #include "screen/desktop.h"
-#include "shell/run.h"
 
 namespace pixano::test {
 namespace {
@@ -144,22 +141,6 @@ TEST_F(Places, ThePreviewBackInItsCornerOnceItIsAsSmallAgain)
     for (int i = 0; i < 5; ++i)
         Button("Command2").click();
     EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().topLeft() == before.topLeft(); }));
-}
-
-// It is placed and made larger at once there.
-TEST_F(Places, ThePreviewInItsCornerOnceAPictureWasBroughtBack)
-{
-    const QString copy = Made("elabor.tmp", Varied(640, 480));
-    WriteRecoveryNote({copy, Made("a.bmp", Varied(640, 480)), 640, 480});
-    dialogs.answers = {true};
-    RunCommand(session, "Recupero", Fatal::None, [this] { OfferRecovery(session); });
-    WaitForWindows();
-    EXPECT_TRUE(StaysOnceAnswered([this] { return !session.form9.MovedByUser(); }));
-    const int bottom = Preview().bottom();
-    EXPECT_LE(bottom, session.form9.screen()->availableGeometry().bottom());
-    dialogs.answers = {false};
-    OpenSized(40, 30);
-    EXPECT_TRUE(Stays([&] { return Preview().bottom() >= bottom - 2; })) << Preview().bottom();
 }
 
 TEST_F(Places, ThePaletteAboveTheCanvasOnEveryOpening)
