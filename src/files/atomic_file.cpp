@@ -1,6 +1,6 @@
 #include "files/atomic_file.h"
 
-#include "files/refusal.h"
+#include "files/folder_refusal.h"
 #include "files/regular_file.h"
 
 #include <climits>
@@ -84,7 +84,7 @@ AtomicFile::AtomicFile(const std::string& path, Purpose purpose, Temporary tempo
     if (name_.empty()) throw Refusal("manca il nome del file");
     folder_ = Descriptor(Uninterrupted(
         [&] { return open(place.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
-    if (!folder_ && errno == ENOENT) throw Refusal("la cartella non esiste");
+    if (!folder_ && errno == ENOENT) throw FolderRefusal(errno, place.folder);
     if (!folder_) throw Refusal(errno);
     struct stat old = {};
     const bool exists = fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
@@ -139,11 +139,7 @@ void AtomicFile::MakeNamed(unsigned permissions)
     } while (!file_ && (errno == EEXIST || errno == EINTR));
     if (file_) return;
     temporary_.clear();
-    if (errno == EACCES || errno == EPERM)
-        throw Refusal("manca il permesso di scrivere nella cartella");
-    // An open folder may have been deleted.
-    if (errno == ENOENT) throw Refusal("la cartella non esiste");
-    throw Refusal(errno);
+    throw FolderRefusal(errno, ShownAs(folder_));
 }
 
 void AtomicFile::KeepOwnerAndPermissions()

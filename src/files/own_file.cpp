@@ -2,20 +2,30 @@
 
 #include "files/atomic_file.h"
 #include "files/byte_source.h"
-#include "files/refusal.h"
+#include "files/folder_refusal.h"
+
+#include <filesystem>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace pixano {
+namespace {
+
+std::string FolderOf(const std::string& path)
+{
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    return folder.empty() ? "." : folder.string();
+}
+
+}  // namespace
 
 Descriptor CreateOwnFile(const std::string& path)
 {
     constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    if (unlink(path.c_str()) != 0 && errno != ENOENT) throw Refusal(errno);
+    if (unlink(path.c_str()) != 0 && errno != ENOENT) throw FolderRefusal(errno, FolderOf(path));
     Descriptor file(Uninterrupted([&] { return open(path.c_str(), Flags, 0600); }));
-    if (!file && errno == ENOENT) throw Refusal("la cartella non esiste");
-    if (!file) throw Refusal(errno);
+    if (!file) throw FolderRefusal(errno, FolderOf(path));
     return file;
 }
 
@@ -27,7 +37,8 @@ void ReplaceOwnFile(const std::string& path, const std::string& text)
 
 void DeleteOwnFile(const std::string& path)
 {
-    if (unlink(path.c_str()) != 0) throw Refusal(errno);
+    if (unlink(path.c_str()) == 0) return;
+    throw errno == ENOENT ? Refusal(errno) : FolderRefusal(errno, FolderOf(path));
 }
 
 std::string ReadOwnFile(const std::string& path, Links links)

@@ -80,7 +80,7 @@ TEST_F(WhateverFails, AnEffectThatNeedsTheFolderSaysWhatHelpsInAFolderThatCannot
     ASSERT_EQ(dialogs.told.size(), 1U);
     EXPECT_EQ(dialogs.told[0].text,
               "Errore durante il comando «Specchio»:\nImpossibile scrivere «" + Path("elab.ser") +
-                  "»: manca il permesso." + Advice);
+                  "»: manca il permesso di scrivere nella cartella." + Advice);
 }
 
 TEST_F(WhateverFails, AFinishedEffectCountsInAFolderThatHasVanished)
