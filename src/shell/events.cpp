@@ -28,7 +28,7 @@ std::function<bool()> AskingFirst(Session& s, const char* name, Fatal ends,
 void KeepCommandsAtHand(Session& s)
 {
     for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9, &s.form10})
-        s.form1.ServeKeysOf(*window);
+        s.form1.ServeKeysIn(*window);
 }
 
 }  // namespace

@@ -1,22 +1,16 @@
 #include "windows/form1.h"
 
 #include "version.h"
-#include "windows/belonging.h"
 #include "windows/palette_strip.h"
-#include "windows/window_operation.h"
 
-#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QShortcut>
 
 #include <algorithm>
 #include <stdexcept>
 #include <string>
-#include <utility>
 
 namespace pixano {
 namespace {
@@ -36,10 +30,10 @@ Form1::Form1(MenuTable entries) : entries_(entries)
     setWindowTitle(NameAndVersion);
     setAccessibleName("Pixano, finestra principale");
     BuildMenus();
-    Serve(QKeySequence(Qt::CTRL | Qt::Key_V), *this, [this] { emit Pasted(); });
-    Serve(QKeySequence(Qt::Key_F10), *this, [this] { OpenMenu(*controls_.front()); });
-    opening_.setSingleShot(true);
-    connect(&opening_, &QTimer::timeout, this, &Form1::OpenAwaitedMenu);
+    keys_.Serve(QKeySequence(Qt::CTRL | Qt::Key_V), [this] {
+        keys_.Leave();
+        emit Pasted();
+    });
     setFixedSize(InsideWidth(), menuBar()->sizeHint().height());
     // Nothing else in it has the keyboard: the menu bar would keep it, and take letters for menus.
     setFocusPolicy(Qt::StrongFocus);
@@ -60,7 +54,6 @@ void Form1::BuildMenus()
     menuBar()->setObjectName("MenuBar");
     menuBar()->setAccessibleName("Comandi");
     menuBar()->setNativeMenuBar(false);
-    menuBar()->installEventFilter(this);
     for (const MenuEntry& row : entries_) {
         controls_.push_back(AddEntry(row));
         if (*row.keys != '\0') AddShortcut(row);
@@ -89,8 +82,7 @@ QAction* Form1::AddEntry(const MenuEntry& row)
     connect(action, &QAction::triggered, this, [this, &row, action] {
         // A click must not toggle the mark: only the commands move it.
         if (action->isCheckable()) action->setChecked(true);
-        cameFrom_ = nullptr;
-        emit Clicked(row);
+        Choose(row);
     });
     return action;
 }
@@ -98,92 +90,19 @@ QAction* Form1::AddEntry(const MenuEntry& row)
 /// The captions stay as they are: the keys are not shown beside them.
 void Form1::AddShortcut(const MenuEntry& row)
 {
-    Serve(QKeySequence(row.keys), *this, [this, &row, action = controls_.back()] {
-        if (action->isEnabled()) emit Clicked(row);
+    keys_.Serve(QKeySequence(row.keys), [this, &row, action = controls_.back()] {
+        if (action->isEnabled()) Choose(row);
     });
 }
 
-void Form1::Serve(const QKeySequence& keys, QWidget& window, const std::function<void()>& act)
+void Form1::Choose(const MenuEntry& row)
 {
-    auto* const shortcut = new QShortcut(keys, &window);
-    if (&window == this) shortcut->setContext(Qt::ApplicationShortcut);
-    shortcut->setAutoRepeat(false);
-    connect(shortcut, &QShortcut::activated, this, act);
-}
-
-void Form1::ServeKeysOf(QWidget& window)
-{
-    for (QAction* const entry : menuBar()->actions()) {
-        const QKeySequence keys = QKeySequence::mnemonic(entry->text());
-        if (!keys.isEmpty()) Serve(keys, window, [this, entry] { Use(*entry); });
-    }
-}
-
-void Form1::Use(QAction& entry)
-{
-    if (entry.menu() != nullptr)
-        OpenMenu(entry);
-    else
-        entry.trigger();
-}
-
-void Form1::OpenMenu(QAction& entry)
-{
-    constexpr int Patience = 1000;
-    if (!isActiveWindow()) cameFrom_ = QApplication::activeWindow();
-    BringForward(*this);
-    awaited_ = &entry;
-    // A desktop that gives the focus as it likes lets a menu open only while its key is held.
-    if (isActiveWindow() || DesktopAloneArranges())
-        OpenAwaitedMenu();
-    else
-        opening_.start(Patience);
-}
-
-void Form1::OpenAwaitedMenu()
-{
-    // The patience with this entry must not run out on the next one.
-    opening_.stop();
-    QAction* const entry = std::exchange(awaited_, nullptr);
-    if (entry == nullptr) return;
-    if (!menuBar()->hasFocus()) GiveTheBarTheKeys();
-    menuBar()->setActiveAction(entry);
-    entry->menu()->setActiveAction(entry->menu()->actions().front());
-}
-
-/// As the alt key does: entries without a menu are started with return, and once all menus are
-/// closed no letter opens one.
-void Form1::GiveTheBarTheKeys()
-{
-    // The modifiers are those from before: the toolkit turns over that of the key itself.
-    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
-    for (QKeyEvent* const key : {&press, &release})
-        QCoreApplication::sendEvent(this, key);
-}
-
-/// Gives the focus back to the window where the key for a menu was pressed, when no entry of it was
-/// chosen.
-void Form1::GoBack()
-{
-    if (QApplication::activePopupWidget() != nullptr || menuBar()->hasFocus()) return;
-    QWidget* const window = std::exchange(cameFrom_, nullptr);
-    if (window == nullptr || !isActiveWindow()) return;
-    window->activateWindow();
-    KeepFocus(*window, *this);
-}
-
-bool Form1::eventFilter(QObject* watched, QEvent* event)
-{
-    // The choice of an entry leaves the bar first.
-    if (watched == menuBar() && event->type() == QEvent::FocusOut)
-        QTimer::singleShot(0, this, &Form1::GoBack);
-    return QMainWindow::eventFilter(watched, event);
+    keys_.Leave();
+    emit Clicked(row);
 }
 
 bool Form1::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && awaited_ != nullptr) opening_.start(0);
     const bool done = QMainWindow::event(event);
     // Left by way of another window, the bar would have the keyboard again afterwards.
     if (event->type() == QEvent::WindowDeactivate && focusWidget() == menuBar()) setFocus();

@@ -2,11 +2,10 @@
 #pragma once
 
 #include "windows/menu_entry.h"
+#include "windows/menu_keys.h"
 
 #include <QAction>
 #include <QMainWindow>
-#include <QPointer>
-#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -38,7 +37,7 @@ class Form1 : public QMainWindow {
     void Check(int position, bool checked);
 
     /// Lets the keys that open the menus work in that window too: this one comes forward then.
-    void ServeKeysOf(QWidget& window);
+    void ServeKeysIn(QWidget& window) { keys_.ServeLettersIn(window); }
 
     /// Asked when the user closes the window; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
@@ -51,35 +50,19 @@ class Form1 : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void BuildMenus();
     int InsideWidth() const;
     QAction* AddEntry(const MenuEntry& row);
     void AddShortcut(const MenuEntry& row);
-    /// Does that once when the keys are pressed, however long they are held: in the window, or in
-    /// every window of the program when it is this one.
-    void Serve(const QKeySequence& keys, QWidget& window, const std::function<void()>& act);
-    /// What the entry's key does in another window.
-    void Use(QAction& entry);
-    /// Comes forward with the entry's menu open.
-    void OpenMenu(QAction& entry);
-    void OpenAwaitedMenu();
-    void GiveTheBarTheKeys();
-    void GoBack();
+    void Choose(const MenuEntry& row);
     /// Throws std::out_of_range when no entry has that name.
     int PositionOf(std::string_view name) const;
 
     MenuTable entries_;
     std::vector<QAction*> controls_;
-    /// The entry whose menu opens once the window has the focus.
-    QAction* awaited_ = nullptr;
-    /// Opens it when the focus comes, or when it is long in coming.
-    QTimer opening_;
-    /// The window where the key for a menu was pressed; null when it was in this one, and when an
-    /// entry was chosen.
-    QPointer<QWidget> cameFrom_;
+    MenuKeys keys_{*this};
 };
 
 }  // namespace pixano

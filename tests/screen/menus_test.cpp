@@ -1,28 +1,11 @@
 // The menus at hand from every window, whatever lies above the main window.
-#include "screen/desktop.h"
+#include "screen/menus.h"
 
 #include <QElapsedTimer>
-#include <QMenu>
-#include <QMenuBar>
 #include <QWindow>
 
 namespace pixano::test {
 namespace {
-
-class MenusAtHand : public Desktop {
-  protected:
-    bool IsOpen(const char* menu) const
-    {
-        return session.form1.findChild<QMenu*>(menu)->isVisible();
-    }
-    void CloseMenus()
-    {
-        Do("key Escape");
-        EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() == nullptr; }));
-        if (session.form1.menuBar()->hasFocus()) Do("key Escape");
-        EXPECT_TRUE(ComesToHold([this] { return !session.form1.menuBar()->hasFocus(); }));
-    }
-};
 
 TEST_F(MenusAtHand, OpenAtTheirKeysFromEveryWindow)
 {
@@ -43,36 +26,6 @@ TEST_F(MenusAtHand, OpenAtTheirKeysFromEveryWindow)
 }
 
 // A name typed into the wrong window must not start an effect.
-TEST_F(MenusAtHand, TakeNoLetterOnceTheyAreClosed)
-{
-    OpenSized(300, 200);
-    for (const char* const keys : {"alt+f", "F10"}) {
-        Activate(session.form1);
-        Do(QString("key ") + keys);
-        EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); })) << keys;
-        CloseMenus();
-        Do("key e");
-        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; })) << keys;
-    }
-}
-
-TEST_F(MenusAtHand, TakeNoLetterOnceAnotherWindowWasUsed)
-{
-    OpenSized(300, 200);
-    const std::vector<std::vector<const char*>> ways{{"alt"}, {"alt", "Left"}, {"F10", "Left"}};
-    for (const std::vector<const char*>& keys : ways) {
-        Activate(session.form1);
-        for (const char* const key : keys)
-            Do(QString("key ") + key);
-        EXPECT_TRUE(ComesToHold([this] { return session.form1.menuBar()->hasFocus(); }));
-        Activate(session.form9);
-        Activate(session.form1);
-        Do("key e");
-        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }))
-            << keys.front() << " and " << keys.back();
-    }
-}
-
 TEST_F(MenusAtHand, StartAnEntryOfTheBarThatIsWalkedTo)
 {
     OpenSized(300, 200);
@@ -84,10 +37,7 @@ TEST_F(MenusAtHand, StartAnEntryOfTheBarThatIsWalkedTo)
                                        {&session.form9, "alt+f"},
                                        {&session.form10, "F10"},
                                        {&session.form10, "alt+f"}}) {
-        EXPECT_TRUE(Stays([this] {
-            return FocusKeeperOf(session.form2) == nullptr &&
-                   FocusKeeperOf(session.form9) == nullptr;
-        }));
+        LetTheFocusSettle();
         Activate(*window);
         Do(QString("key ") + keys);
         EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); })) << keys;
@@ -135,13 +85,7 @@ TEST_F(MenusAtHand, WaitForTheFocusAsLongEachTime)
     CloseMenus();
 }
 
-TEST_F(MenusAtHand, OpenAtF10InTheMainWindow)
-{
-    Do("key F10");
-    EXPECT_TRUE(ComesToHold([this] { return IsOpen("File"); }));
-    CloseMenus();
-}
-
+// What was shown would no longer be true of the canvas, and the next letter start something.
 TEST_F(MenusAtHand, StartAnEntryOfTheBarAtItsKeyWhileItIsOn)
 {
     OpenSized(30, 20);
@@ -154,35 +98,6 @@ TEST_F(MenusAtHand, StartAnEntryOfTheBarAtItsKeyWhileItIsOn)
     Do("key alt+o");
     EXPECT_EQ(session.doc.InOriginale, 1);
     EXPECT_EQ(MenuHistory(), (History{false, false, true}));
-}
-
-TEST_F(MenusAtHand, GiveTheFocusBackWhenNoneOfTheirEntriesIsChosen)
-{
-    OpenSized(30, 20);
-    for (QWidget* const window :
-         std::initializer_list<QWidget*>{&session.form2, &session.form9, &session.form10})
-        for (const char* const key : {"F10", "alt+e"}) {
-            SCOPED_TRACE(window->objectName().toStdString() + ' ' + key);
-            Activate(*window);
-            Do(QString("key ") + key);
-            EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
-            CloseMenus();
-            EXPECT_TRUE(StaysOnceAnswered([&] { return IsActive(*window); }));
-        }
-    // In the main window itself they leave it there; and once chosen, an entry goes its own way.
-    Activate(session.form1);
-    Do("key F10");
-    EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
-    CloseMenus();
-    EXPECT_TRUE(Stays([this] { return IsActive(session.form1); }));
-    Activate(session.form2);
-    Do("key alt+e");
-    EXPECT_TRUE(ComesToHold([this] { return IsOpen("Effetti"); }));
-    Do("key f");
-    EXPECT_TRUE(ComesToHold([this] { return IsOpen("Fantas"); }));
-    Do("key Down Return");
-    EXPECT_TRUE(StaysOnceAnswered([this] { return IsActive(session.form10); }));
-    EXPECT_EQ(session.doc.Effetto, "Fantastic 2");
 }
 
 }  // namespace
