@@ -1,5 +1,6 @@
 #include "panels/form10.h"
 
+#include "panels/arrow_keys.h"
 #include "panels/built_in.h"
 #include "panels/button_box.h"
 #include "windows/belonging.h"
@@ -63,6 +64,7 @@ Form10::Form10(PaletteTable buttons)
         layout->addWidget(box);
     for (const PaletteButton& row : buttons)
         BuildButton(row)->setParent(boxes_.at(static_cast<std::size_t>(row.frame)));
+    new ArrowKeys(*this);
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         LayInRows(*boxes_[i], PerRow.at(i), i + 1 < boxes_.size() ? Margin : 0);
     DrawPictures();
