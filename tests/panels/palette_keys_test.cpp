@@ -67,6 +67,9 @@ TEST_F(PaletteKeys, PassOverWhatIsSwitchedOff)
     EXPECT_EQ(Walk({Up}), QStringList{"SSCommand7"});
     palette.EnableHistory({.annulla = true, .originale = true, .ripristina = false});
     EXPECT_EQ(Walk({Up, Right, Right}), (QStringList{"SSCommand15", "SSCommand16", "SSCommand16"}));
+    palette.EnableHistory({.annulla = true, .originale = false, .ripristina = true});
+    StartFrom("SSCommand15");
+    EXPECT_EQ(Walk({Right}), QStringList{"SSCommand17"});
 }
 
 TEST_F(PaletteKeys, AreNoChoice)
