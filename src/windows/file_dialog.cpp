@@ -97,6 +97,11 @@ std::optional<QString> FileDialog::AskName()
 void FileDialog::accept()
 {
     const QString text = Name().text();
+    // Nobody sees such a name, nor finds it again.
+    if (!text.isEmpty() && text.trimmed().isEmpty()) {
+        Name().clear();
+        return;
+    }
     if (!IsLostOnToolkit(text)) {
         QFileDialog::accept();
         return;

@@ -50,6 +50,21 @@ TEST_F(RealFileDialog, LetsANameBeTypedThatDoesNotExist)
     EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), Path("no.bmp"));
 }
 
+TEST_F(RealFileDialog, TakesBlanksForNoName)
+{
+    for (const QString& blanks : {QString(" "), QString("   ")}) {
+        Meanwhile([&](QFileDialog& dialog) { Type(dialog, blanks); });
+        EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), std::nullopt);
+        Meanwhile([&](QFileDialog& dialog) {
+            Type(dialog, blanks);
+            EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "");
+        });
+        EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), std::nullopt);
+    }
+    Meanwhile([](QFileDialog& dialog) { Type(dialog, " a b "); });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path(" a b .bmp"));
+}
+
 TEST_F(RealFileDialog, AddsTheDefaultExtensionWhenSaving)
 {
     Meanwhile([](QFileDialog& dialog) {
