@@ -1,5 +1,6 @@
 #include "windows/file_dialog.h"
 
+#include "windows/file_names.h"
 #include "windows/free_screen.h"
 
 #include <QAbstractItemView>
@@ -13,7 +14,7 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include <algorithm>
+#include <unistd.h>
 
 namespace pixano {
 namespace {
@@ -27,15 +28,12 @@ QString ExistingFolder(const QString& folder)
     return path;
 }
 
-/// The toolkit takes quotation marks for those around several names, and has no answer to a name
-/// that no file can have.
-bool IsLostOnToolkit(const QString& text)
+/// Whether the toolkit has no answer to the name, because no file of its folder can have it.
+bool IsTooLong(const QString& path)
 {
-    constexpr qsizetype LongestName = 255;
-    const QStringList names = text.split('/');
-    return text.contains('"') || std::ranges::any_of(names, [](const QString& name) {
-               return name.toUtf8().size() > LongestName;
-           });
+    const QFileInfo file(path);
+    const long longest = pathconf(FileBytes(file.path()).c_str(), _PC_NAME_MAX);
+    return longest >= 0 && file.fileName().size() > longest;
 }
 
 }  // namespace
@@ -102,13 +100,15 @@ void FileDialog::accept()
         Name().clear();
         return;
     }
-    if (!IsLostOnToolkit(text)) {
+    QString path = directory().absoluteFilePath(text);
+    if (!defaultSuffix().isEmpty() && QFileInfo(path).suffix().isEmpty())
+        path += '.' + defaultSuffix();
+    // The toolkit takes quotation marks for those around several names.
+    if (!text.contains('"') && !IsTooLong(path)) {
         QFileDialog::accept();
         return;
     }
-    typed_ = directory().absoluteFilePath(text);
-    if (!defaultSuffix().isEmpty() && QFileInfo(typed_).suffix().isEmpty())
-        typed_ += '.' + defaultSuffix();
+    typed_ = path;
     // The toolkit's own answer is what is passed over.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QDialog::accept();

@@ -1,5 +1,7 @@
 #include "windows/file_names.h"
 
+#include <QSysInfo>
+
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -22,6 +24,13 @@ std::pair<QString, std::size_t> FirstCharacter(std::string_view bytes)
         if (text.toUtf8() == piece) return {std::move(text), length};
     }
     return {};
+}
+
+/// Some programs name the machine whose file they hand over.
+bool IsThisMachine(const QString& host)
+{
+    return host.isEmpty() || host == "localhost" ||
+           host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace
@@ -58,7 +67,7 @@ std::string FileBytes(const QString& name)
 
 QString LocalFile(const QUrl& url)
 {
-    if (!url.isLocalFile() || !url.host().isEmpty()) return url.toLocalFile();
+    if (!url.isLocalFile() || !IsThisMachine(url.host())) return url.toLocalFile();
     const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
     return FileName(QByteArray::fromPercentEncoding(encoded).toStdString());
 }

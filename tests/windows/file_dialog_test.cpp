@@ -50,6 +50,21 @@ TEST_F(RealFileDialog, LetsANameBeTypedThatDoesNotExist)
     EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), Path("no.bmp"));
 }
 
+// No file can have such a name: the program has its own message for it.
+TEST_F(RealFileDialog, LetsANameBeTypedThatIsAByteTooLong)
+{
+    for (const QString& name : {QString(252, 'a') + ".bmp", QString(126, QChar(0xE9)) + ".bmp"}) {
+        EXPECT_EQ(name.toUtf8().size(), 256);
+        Meanwhile([&](QFileDialog& dialog) { Type(dialog, name); });
+        EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), Path(name));
+        Meanwhile([&](QFileDialog& dialog) { Type(dialog, name); });
+        EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path(name));
+    }
+    // With the extension that it is given.
+    Meanwhile([](QFileDialog& dialog) { Type(dialog, QString(252, 'a')); });
+    EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path(QString(252, 'a') + ".bmp"));
+}
+
 TEST_F(RealFileDialog, TakesBlanksForNoName)
 {
     for (const QString& blanks : {QString(" "), QString("   ")}) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QSysInfo>
 
 namespace pixano::test {
 namespace {
@@ -58,6 +59,11 @@ TEST(FileNames, OfLocalUrls)
               "/tmp/due parole perch\xC3\xA9%.bmp");
     EXPECT_EQ(FileBytes(LocalFile(QUrl("file:///tmp/perch%E8%20%C3%A9.bmp"))),
               "/tmp/perch\xE8 \xC3\xA9.bmp");
+    EXPECT_EQ(LocalFile(QUrl("file://localhost/tmp/a.bmp")), "/tmp/a.bmp");
+    EXPECT_EQ(LocalFile(QUrl("file://" + QSysInfo::machineHostName() + "/tmp/a.bmp")),
+              "/tmp/a.bmp");
+    // Another machine's file is not this one's of the same path.
+    EXPECT_EQ(LocalFile(QUrl("file://altrove/tmp/a.bmp")), "//altrove/tmp/a.bmp");
     EXPECT_EQ(LocalFile(QUrl("https://example.org/a.bmp")), "");
     EXPECT_EQ(LocalFile(QUrl()), "");
 }
