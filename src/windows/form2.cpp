@@ -27,8 +27,8 @@ void PictureBox::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);
     QPainter painter(this);
-    const QRect shown = contentsRect() & event->rect();
-    painter.drawImage(shown.topLeft(), ImageOf(surface_), shown.translated(-Border, -Border));
+    const QRect part = event->rect();
+    painter.drawImage(part.topLeft(), ImageOf(surface_), part.translated(-Border, -Border));
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* /*event*/)

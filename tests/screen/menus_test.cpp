@@ -15,8 +15,13 @@ TEST_F(MenusAtHand, OpenAtTheirKeysFromEveryWindow)
              {std::pair("alt+f", "File"), {"alt+e", "Effetti"}, {"F10", "File"}}) {
             Activate(*window);
             Do(QString("key ") + keys);
+            EXPECT_TRUE(ComesToHold([this] { return session.form1.isActiveWindow(); }));
+            QElapsedTimer sinceTheFocus;
+            sinceTheFocus.start();
             EXPECT_TRUE(ComesToHold([&, name = menu] { return IsOpen(name); }))
                 << keys << " in " << window->objectName().toStdString();
+            // At once, and not when the patience with the window manager is at its end.
+            EXPECT_LT(sinceTheFocus.elapsed(), 500);
             const auto* const open = session.form1.findChild<QMenu*>(menu);
             EXPECT_TRUE(
                 ComesToHold([&] { return open->activeAction() == open->actions().front(); }));

@@ -34,6 +34,23 @@ TEST_F(Canvas, PaintsEveryPixelInItsColourInsideTheBorder)
     EXPECT_EQ(window.Picture1().size(), QSize(7, 6));
 }
 
+// A part of a few pixels is what scrolling uncovers.
+TEST_F(Canvas, PaintsEachPartAsTheWhole)
+{
+    PictureBox& box = window.Picture1();
+    const QImage whole = box.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const auto expectPart = [&](const QRect& part) {
+        QImage painted(box.size(), QImage::Format_RGB32);
+        painted.fill(Qt::magenta);
+        box.render(&painted, part.topLeft(), part);
+        EXPECT_EQ(painted.copy(part), whole.copy(part)) << part.x() << "," << part.y();
+    };
+    for (int x = 0; x < box.width(); ++x)
+        expectPart(QRect(x, 0, 1, box.height()));
+    for (int y = 0; y < box.height(); ++y)
+        expectPart(QRect(0, y, box.width(), 1));
+}
+
 TEST_F(Canvas, LiesInASunkenBorder)
 {
     EXPECT_EQ(window.Picture1().frameShape(), QFrame::WinPanel);
