@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QScreen>
+#include <QStyleHints>
 #include <QTimer>
 #include <QWindow>
 
@@ -60,7 +62,25 @@ bool Manners::eventFilter(QObject* watched, QEvent* event)
         const auto& key = *static_cast<QKeyEvent*>(event);
         if (key.isAutoRepeat() && ActsOnceOnly(key, *watched)) return true;
     }
+    const bool pressed = event->type() == QEvent::MouseButtonPress;
+    if ((pressed || event->type() == QEvent::MouseButtonDblClick) && watched->isWindowType() &&
+        IsLeftOver(*static_cast<QWindow*>(watched), *static_cast<QMouseEvent*>(event)))
+        return true;
     return QObject::eventFilter(watched, event);
+}
+
+bool Manners::IsLeftOver(QWindow& window, const QMouseEvent& press)
+{
+    // The toolkit tells of a double click after the press itself.
+    if (press.type() == QEvent::MouseButtonDblClick) return last_.leftOver;
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    const QPoint place = press.globalPosition().toPoint();
+    const bool gone = last_.window == nullptr || !last_.window->isVisible();
+    const bool soon =
+        press.timestamp() - last_.time < static_cast<quint64>(hints.mouseDoubleClickInterval());
+    const bool near = (place - last_.place).manhattanLength() <= hints.mouseDoubleClickDistance();
+    last_ = {&window, press.timestamp(), place, gone && soon && near};
+    return last_.leftOver;
 }
 
 }  // namespace pixano

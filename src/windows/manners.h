@@ -1,7 +1,11 @@
 // What holds for every window of the program, whichever it is. Knows no window by name.
 #pragma once
 
-#include <QObject>
+#include <QPoint>
+#include <QPointer>
+#include <QWindow>
+
+class QMouseEvent;
 
 namespace pixano {
 
@@ -13,6 +17,8 @@ namespace pixano {
 /// - The return key does once what it does, however long it is held down: what it starts may take
 ///   seconds, and would be started again for every time that the key has repeated meanwhile.
 /// - So does a letter in a menu: the one that has opened it would choose an entry of it.
+/// - A double click is one click where the first has closed the window: the second would fall on
+///   what lies behind, and start that.
 class Manners : public QObject {
     Q_OBJECT
 
@@ -21,6 +27,19 @@ class Manners : public QObject {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    /// Whether the press belongs to the one before, which has closed its window.
+    bool IsLeftOver(QWindow& window, const QMouseEvent& press);
+
+    /// The last press of a button of the mouse.
+    struct Press {
+        QPointer<QWindow> window;
+        quint64 time = 0;  ///< in milliseconds
+        QPoint place;
+        bool leftOver = false;
+    };
+    Press last_;
 };
 
 }  // namespace pixano

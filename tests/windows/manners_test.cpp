@@ -1,8 +1,10 @@
 // What holds for every window of the program.
 #include "support/program.h"
+#include "windows/manners.h"
 
 #include <QDialog>
 #include <QMenu>
+#include <QStyleHints>
 
 namespace pixano::test {
 namespace {
@@ -57,6 +59,73 @@ TEST_F(HeldKey, AnswersNoQuestionThatComesMeanwhile)
     EXPECT_TRUE(question.isVisible());
     Send(question, Qt::Key_Return, false);
     EXPECT_FALSE(question.isVisible());
+}
+
+/// Presses of the mouse on one window after another.
+class SecondPress : public testing::Test {
+  protected:
+    /// Counts the presses that reach it.
+    class Window : public QWindow {
+      public:
+        int presses = 0;
+
+      protected:
+        void mousePressEvent(QMouseEvent* /*event*/) override { ++presses; }
+        void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { ++presses; }
+    };
+
+    static void Send(QWindow& window, QEvent::Type type, QPointF place, quint64 time)
+    {
+        QMouseEvent event(type, place, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        event.setTimestamp(time);
+        QApplication::sendEvent(&window, &event);
+    }
+    /// How many of the second click's two presses reach the window behind.
+    int Reach(bool closes, QPointF secondPlace, quint64 later)
+    {
+        constexpr quint64 Begin = 5000;
+        behind.presses = 0;
+        behind.show();
+        front.show();
+        Send(front, QEvent::MouseButtonPress, {100, 100}, Begin);
+        if (closes) front.close();
+        Send(behind, QEvent::MouseButtonPress, secondPlace, Begin + later);
+        Send(behind, QEvent::MouseButtonDblClick, secondPlace, Begin + later);
+        return behind.presses;
+    }
+
+    const quint64 interval =
+        static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    const Manners manners;
+    Window behind;
+    Window front;
+};
+
+TEST_F(SecondPress, ReachesNothingWhereTheFirstHasClosedItsWindow)
+{
+    EXPECT_EQ(Reach(true, {100, 100}, 80), 0);
+    EXPECT_EQ(Reach(true, {103, 102}, interval - 1), 0);
+    // A third one does.
+    Send(behind, QEvent::MouseButtonPress, {100, 100}, 5000 + interval);
+    EXPECT_EQ(behind.presses, 1);
+}
+
+TEST_F(SecondPress, ReachesTheWindowWhereItIsAClickOfItsOwn)
+{
+    EXPECT_EQ(Reach(false, {100, 100}, 80), 2) << "both windows are there";
+    EXPECT_EQ(Reach(true, {103, 103}, 80), 2) << "elsewhere";
+    EXPECT_EQ(Reach(true, {100, 100}, interval), 2) << "later";
+}
+
+TEST_F(SecondPress, ReachesNothingWhereTheFirstWindowWasDeleted)
+{
+    auto other = std::make_unique<Window>();
+    other->show();
+    Send(*other, QEvent::MouseButtonPress, {100, 100}, 5000);
+    other.reset();
+    behind.show();
+    Send(behind, QEvent::MouseButtonPress, {100, 100}, 5080);
+    EXPECT_EQ(behind.presses, 0);
 }
 
 TEST_F(Program, BringsWhatAsksAboveTheScreenDownOntoIt)
