@@ -1,5 +1,6 @@
 // The preview's image, as it is and stretched.
 #include "support/letters.h"
+#include "support/paint_count.h"
 #include "windows/form9.h"
 
 #include <QApplication>
@@ -157,6 +158,16 @@ TEST_F(Preview, GoesSidewaysWithTheShiftKey)
         EXPECT_LT(window_.horizontalScrollBar()->value(), 100) << "not by a whole page";
         EXPECT_EQ(window_.verticalScrollBar()->value(), 0);
     }
+}
+
+TEST_F(Preview, PaintsAnotherPictureOfTheSameSize)
+{
+    image_.SetPicture(Drawn({"a"}));
+    window_.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+    const PaintCount paints(image_);
+    image_.SetPicture(Drawn({"b"}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
 }
 
 TEST_F(Preview, HoldsItsOwnCopy)
