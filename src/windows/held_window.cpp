@@ -25,7 +25,6 @@ HeldWindow::HeldWindow(QWidget* inside)
     setWidget(inside);
     setFrameShape(QFrame::NoFrame);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    setMinimumSize(1, 1);
     setFocusPolicy(Qt::StrongFocus);
     // A window manager would take the focus from whatever a command ends with.
     setAttribute(Qt::WA_ShowWithoutActivating);

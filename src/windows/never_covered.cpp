@@ -1,7 +1,6 @@
 #include "windows/never_covered.h"
 
 #include "windows/free_screen.h"
-#include "windows/window_operation.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -47,22 +46,18 @@ NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> la
 
 void NeverCovered::RaiseCovered() const
 {
-    QWidget* used = QApplication::activeWindow();
-    // What was raised just now may have the focus for a moment.
-    if (used != nullptr)
-        if (QWidget* const keeper = FocusKeeperOf(*used)) used = keeper;
     for (QWidget* const window : small_) {
         if (!IsOnScreen(*window)) continue;
         const QRect whole = InsideOnScreen(*window);
         QRegion seen = whole;
-        for (const QWidget* const larger : large_)
-            if (IsOnScreen(*larger) && stacking_.IsAbove(*larger, *window))
-                seen -= larger->frameGeometry();
+        const QWidget* highest = nullptr;
+        for (const QWidget* const larger : large_) {
+            if (!IsOnScreen(*larger) || !stacking_.IsAbove(*larger, *window)) continue;
+            seen -= larger->frameGeometry();
+            if (highest == nullptr || stacking_.IsAbove(*larger, *highest)) highest = larger;
+        }
         if (2 * AreaOf(seen) >= AreaOf(whole)) continue;
-        Stacking::Raise(*window);
-        // One of the large ones, though, would come to the front with the focus once more.
-        if (used != window && std::ranges::find(small_, used) != small_.end())
-            KeepFocus(*used, *window);
+        Stacking::PutAbove(*window, *highest);
         // What waits for an answer stays above them all.
         if (QWidget* const waiting = QApplication::activeModalWidget()) Stacking::Raise(*waiting);
     }

@@ -79,6 +79,28 @@ void Stacking::Raise(QWidget& window)
     if (xcb_connection_t* const display = Display(); display != nullptr) xcb_flush(display);
 }
 
+void Stacking::PutAbove(QWidget& window, const QWidget& other)
+{
+    xcb_connection_t* const display = Display();
+    if (display == nullptr) {
+        window.raise();
+        return;
+    }
+    // The window manager has put both into frames: it alone can do it, and is asked as clients are
+    // to ask for it.
+    xcb_configure_request_event_t wish{};
+    wish.response_type = XCB_CONFIGURE_REQUEST;
+    wish.parent = Root(display);
+    wish.window = static_cast<xcb_window_t>(window.winId());
+    wish.sibling = static_cast<xcb_window_t>(other.winId());
+    wish.stack_mode = XCB_STACK_MODE_ABOVE;
+    wish.value_mask = XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE;
+    xcb_send_event(display, 0, wish.parent,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&wish));
+    xcb_flush(display);
+}
+
 bool Stacking::nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr* /*result*/)
 {
     constexpr unsigned SentByAClient = 0x80;

@@ -24,6 +24,10 @@ class Stacking : public QObject, private QAbstractNativeEventFilter {
     /// Raises the window at once: what a timer raises would wait for the next event of the display.
     static void Raise(QWidget& window);
 
+    /// Puts the window just above the other one. The focus stays where it is, though some window
+    /// managers give it to whatever raises itself.
+    static void PutAbove(QWidget& window, const QWidget& other);
+
   signals:
     /// Windows were raised or lowered, and the window manager has come to rest. One that will not
     /// have another order tells the same whenever it is asked: that comes a few times only.

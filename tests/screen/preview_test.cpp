@@ -54,6 +54,27 @@ std::pair<double, double> InkOfLines(const QImage& image, int row)
     return ink;
 }
 
+// Where it was pulled half out of sight, a command that leaves its size alone leaves it there too.
+TEST_F(SeenPreview, StaysWhereItWasMovedWhileItsSizeStays)
+{
+    OpenSized(300, 200);
+    Apply("Specchio");
+    const QRect frame = Preview().frameGeometry();
+    const int bottom = Preview().screen()->availableGeometry().bottom();
+    Do(QString("mousemove %1 %2 mousedown 1 sleep 0.1 mousemove_relative 0 20 sleep 0.1 "
+               "mousemove %1 %3 sleep 0.1 mouseup 1")
+           .arg(frame.center().x())
+           .arg((frame.y() + Preview().geometry().y()) / 2)
+           .arg(bottom - 100));
+    EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().frameGeometry().bottom() > bottom; }));
+    const QPoint moved = Preview().pos();
+    Apply("Capovolgi");
+    EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().pos() == moved; }));
+    // A new size brings it back into sight.
+    Button("Command1").click();
+    EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().pos().y() < moved.y(); }));
+}
+
 TEST_F(SeenPreview, HasLinesOfOneThicknessAtEveryFactor)
 {
     // A black line in every twentieth column; each keeps its share of grey.
