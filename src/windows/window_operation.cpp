@@ -19,7 +19,6 @@ class Keeper : public QObject {
         QTimer::singleShot(Settling, this, &QObject::deleteLater);
         connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Keeper::TakeBack);
     }
-    QWidget& Window() const { return window_; }
 
   private:
     void TakeBack(const QWindow* now)
@@ -32,29 +31,23 @@ class Keeper : public QObject {
     QWidget& window_;
 };
 
-Keeper* KeeperFrom(const QWidget& raised)
+/// Whatever took the focus back from that window does so no more.
+void LetGo(const QWidget& raised)
 {
-    return static_cast<Keeper*>(
-        raised.findChild<QObject*>(Keeper::Name, Qt::FindDirectChildrenOnly));
+    delete raised.findChild<QObject*>(Keeper::Name, Qt::FindDirectChildrenOnly);
 }
 
 }  // namespace
 
 void KeepFocus(QWidget& window, QWidget& raised)
 {
-    delete KeeperFrom(raised);
+    LetGo(raised);
     new Keeper(window, raised);
-}
-
-QWidget* FocusKeeperOf(const QWidget& raised)
-{
-    const Keeper* const keeper = KeeperFrom(raised);
-    return keeper == nullptr ? nullptr : &keeper->Window();
 }
 
 void BringForward(QWidget& window)
 {
-    delete KeeperFrom(window);
+    LetGo(window);
     ShowInFront(window);
     window.activateWindow();
 }

@@ -26,9 +26,6 @@ inline void ShowInFront(QWidget& window)
 /// moment later, this one takes it back, unless the other one was brought forward meanwhile.
 void KeepFocus(QWidget& window, QWidget& raised);
 
-/// The window that keeps the focus from one that was raised just now; null when that is over.
-QWidget* FocusKeeperOf(const QWidget& raised);
-
 /// Shows the window, brings it to the front and gives it the focus.
 void BringForward(QWidget& window);
 

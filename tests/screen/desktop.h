@@ -3,7 +3,6 @@
 #pragma once
 
 #include "support/program.h"
-#include "windows/window_operation.h"
 
 #include <QProcess>
 #include <QScreen>
@@ -128,8 +127,7 @@ class Desktop : public Program {
         };
         EXPECT_TRUE(Stays([&] {
             return shown(session.form2) && shown(session.form9) && shown(session.form10) &&
-                   FocusKeeperOf(session.form9) == nullptr &&
-                   FocusKeeperOf(session.form10) == nullptr;
+                   !FocusIsKeptFrom(session.form9) && !FocusIsKeptFrom(session.form10);
         }));
     }
 

@@ -17,10 +17,8 @@ class MenusAtHand : public Desktop {
     /// No window takes the focus back any more.
     void LetTheFocusSettle() const
     {
-        EXPECT_TRUE(Stays([this] {
-            return FocusKeeperOf(session.form2) == nullptr &&
-                   FocusKeeperOf(session.form9) == nullptr;
-        }));
+        EXPECT_TRUE(Stays(
+            [this] { return !FocusIsKeptFrom(session.form2) && !FocusIsKeptFrom(session.form9); }));
     }
     void CloseMenus()
     {

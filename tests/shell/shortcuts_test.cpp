@@ -1,6 +1,5 @@
 // The keys that stand for menu entries: only while the entry can be used.
 #include "support/program.h"
-#include "windows/window_operation.h"
 
 namespace pixano::test {
 namespace {
@@ -10,7 +9,7 @@ class Shortcuts : public Program {
     /// Goes to the window, once an opening lets it have the focus.
     static void GoTo(QWidget& window)
     {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return FocusKeeperOf(window) == nullptr; }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !FocusIsKeptFrom(window); }));
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }

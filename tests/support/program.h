@@ -5,6 +5,12 @@
 
 namespace pixano::test {
 
+/// Whether another window takes the focus back from that one, as it does for a moment.
+inline bool FocusIsKeptFrom(const QWidget& raised)
+{
+    return raised.findChild<QObject*>("FocusKeeper") != nullptr;
+}
+
 /// Which of the history commands can be used.
 struct History {
     bool annulla;
