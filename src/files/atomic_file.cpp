@@ -84,7 +84,7 @@ AtomicFile::AtomicFile(const std::string& path, Purpose purpose, Temporary tempo
     if (name_.empty()) throw Refusal("manca il nome del file");
     folder_ = Descriptor(Uninterrupted(
         [&] { return open(place.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
-    if (!folder_ && errno == ENOENT) throw FolderRefusal(errno, place.folder);
+    if (!folder_ && errno == ENOENT) RefuseIn(place.folder, errno);
     if (!folder_) throw Refusal(errno);
     struct stat old = {};
     const bool exists = fstatat(folder_.Number(), name_.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
@@ -139,7 +139,7 @@ void AtomicFile::MakeNamed(unsigned permissions)
     } while (!file_ && (errno == EEXIST || errno == EINTR));
     if (file_) return;
     temporary_.clear();
-    throw FolderRefusal(errno, ShownAs(folder_));
+    RefuseIn(ShownAs(folder_), errno);
 }
 
 void AtomicFile::KeepOwnerAndPermissions()

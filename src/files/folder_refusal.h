@@ -5,8 +5,8 @@
 
 namespace pixano {
 
-/// What to say when a file could not be made in `folder`, or not be taken out of it. `error` is the
-/// errno of that.
-Refusal FolderRefusal(int error, const std::string& folder);
+/// Throws the Refusal of a file that could not be made in `folder`, or not be taken out of it.
+/// `error` is the errno of that.
+[[noreturn]] void RefuseIn(const std::string& folder, int error);
 
 }  // namespace pixano

@@ -23,9 +23,9 @@ std::string FolderOf(const std::string& path)
 Descriptor CreateOwnFile(const std::string& path)
 {
     constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    if (unlink(path.c_str()) != 0 && errno != ENOENT) throw FolderRefusal(errno, FolderOf(path));
+    if (unlink(path.c_str()) != 0 && errno != ENOENT) RefuseIn(FolderOf(path), errno);
     Descriptor file(Uninterrupted([&] { return open(path.c_str(), Flags, 0600); }));
-    if (!file) throw FolderRefusal(errno, FolderOf(path));
+    if (!file) RefuseIn(FolderOf(path), errno);
     return file;
 }
 
@@ -38,7 +38,8 @@ void ReplaceOwnFile(const std::string& path, const std::string& text)
 void DeleteOwnFile(const std::string& path)
 {
     if (unlink(path.c_str()) == 0) return;
-    throw errno == ENOENT ? Refusal(errno) : FolderRefusal(errno, FolderOf(path));
+    if (errno == ENOENT) throw Refusal(errno);
+    RefuseIn(FolderOf(path), errno);
 }
 
 std::string ReadOwnFile(const std::string& path, Links links)

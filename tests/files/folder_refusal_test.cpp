@@ -98,10 +98,14 @@ TEST(FolderRefusal, SaysThatTheFolderTakesNoFiles)
 
 TEST(FolderRefusal, SaysWhateverElseTheSystemSays)
 {
-    const TemporaryFolder folder;
-    EXPECT_STREQ(FolderRefusal(ENOSPC, folder.Path()).what(), "non c'è più spazio sul disco");
-    EXPECT_EQ(FolderRefusal(ENOSPC, folder.Path()).Kind(), FaultKind::DiskFull);
-    EXPECT_STREQ(FolderRefusal(EPERM, folder.Path()).what(), "manca il permesso");
+    for (const int error : {ENOSPC, EPERM, EROFS}) {
+        try {
+            RefuseIn("/", error);
+        } catch (const Refusal& refusal) {
+            EXPECT_EQ(refusal.what(), SystemReason(error));
+            EXPECT_EQ(refusal.Kind(), Refusal(error).Kind());
+        }
+    }
 }
 
 }  // namespace
