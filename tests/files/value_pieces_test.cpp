@@ -107,6 +107,28 @@ TEST_F(ValueText, OfALongTextEndsAtAnyLineEnd)
     }
 }
 
+// What looks like a plain line to a quick glance.
+TEST_F(ValueText, OfALongTextIsNoNumberWithASignBesideTheDigits)
+{
+    for (std::size_t length = 1; length <= 8; ++length)
+        for (std::size_t place = 0; place < length; ++place)
+            for (const char sign : {'/', ':', '?', '@', '\xB5'}) {
+                std::string number(length, '5');
+                number[place] = sign;
+                EXPECT_EQ(Read(number + "\r\n" + ManyLines(100)), Numbers()) << number;
+                EXPECT_EQ(fault, FaultKind::TypeMismatch) << number;
+            }
+}
+
+TEST_F(ValueText, OfALongTextMayEndAtHalfALineEnd)
+{
+    for (std::size_t length = 1; length <= 8; ++length) {
+        const Numbers values = ReadAll(std::string(length, '5') + "\r7\r\n" + ManyLines(100));
+        EXPECT_EQ(values.size(), 102U);
+        EXPECT_EQ(values.at(1), 7) << length;
+    }
+}
+
 TEST_F(ValueText, CutShortInALongTextGivesWhatIsThere)
 {
     Numbers expected = ManyValues();
