@@ -102,6 +102,8 @@ constexpr Way Ways[] = {
     {"JpegNew", "figura.jpg", SavePicture, Nothing},
     {"WorkingFileReplaced", "temp.bml", WriteWorkingBitmap, File},
     {"WorkingFileNew", "temp.bml", WriteWorkingBitmap, Nothing},
+    {"RescueReplaced", "lavoro.bmp", SavePrivateBitmap, File},
+    {"RescueNew", "lavoro.bmp", SavePrivateBitmap, Nothing},
     {"BitmapReplacedOnAnOldFileSystem", "figura.bmp", SaveBitmap, File, true},
     {"BitmapNewOnAnOldFileSystem", "figura.bmp", SaveBitmap, Nothing, true},
     {"WorkingFileOnAnOldFileSystem", "temp.bml", WriteWorkingBitmap, File, true}};

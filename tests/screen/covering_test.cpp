@@ -77,6 +77,20 @@ TEST_F(SmallWindows, ComeAlongWhereLessThanHalfOfThemWouldBeSeen)
                 StaysOnceAnswered([this] { return IsAbove(session.form9, session.form1); }));
 }
 
+TEST_F(SmallWindows, ComeAlongWhereALargeOneIsDrawnOverThem)
+{
+    OpenSized(300, 200);
+    const QRect menus = session.form1.frameGeometry();
+    Activate(session.form2);
+    EXPECT_TRUE(StaysOnceAnswered([this] { return IsActive(session.form2); }));
+    Do(QString("windowsize --sync %1 %2 %3")
+           .arg(Id(session.form2))
+           .arg(menus.right() + 50)
+           .arg(menus.bottom() + 50));
+    EXPECT_TRUE(ComesToHold([&] { return session.form2.frameGeometry().contains(menus); }));
+    ExpectNotCoveredBy(session.form2);
+}
+
 TEST_F(SmallWindows, AreNotCoveredWhereTheyHangOffTheScreenEither)
 {
     OpenSized(300, 200);
