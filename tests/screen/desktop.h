@@ -5,6 +5,7 @@
 #include "support/program.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -108,6 +109,16 @@ class Desktop : public Program {
         const bool done =
             QTest::qWaitFor([&] { return IsIconic(window) && window.isMinimized(); }, Answer);
         EXPECT_TRUE(done || !window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    }
+    /// Where the inside of the window begins, as the display tells it: the toolkit may not know yet
+    /// what frame it was given.
+    static QPoint OriginOf(const QWidget& window)
+    {
+        static const QRegularExpression corner(
+            R"(Absolute upper-left X:\s*(-?\d+)\s*Absolute upper-left Y:\s*(-?\d+))");
+        const auto found = corner.match(Output("xwininfo", {"-id", Id(window)}));
+        EXPECT_TRUE(found.hasMatch());
+        return {found.captured(1).toInt(), found.captured(2).toInt()};
     }
     static void ClickAt(QPoint place)
     {
