@@ -22,6 +22,7 @@ build() {
     local project=$1 preset=$2
     local only=()
     (($# == 2)) || only=(--target "${@:3}")
-    cmake --build "$project/build/$preset" --parallel "$(nproc)" "${only[@]}" >&2 ||
+    # One more than there are processors: now and then one waits for the disk.
+    cmake --build "$project/build/$preset" --parallel "$(($(nproc) + 1))" "${only[@]}" >&2 ||
         fail 'La compilazione non è riuscita: il motivo è qui sopra.'
 }

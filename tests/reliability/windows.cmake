@@ -76,5 +76,5 @@ add_dependencies(foreign_folder_test pixano-visitor decoy)
 # The display dies under the program; clicks and keys while it works, on a real one.
 add_test(NAME display_dies
          COMMAND ${RELIABILITY}/display_dies.sh $<TARGET_FILE:pixano> $<TARGET_FILE:pixano-batch>)
-set_tests_properties(display_dies PROPERTIES LABELS "reliability;e2e" TIMEOUT 180
+set_tests_properties(display_dies PROPERTIES LABELS "reliability;e2e" TIMEOUT 180 COST 100
                                              ENVIRONMENT "EVIDENCE=${CMAKE_BINARY_DIR}/e2e")
