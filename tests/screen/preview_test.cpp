@@ -61,12 +61,16 @@ TEST_F(SeenPreview, StaysWhereItWasMovedWhileItsSizeStays)
     Apply("Specchio");
     const QRect frame = Preview().frameGeometry();
     const int bottom = Preview().screen()->availableGeometry().bottom();
-    Do(QString("mousemove %1 %2 mousedown 1 sleep 0.1 mousemove_relative 0 20 sleep 0.1 "
-               "mousemove %1 %3 sleep 0.1 mouseup 1")
-           .arg(frame.center().x())
-           .arg((frame.y() + Preview().geometry().y()) / 2)
-           .arg(bottom - 100));
-    EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().frameGeometry().bottom() > bottom; }));
+    const auto isHalfSeen = [&] { return Preview().frameGeometry().bottom() > bottom; };
+    Do(QString("windowmove %1 %2 %3").arg(Id(Preview())).arg(frame.x()).arg(bottom - 100));
+    // Some window managers move it so by the mouse alone.
+    if (!StaysOnceAnswered(isHalfSeen))
+        Do(QString("mousemove %1 %2 mousedown 1 sleep 0.1 mousemove_relative 0 -20 sleep 0.1 "
+                   "mousemove %1 %3 sleep 0.1 mouseup 1")
+               .arg(Preview().frameGeometry().center().x())
+               .arg((Preview().frameGeometry().y() + Preview().geometry().y()) / 2)
+               .arg(bottom - 100));
+    EXPECT_TRUE(StaysOnceAnswered(isHalfSeen));
     const QPoint moved = Preview().pos();
     Apply("Capovolgi");
     EXPECT_TRUE(StaysOnceAnswered([&] { return Preview().pos() == moved; }));
