@@ -67,8 +67,9 @@ void NeverCovered::LeaveTitleFree(const QWidget& maximised)
 {
     QRect title = maximised.screen()->availableGeometry();
     title.setHeight(FrameOf(maximised).top());
+    // A minimised one too: it comes back where it was.
     for (QWidget* const window : small_)
-        if (IsOnScreen(*window) && window->frameGeometry().intersects(title)) {
+        if (window->isVisible() && window->frameGeometry().intersects(title)) {
             const QPoint below(window->x(), title.bottom() + 1);
             givenWay_.push_back({window, window->pos(), below});
             window->move(below);

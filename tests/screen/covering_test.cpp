@@ -121,6 +121,18 @@ TEST_F(SmallWindows, LeaveTheButtonsOfAMaximisedWindowInReach)
     }
 }
 
+TEST_F(SmallWindows, LeaveTheButtonsInReachWhenTheyComeBackLater)
+{
+    OpenSized(300, 200);
+    session.form10.move(session.form10.x(), 0);
+    EXPECT_TRUE(Stays([this] { return session.form10.y() == 0; }));
+    Minimise(session.form10);
+    Maximise(session.form2);
+    Do("windowmap " + Id(session.form10));
+    EXPECT_TRUE(StaysOnceAnswered([this] { return !session.form10.isMinimized(); }));
+    EXPECT_GE(session.form10.y(), session.form2.geometry().top());
+}
+
 TEST_F(SmallWindows, StayWhereTheUserMovesThemMeanwhile)
 {
     OpenSized(300, 200);
