@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QRegion>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 #include <numeric>
@@ -39,8 +40,9 @@ int AreaOf(const QRegion& region)
 NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> large)
     : small_(std::move(small)), large_(std::move(large))
 {
-    for (QWidget* const window : large_)
-        window->installEventFilter(this);
+    for (const std::vector<QWidget*>& windows : {small_, large_})
+        for (QWidget* const window : windows)
+            window->installEventFilter(this);
     connect(&stacking_, &Stacking::Changed, this, &NeverCovered::RaiseCovered);
 }
 
@@ -67,9 +69,8 @@ void NeverCovered::LeaveTitleFree(const QWidget& maximised)
 {
     QRect title = maximised.screen()->availableGeometry();
     title.setHeight(FrameOf(maximised).top());
-    // A minimised one too: it comes back where it was.
     for (QWidget* const window : small_)
-        if (window->isVisible() && window->frameGeometry().intersects(title)) {
+        if (IsOnScreen(*window) && window->frameGeometry().intersects(title)) {
             const QPoint below(window->x(), title.bottom() + 1);
             givenWay_.push_back({window, window->pos(), below});
             window->move(below);
@@ -82,16 +83,24 @@ void NeverCovered::ReturnToPlaces()
         if (moved.window->pos() == moved.to) moved.window->move(moved.from);
 }
 
+void NeverCovered::LeaveTitlesFree()
+{
+    for (const QWidget* const window : large_)
+        if (IsOnScreen(*window) && window->isMaximized()) LeaveTitleFree(*window);
+}
+
 bool NeverCovered::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Move || event->type() == QEvent::Resize) RaiseCovered();
-    if (event->type() == QEvent::WindowStateChange) {
-        const auto& window = static_cast<const QWidget&>(*watched);
-        if (window.isMaximized())
-            LeaveTitleFree(window);
-        else if (std::ranges::none_of(large_, &QWidget::isMaximized))
-            ReturnToPlaces();
+    constexpr int UntilFramed = 200;
+    const bool large = std::ranges::find(large_, watched) != large_.end();
+    const QEvent::Type type = event->type();
+    if (large && (type == QEvent::Move || type == QEvent::Resize)) RaiseCovered();
+    if (large && type == QEvent::WindowStateChange) {
+        LeaveTitlesFree();
+        if (std::ranges::none_of(large_, &QWidget::isMaximized)) ReturnToPlaces();
     }
+    if (!large && type == QEvent::Show)
+        QTimer::singleShot(UntilFramed, this, &NeverCovered::LeaveTitlesFree);
     return QObject::eventFilter(watched, event);
 }
 

@@ -24,9 +24,10 @@ class NeverCovered : public QObject {
 
   private:
     void RaiseCovered() const;
-    /// Moves the small windows off the title of a window that has just been maximised: they lie
-    /// above it, and it has its buttons there.
+    /// Moves the small windows off the title of a maximised window: they lie above it, and it has
+    /// its buttons there.
     void LeaveTitleFree(const QWidget& maximised);
+    void LeaveTitlesFree();
     void ReturnToPlaces();
 
     struct GivenWay {

@@ -1,6 +1,8 @@
 // Which windows bring small ones forward. What lies above what is for a real display to show.
 #include "windows/never_covered.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 namespace pixano::test {
@@ -61,6 +63,30 @@ TEST_F(OverASmallOne, NothingComesForwardWhileEitherIsHidden)
         window->show();
     }
     EXPECT_EQ(TimesRaised(), 1);
+}
+
+/// Whether the small one lies elsewhere once it has come back to the upper edge of the screen.
+bool GivesWay(QWidget& small)
+{
+    constexpr int Patience = 400;
+    small.hide();
+    small.move(100, 0);
+    small.show();
+    return QTest::qWaitFor([&] { return small.y() > 0; }, Patience);
+}
+
+TEST_F(OverASmallOne, ItGivesWayToTheTitleOfAMaximisedOne)
+{
+    large.showMaximized();
+    EXPECT_TRUE(GivesWay(small));
+}
+
+TEST_F(OverASmallOne, ItGivesWayToNothingElse)
+{
+    EXPECT_FALSE(GivesWay(small));
+    large.showMaximized();
+    large.hide();
+    EXPECT_FALSE(GivesWay(small));
 }
 
 }  // namespace
