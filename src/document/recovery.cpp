@@ -118,6 +118,8 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
     if (IsPasted(note.picture)) s.doc.pasted.append(note.picture);
     Estrai(s, note.picture, std::move(picture));
     s.doc.Effetto = s.doc.NomeCorto;  // no note tells the last effect; "Ripristina" names one
+    // How many is not noted; after the next one "Annulla" has to lead back here.
+    s.doc.NumEffetti = s.doc.NumEffettiSalvato = 1;
     s.doc.Modificato = 1;
     s.form1.Enable(control::Salva, true);
     s.form1.Enable(control::Orig, true);

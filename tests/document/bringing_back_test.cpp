@@ -1,7 +1,6 @@
 // What the start after a run that was killed says, word for word, and how the work comes back.
-#include "document/recovery.h"
+#include "document/after_a_kill.h"
 #include "document/recovery_note.h"
-#include "support/program.h"
 
 namespace pixano::test {
 namespace {
@@ -9,27 +8,8 @@ namespace {
 const QString Unexpectedly =
     "L'ultima volta Pixano si è chiuso in modo imprevisto con modifiche non salvate";
 
-/// "abc" became "cba", then "~ab"; then the run was killed.
-class BringingBack : public UnstartedProgram {
+class BringingBack : public AfterAKill {
   protected:
-    /// Leaves the folders as after these commands: a, b the effects, u "Annulla".
-    void Kill(const char* commands = "ab")
-    {
-        StartedDesk killed;
-        killed.Open(Made("a.bmp", Drawn({"abc"})));
-        for (const char* command = commands; *command != '\0'; ++command)
-            *command == 'u' ? killed.ClickEntry(entry::Undo)
-                            : killed.Apply(*command == 'a' ? "Specchio" : "Capovolgi");
-    }
-    /// The next start.
-    void Offer()
-    {
-        OnceStartUpPictureIsUp(ClickAway);
-        RunCommand(session, "Avvio", Fatal::All, [&] {
-            Form_Load(session);
-            OfferRecovery(session);
-        });
-    }
     /// The only thing told: that the work is lost, and why; the rest says what is kept.
     QString ToldAfter(const QString& beginning)
     {

@@ -1,0 +1,28 @@
+// The history of work that a run before this one had begun.
+#include "document/after_a_kill.h"
+
+namespace pixano::test {
+namespace {
+
+using WorkBroughtBack = AfterAKill;
+
+// "Originale" would lead past it, to the picture in its file.
+TEST_F(WorkBroughtBack, IsReachedAgainAfterTheNextEffect)
+{
+    Kill();
+    dialogs.answers = {true};
+    Offer();
+    Apply("Specchio");
+    EXPECT_EQ(CanvasLetters(), (Letters{"ba~"}));
+    EXPECT_EQ(MenuHistory(), (History{true, true, false}));
+    EXPECT_EQ(PaletteHistory(), (History{true, true, false}));
+    ClickEntry(entry::Undo);
+    EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
+    ClickEntry(entry::Redo);
+    EXPECT_EQ(CanvasLetters(), (Letters{"ba~"}));
+    ClickEntry(entry::Orig);
+    EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
+}
+
+}  // namespace
+}  // namespace pixano::test
