@@ -22,8 +22,7 @@ namespace {
 /// it, with an inside of that size.
 QPoint BesidePalette(const QWidget& preview, QSize inside)
 {
-    // The same before its frame is known and after.
-    const QSize whole = inside.grownBy(FrameOf(preview) | UsualFrame);
+    const QSize whole = inside.grownBy(RoomForFrame(preview));
     const QRect free = preview.screen()->availableGeometry();
     const QPoint corner(free.left() + free.width() - PaletteStrip(), free.bottom());
     const QPoint place = corner - QPoint(whole.width(), whole.height());
@@ -35,7 +34,7 @@ void PlacePreview(HeldWindow& preview, QSize inside, const HeldWindow& canvas)
 {
     preview.setScreen(canvas.screen());
     preview.alwaysBelow = false;
-    const QPoint titleEnd = canvas.pos() + QPoint(canvas.width(), FrameOf(canvas).top());
+    const QPoint titleEnd = canvas.pos() + QPoint(canvas.width(), RoomForFrame(canvas).top());
     QPoint place = BesidePalette(preview, preview.Held(inside));
     preview.alwaysBelow = place.x() < titleEnd.x() && place.y() < titleEnd.y();
     if (preview.alwaysBelow) place.setY(titleEnd.y());

@@ -33,6 +33,11 @@ QMargins FrameOf(const QWidget& window)
     return frame;
 }
 
+QMargins RoomForFrame(const QWidget& window)
+{
+    return FrameOf(window) | UsualFrame;
+}
+
 QSize LargestInside(const QWidget& window)
 {
     const QSize available = window.screen()->availableGeometry().size();

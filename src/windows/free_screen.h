@@ -15,6 +15,10 @@ inline constexpr QMargins UsualFrame(5, 30, 5, 5);
 /// are, or as common ones.
 QMargins FrameOf(const QWidget& window);
 
+/// What to leave for the window's frame: the same before it is there and after, and in no case less
+/// than common ones take.
+QMargins RoomForFrame(const QWidget& window);
+
 /// The largest inside that the window can have on its screen.
 QSize LargestInside(const QWidget& window);
 

@@ -64,7 +64,7 @@ QRect HeldWindow::Room(bool held) const
     QRect room = screen()->availableGeometry();
     if (held) room.setRight(room.right() - leftFree);
     if (titleFree != nullptr && titleFree->isVisible() && (held || alwaysBelow))
-        room.setTop(std::max(room.top(), titleFree->y() + FrameOf(*titleFree).top()));
+        room.setTop(std::max(room.top(), titleFree->y() + RoomForFrame(*titleFree).top()));
     return room;
 }
 
@@ -77,9 +77,8 @@ QRect HeldWindow::RoomToGrow() const
 
 QSize HeldWindow::Held(QSize size) const
 {
-    const QMargins frame = HasFixedSize() ? FrameOf(*this) | UsualFrame : FrameOf(*this);
-    const auto most = [&](bool held) {
-        return Room(held).size().shrunkBy(frame).expandedTo({1, 1});
+    const auto most = [this](bool held) {
+        return Room(held).size().shrunkBy(RoomForFrame(*this)).expandedTo({1, 1});
     };
     const bool fits = size.boundedTo(most(false)) == size;
     return fits ? size : size.boundedTo(most(true));
@@ -142,13 +141,6 @@ void HeldWindow::showEvent(QShowEvent* event)
     windowHandle()->setMinimumSize(size());
     windowHandle()->setMaximumSize(size());
     QTimer::singleShot(Appearing, this, &HeldWindow::LetItsSizeChange);
-}
-
-/// Its frame is a thin one as long as it has.
-bool HeldWindow::HasFixedSize() const
-{
-    return windowHandle() != nullptr &&
-           windowHandle()->minimumSize() == windowHandle()->maximumSize();
 }
 
 void HeldWindow::LetItsSizeChange()

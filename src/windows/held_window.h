@@ -60,7 +60,6 @@ class HeldWindow : public QScrollArea {
     bool IsSettling() const;
     /// Asks the window manager for place and size once more.
     void AskAgain();
-    bool HasFixedSize() const;
     void LetItsSizeChange();
     /// Scroll bars would take their place from a window that is exactly as large as it should be.
     void ShowBarsOnlyWhenHeld();
