@@ -72,7 +72,7 @@ void MenuKeys::OpenAwaited()
     opening_.stop();
     QAction* const entry = std::exchange(awaited_, nullptr);
     if (entry == nullptr) return;
-    if (!bar_.hasFocus()) GiveTheBarTheKeys();
+    GiveTheBarTheKeys();
     bar_.setActiveAction(entry);
     entry->menu()->setActiveAction(entry->menu()->actions().front());
 }
@@ -97,6 +97,9 @@ void MenuKeys::Leave()
 /// closed no letter opens one.
 void MenuKeys::GiveTheBarTheKeys()
 {
+    // It may hold that it has them since an entry of its own was chosen, and would give them up.
+    bar_.setFocus();
+    window_.setFocus();
     // The modifiers are those from before: the toolkit turns over that of the key itself.
     QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);

@@ -1,5 +1,6 @@
 // How the menus are left: by their keys, by those of a command, by another window.
 #include "screen/menus.h"
+#include "support/modal_steps.h"
 
 namespace pixano::test {
 namespace {
@@ -69,6 +70,39 @@ TEST_F(MenusLeft, CloseWhenTheKeysOfACommandArePressed)
         EXPECT_TRUE(ComesToHold([&, wanted = state] { return MenuHistory() == wanted; }));
         EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
         EXPECT_FALSE(session.form1.menuBar()->hasFocus());
+    }
+}
+
+TEST_F(MenusLeft, ObeyTheKeysAgainAfterAnEntryOfTheBarWasChosen)
+{
+    OpenSized(300, 200);
+    const auto ways =
+        std::to_array<std::pair<QWidget*, const char*>>({{&session.form1, "alt+i"},
+                                                         {&session.form1, "alt Left Left Return"},
+                                                         {&session.form1, "alt+f Escape alt+i"},
+                                                         {&session.form9, "alt+i"},
+                                                         {&session.form9, "F10 Left Left Return"}});
+    for (const auto& [window, keys] : ways) {
+        SCOPED_TRACE(window->objectName().toStdString() + ' ' + keys);
+        LetTheFocusSettle();
+        Activate(*window);
+        // The second time the last entry of the bar, whatever was left over from the first.
+        for (const QString& path : {QString(keys), QString("F10 Left Return")}) {
+            QString opened;
+            const ModalSteps steps({[&](QDialog& dialog) {
+                opened = dialog.objectName();
+                EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); }));
+                Do("key Escape");
+                EXPECT_TRUE(ComesToHold([&] { return !dialog.isVisible(); }));
+            }});
+            for (const QString& key : path.split(' ')) {
+                Do("key " + key);
+                QTest::qWait(50);
+            }
+            EXPECT_TRUE(ComesToHold([&] { return !opened.isEmpty(); })) << path.toStdString();
+            EXPECT_EQ(opened, path == keys ? "Form5" : "Form7");
+            EXPECT_TRUE(Stays([this] { return !session.form1.menuBar()->hasFocus(); }));
+        }
     }
 }
 
