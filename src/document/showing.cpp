@@ -75,9 +75,8 @@ bool Mostra(Session& s)
 void ChangeZoom(Session& s, double change)
 {
     s.doc.Zoom += change;
-    // What is scaled is seen.
-    s.form9.raise();
-    KeepFocus(s.form10, s.form9);
+    // What is scaled is seen; the menus above it stay at hand.
+    s.atHand.BringAbove(s.form9, s.form2);
     Mostra(s);
 }
 

@@ -46,6 +46,11 @@ NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> la
     connect(&stacking_, &Stacking::Changed, this, &NeverCovered::RaiseCovered);
 }
 
+void NeverCovered::BringAbove(QWidget& window, const QWidget& other) const
+{
+    if (stacking_.IsAbove(other, window)) Stacking::PutAbove(window, other);
+}
+
 void NeverCovered::RaiseCovered() const
 {
     for (QWidget* const window : small_) {

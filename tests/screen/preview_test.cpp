@@ -139,6 +139,24 @@ TEST_F(SeenPreview, ComesToTheFrontWhenItIsScaled)
     }
 }
 
+TEST_F(SeenPreview, LeavesTheMenusAboveItWhenItIsScaled)
+{
+    OpenSized(300, 200);
+    // It covers fewer than half of them, and yet most of what is written there.
+    session.form9.move(session.form1.pos() - QPoint(100, 50));
+    Cover(session.form9, session.form1);
+    for (const char* const magnifier : {"Command2", "Command1"}) {
+        Button(magnifier).click();
+        EXPECT_TRUE(StaysOnceAnswered([this] { return IsAbove(session.form1, session.form9); }))
+            << magnifier;
+    }
+    // Who has put it above them sees it all.
+    Cover(session.form1, session.form9);
+    if (RaisesWithFocus()) return;
+    Button("Command2").click();
+    EXPECT_TRUE(StaysOnceAnswered([this] { return IsAbove(session.form9, session.form1); }));
+}
+
 TEST_F(SeenPreview, FollowsWheelAndHand)
 {
     OpenSized(400, 400);
