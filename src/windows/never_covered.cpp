@@ -46,9 +46,9 @@ NeverCovered::NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> la
     connect(&stacking_, &Stacking::Changed, this, &NeverCovered::RaiseCovered);
 }
 
-void NeverCovered::BringAbove(QWidget& window, const QWidget& other) const
+void NeverCovered::BringAbove(QWidget& lower, const QWidget& upper) const
 {
-    if (stacking_.IsAbove(other, window)) Stacking::PutAbove(window, other);
+    if (stacking_.IsAbove(upper, lower)) Stacking::PutAbove(lower, upper);
 }
 
 void NeverCovered::RaiseCovered() const

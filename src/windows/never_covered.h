@@ -19,9 +19,9 @@ class NeverCovered : public QObject {
   public:
     NeverCovered(std::vector<QWidget*> small, std::vector<QWidget*> large);
 
-    /// Puts one of the larger windows just above another one that it lies below. The focus stays
-    /// where it is.
-    void BringAbove(QWidget& window, const QWidget& other) const;
+    /// Puts one of the larger windows just above another one, if it lies below that. The focus
+    /// stays where it is.
+    void BringAbove(QWidget& lower, const QWidget& upper) const;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -24,5 +24,22 @@ TEST_F(WorkBroughtBack, IsReachedAgainAfterTheNextEffect)
     EXPECT_EQ(CanvasLetters(), (Letters{"abc"}));
 }
 
+// What is painted keeps its odd sides all the same.
+TEST_F(WorkBroughtBack, MayHaveSidesThatAnEffectHasMadeEven)
+{
+    Surface before;
+    {
+        StartedDesk killed;
+        killed.Open(Made("a.bmp", Drawn({"abc", "def", "ghi"})));
+        killed.Apply("Multifoto");
+        EXPECT_EQ(killed.session.work.Larg, 2);
+        before = killed.session.work.Picture1;
+    }
+    dialogs.answers = {true};
+    Offer();
+    EXPECT_TRUE(dialogs.told.empty());
+    EXPECT_EQ(session.work.Picture1, before);
+}
+
 }  // namespace
 }  // namespace pixano::test

@@ -67,6 +67,21 @@ TEST_F(TwoMonitors, HoldLargePicturesAndTheGrowingPreviewOnTheRight)
     EXPECT_TRUE(Stays([this] { return right_.contains(session.form9.frameGeometry()); }));
 }
 
+TEST_F(TwoMonitors, KeepThePreviewOnTheOtherOneWhereTheUserHasMovedItThere)
+{
+    OpenSized(300, 200);
+    const QRect left = QApplication::screens().front()->geometry();
+    const auto there = [&] { return left.contains(session.form9.frameGeometry()); };
+    EXPECT_TRUE(ComesToHold([&] {
+        session.form9.move(left.center());
+        return Stays(there);
+    }));
+    for (int i = 0; i < 3; ++i) {
+        Button("Command1").click();
+        EXPECT_TRUE(StaysOnceAnswered(there)) << i;
+    }
+}
+
 TEST_F(TwoMonitors, HoldTheWindowsThatInformInTheirMiddle)
 {
     for (const int index : {entry::Inf, entry::Inter}) {
