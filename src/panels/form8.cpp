@@ -43,11 +43,12 @@ Form8::Form8(Subtraction& result) : result_(result), combo1_(new QComboBox)
     grid->addWidget(label, 0, 0);
     grid->addWidget(combo1_, 0, 1);
     grid->addLayout(buttons, 1, 0, 1, 2);
+    const auto takeText = [this] { result_.TestoSottrazione = combo1_->currentText(); };
+    connect(combo1_, &QComboBox::editTextChanged, this, takeText);
     // Told too when an entry is chosen that is shown already.
-    connect(combo1_, &QComboBox::editTextChanged, this,
-            [this](const QString& text) { result_.TestoSottrazione = text; });
-    connect(ok, &QPushButton::clicked, this, [this] {
-        result_.TestoSottrazione = combo1_->currentText();
+    connect(combo1_, &QComboBox::activated, this, takeText);
+    connect(ok, &QPushButton::clicked, this, [this, takeText] {
+        takeText();
         result_.ValoreSottrazione = result_.TestoSottrazione;
         accept();
     });

@@ -67,7 +67,10 @@ TEST_F(Typing, AColourSubtractionThatIsShownAlreadyCanBeChosen)
     Form8 window(result);
     ShowFocused(window);
     EXPECT_EQ(result.TestoSottrazione, "");
-    Type("alt+Down Return");
+    const QWidget& list = *window.findChild<QComboBox*>("Combo1")->view();
+    Type("alt+Down");
+    EXPECT_TRUE(ComesToHold([&] { return list.isVisible(); }));
+    Type("Return");
     EXPECT_TRUE(ComesToHold([&] { return result.TestoSottrazione == "20"; }));
 }
 
