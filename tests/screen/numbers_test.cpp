@@ -3,6 +3,7 @@
 #include "panels/form8.h"
 #include "screen/desktop.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
