@@ -140,19 +140,6 @@ TEST_F(PaletteWindow, CutsOffNoCaption)
             << button->objectName().toStdString();
 }
 
-TEST_F(PaletteWindow, FitsLowScreens)
-{
-    palette.ArrangeFor(768);
-    const int roomy = palette.height();
-    EXPECT_LT(roomy, 768 / 1.25);
-    palette.ArrangeFor(768 / 2);
-    EXPECT_LT(palette.height(), 768 / 2);
-    for (const QPushButton* const button : palette.findChildren<QPushButton*>())
-        EXPECT_LT(button->iconSize().height(), button->height() - 2) << "picture and border";
-    palette.ArrangeFor(1080);
-    EXPECT_EQ(palette.height(), roomy);
-}
-
 TEST_F(PaletteWindow, MakesRoomForLargeLetters)
 {
     const QFont usual = QApplication::font();
