@@ -42,8 +42,6 @@ QLabel* TypedNumber()
     typed->setAccessibleName("Numero scritto");
     typed->setTextFormat(Qt::PlainText);
     typed->setAlignment(Qt::AlignCenter);
-    // Its place stays: another size would make the window read the strengths again.
-    typed->setFixedHeight(typed->fontMetrics().height());
     return typed;
 }
 
