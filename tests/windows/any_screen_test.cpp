@@ -10,7 +10,9 @@
 #include "windows/on_screen.h"
 #include "windows/surface_image.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollBar>
 
 namespace pixano::test {
@@ -154,6 +156,20 @@ TEST_F(AnyScreen, HoldsTheWindowsThatOnlyAskOrInform)
         window->show();
         ExpectOnScreen(*window);
     }
+}
+
+TEST_F(AnyScreen, HoldsTheDescriptionAndItsButtonInVeryLargeLetters)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(3 * QFontInfo(usual).pointSizeF());
+    QApplication::setFont(large);
+    Form7 description;
+    description.show();
+    ExpectOnScreen(description);
+    EXPECT_TRUE(
+        description.rect().contains(description.findChild<QPushButton*>("Command1")->geometry()));
+    QApplication::setFont(usual);
 }
 
 }  // namespace
