@@ -14,7 +14,7 @@ test_packages=(
     xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     clang-format clang-tidy cppcheck
-    bash-completion parallel
+    bash-completion parallel fonts-urw-base35
     mutter qt6-wayland weston
 )
 # What handing pictures to several machines needs to be tried; Debian starts a server of its own with it.

@@ -42,6 +42,9 @@ QLabel* TypedNumber()
     typed->setAccessibleName("Numero scritto");
     typed->setTextFormat(Qt::PlainText);
     typed->setAlignment(Qt::AlignCenter);
+    // In many fonts an empty label has another height than a number; and another size of the window
+    // would make it read the strengths again.
+    typed->setFixedHeight(typed->fontMetrics().height());
     return typed;
 }
 

@@ -30,20 +30,6 @@ TEST_F(SliderWindow, MovesWithArrowsAndPageKeys)
     ExpectMovedTo(0);
 }
 
-TEST_F(SliderWindow, KeepsItsSizeAndTheSliderItsPlaceWhileDigitsAreTyped)
-{
-    // Another size would make it read the strengths again.
-    const QSize size = window.size();
-    const QRect place = Slider().geometry();
-    for (const char* const digit : {"7", "5", "0", "0"}) {
-        Type(digit);
-        QTest::qWait(0);
-        EXPECT_EQ(window.size(), size) << digit;
-        EXPECT_EQ(Slider().geometry(), place) << digit;
-    }
-    ExpectMovedTo(7500);
-}
-
 TEST_F(SliderWindow, MovesWithTheWheel)
 {
     Turn(120);
