@@ -35,12 +35,15 @@ std::vector<Endless> EndlessStreams()
             {"runs", Bmp(runs, {1, 2, 3, 0}, {}), {0, 2, 0, 0}}};
 }
 
+/// As much as a pipe can hold: a thousand million bytes go through in few steps.
+constexpr int AtOnce = 1 << 20;
+
 /// Writes the stream until nobody reads it any more.
 void WriteWithoutEnd(int pipe, const Endless& stream)
 {
     std::signal(SIGPIPE, SIG_IGN);
     Bytes much;
-    while (much.Size() < 1 << 16)
+    while (much.Size() < AtOnce)
         much.Add(stream.more);
     Bytes next = stream.head;
     while (write(pipe, next.Vector().data(), next.Size()) == static_cast<ssize_t>(next.Size()))
@@ -54,6 +57,7 @@ TEST(LargeStream, IsRefusedInTheEnd)
         SCOPED_TRACE(stream.name);
         int ends[2];
         ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+        fcntl(ends[1], F_SETPIPE_SZ, AtOnce);
         const pid_t writer = fork();
         if (writer == 0) {
             close(ends[0]);

@@ -1,6 +1,5 @@
 // Every effect on pictures of every small size and of the sizes where something ends: it paints or
 // tells a run-time error, and the snapshot taken before gives back every byte.
-#include "batch/chain.h"
 #include "effects/catalogue.h"
 #include "pictures/byte_files.h"
 #include "reliability/fuzz_time.h"
@@ -11,13 +10,8 @@
 
 #include <string>
 
-namespace pixano::batch {
+namespace pixano::test {
 namespace {
-
-using pixano::test::IsLong;
-using pixano::test::Size;
-using pixano::test::TemporaryFolder;
-using pixano::test::Varied;
 
 class EffectsOnSizes : public testing::Test {
   protected:
@@ -27,33 +21,32 @@ class EffectsOnSizes : public testing::Test {
     {
         const Surface original = Varied(size.width, size.height);
         WriteWorkingBitmap(original, snapshot);
-        Work w(MemoryStore(), progress, Timer(7));
+        EffectRun run(original, 7);
         Surface picture = original;
         for (const Effect& effect : Effects) {
-            const bool done = Run(w, effect, picture);
+            const bool done = Run(run, effect, picture);
             SCOPED_TRACE(std::string(effect.name) + " on " + std::to_string(size.width) + "x" +
                          std::to_string(size.height) + (done ? "" : ", which failed"));
-            EXPECT_EQ(done, pixano::test::Paints(effect.name, size).value_or(done));
-            EXPECT_EQ(w.Picture1.Width(), size.width);
-            EXPECT_EQ(w.Picture1.Height(), size.height);
+            EXPECT_EQ(done, Paints(effect.name, size).value_or(done));
+            EXPECT_EQ(run.work.Picture1.Width(), size.width);
+            EXPECT_EQ(run.work.Picture1.Height(), size.height);
             if (HasFailure()) return;
-            if (done) picture = w.Picture1;
+            if (done) picture = run.work.Picture1;
         }
         EXPECT_TRUE(ReadWorkingPicture(snapshot).picture == original);
     }
 
     /// False when the effect ended in a run-time error. Everything else that is thrown fails the
     /// test.
-    bool Run(Work& w, const Effect& effect, const Surface& picture)
+    bool Run(EffectRun& run, const Effect& effect, const Surface& picture)
     {
-        constexpr Strengths Middle{0, 2500, 2500, 2500, 2500, 2500};
         ++runs;
-        PutOnCanvas(w, picture);
+        run.Load(picture);
+        run.work.Valori = {0, 2500, 2500, 2500, 2500, 2500};
         try {
-            const Step step{&effect, std::nullopt};
-            RunChain(w, std::span(&step, 1), Middle, "", progress);
+            run.Apply(effect);
             return true;
-        } catch (const EffectFailed&) {
+        } catch (const Fault&) {
             ++faults;
             return false;
         }
@@ -63,7 +56,6 @@ class EffectsOnSizes : public testing::Test {
 
     TemporaryFolder folder;
     const std::string snapshot = folder / "temp.bml";
-    ChainProgress progress;
     int runs = 0;
     int faults = 0;
 };
@@ -109,4 +101,4 @@ INSTANTIATE_TEST_SUITE_P(Limit, EffectsOnLargeSizes, testing::Values(1499, 1500,
                          testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace pixano::batch
+}  // namespace pixano::test
