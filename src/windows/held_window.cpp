@@ -45,18 +45,15 @@ void HeldWindow::SetInside(QSize size)
     if (isVisible() && this->size() != before) {
         const QPoint place = PlaceWithin(RoomToGrow(), *this, home_);
         if (place != pos()) move(place);
+        placed_ = place;
     }
-    placed_ = pos();
-    if (!IsSettling()) {
-        sincePlaced_.invalidate();
+    if (IsSettling()) {
+        // What the window manager makes of a window that has only just appeared comes yet.
+        WaitForAnswer();
         return;
     }
-    // What the window manager makes of a window that has only just appeared comes yet. One that
-    // puts its frame around it later shifts it without a word.
-    sincePlaced_.start();
-    QTimer::singleShot(AnswerTime, this, [this] {
-        if (StandsElsewhere()) AskAgain();
-    });
+    placed_ = pos();
+    sincePlaced_.invalidate();
 }
 
 QRect HeldWindow::Room(bool held) const
@@ -89,8 +86,17 @@ void HeldWindow::PlaceAt(QPoint place)
     placed_ = place;
     home_ = place;
     moved_ = false;
-    sincePlaced_.start();
+    WaitForAnswer();
     move(place);
+}
+
+/// A window manager that puts its frame around the window later shifts it without a word.
+void HeldWindow::WaitForAnswer()
+{
+    sincePlaced_.start();
+    QTimer::singleShot(AnswerTime, this, [this] {
+        if (StandsElsewhere()) AskAgain();
+    });
 }
 
 bool HeldWindow::IsSettling() const

@@ -58,6 +58,8 @@ class HeldWindow : public QScrollArea {
     bool IsHeld() const { return width() < stated_.width() || height() < stated_.height(); }
     /// Whether the window manager may not have answered yet.
     bool IsSettling() const;
+    /// Asks once more when it does not stand there by then.
+    void WaitForAnswer();
     /// Asks the window manager for place and size once more.
     void AskAgain();
     void LetItsSizeChange();
