@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <new>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -42,6 +43,20 @@ class Fault : public std::exception {
     FaultKind kind_;
     std::string text_;
 };
+
+/// Does the step; the run-time error that it ended in, that of memory too short for it too.
+template <typename Step>
+std::optional<Fault> ErrorOf(Step step)
+{
+    try {
+        step();
+        return std::nullopt;
+    } catch (const Fault& fault) {
+        return fault;
+    } catch (const std::bad_alloc&) {
+        return Fault(FaultKind::OutOfMemory);
+    }
+}
 
 /// The first run-time error of several steps that are all to be done.
 class FirstFault {

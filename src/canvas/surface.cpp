@@ -5,9 +5,9 @@
 namespace pixano {
 
 Surface::Surface(int width, int height, Colour colour)
-    : width_(static_cast<std::size_t>(width)),
-      height_(static_cast<std::size_t>(height)),
-      pixels_(width_ * height_, WordOf(colour))
+    : pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), WordOf(colour)),
+      width_(static_cast<std::size_t>(width)),
+      height_(static_cast<std::size_t>(height))
 {
 }
 

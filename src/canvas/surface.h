@@ -114,10 +114,11 @@ class Surface {
         return static_cast<int>(std::lrint(coordinate - Little));
     }
 
+    /// First: an assignment for which memory is too short changes nothing then.
+    std::vector<std::uint32_t, LargePages<std::uint32_t>> pixels_;
     /// Wider than a pixel, so that no painted pixel can be mistaken for a side that changed.
     std::size_t width_ = 0;
     std::size_t height_ = 0;
-    std::vector<std::uint32_t, LargePages<std::uint32_t>> pixels_;
 };
 
 }  // namespace pixano

@@ -145,22 +145,21 @@ void Orig_Click(Session& s)
     d.Annullato = 0;
     d.NumEffettiSalvato = d.NumEffetti;
     d.NumEffetti = 0;
-    bool read = false;
     std::optional<Surface> before;
-    try {
+    const std::optional<Fault> unread = ErrorOf([&] {
         Surface picture = ReadOriginal(s);
         before = Show(s, picture);
         Estrai(s, d.FileAperto,
                d.Modificato == 0 ? std::optional(std::move(picture)) : std::nullopt);
-        read = true;
-    } catch (const Fault& fault) {
-        s.remarks += QString::fromUtf8(fault.what());
+    });
+    if (unread) {
+        s.remarks += QString::fromUtf8(unread->what());
         Estrai(s, d.FileAperto, std::nullopt);
     }
     FirstFault passedOver;
     if (!kept) passedOver.Try([&] { KeepForRedo(s, std::move(before)); });
     s.form2.setWindowTitle(PictureCaption(s));
-    if (read) d.Modificato = 0;
+    if (!unread) d.Modificato = 0;
 }
 
 }  // namespace pixano

@@ -68,6 +68,8 @@ void ShowCanvas(Session& s)
 
 void Estrai(Session& s, const QString& Percorso, std::optional<Surface> picture)
 {
+    // Where memory is too short for it, nothing has changed yet.
+    if (picture) s.form9.Image1().SetPicture(*picture);
     const qsizetype nameLength =
         Percorso.size() - 1 - std::max(Percorso.lastIndexOf('/'), Percorso.lastIndexOf('\\'));
     s.doc.NomeCorto = Percorso.right(nameLength);
@@ -100,7 +102,6 @@ void Carica(Session& s, Surface picture)
     s.form2.PlaceAt(s.form1.screen()->availableGeometry().topLeft());
     ShowCanvas(s);
     s.form9.Image1().SetStretch(false);
-    s.form9.Image1().SetPicture(w.Picture1);
     const QSize inside(Pixels(w.Larg * PreviewWidth), Pixels(w.Alt * PreviewHeight));
     if (s.form9.isVisible() && s.form9.MovedByUser())
         s.form9.SetInside(inside);

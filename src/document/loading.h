@@ -8,10 +8,12 @@
 namespace pixano {
 
 /// Splits the path into `NomeCorto` and `Cartella` and switches "&Salva File" off. With a
-/// `picture`, the one that was read from that path, it is put into canvas and preview first.
+/// `picture`, the one that was read from that path, it is put into canvas and preview first. Throws
+/// std::bad_alloc before anything has changed.
 void Estrai(Session& s, const QString& Percorso, std::optional<Surface> picture);
 
-/// Puts a picture that was just read into canvas and preview, and sizes both windows.
+/// Puts a picture that was just read, and that the preview holds, onto the canvas, and sizes both
+/// windows.
 void Carica(Session& s, Surface picture);
 
 }  // namespace pixano

@@ -34,6 +34,7 @@ class ModifiedUntilOpened {
 
 void OpenAsNew(Session& s, const QString& name, Surface picture)
 {
+    Estrai(s, name, std::move(picture));
     s.doc.NomeFile = name;
     s.doc.FileAperto = name;
     s.doc.NomeSalvato.clear();
@@ -42,7 +43,6 @@ void OpenAsNew(Session& s, const QString& name, Surface picture)
     s.doc.open = true;
     s.doc.canvasCopy.clear();
     s.redoPicture.reset();
-    Estrai(s, name, std::move(picture));
 }
 
 /// What follows once the name is known. Throws PictureError.
@@ -70,8 +70,8 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
         s.doc.NomeFile = name;
         return;
     }
-    modified.Forget();
     OpenAsNew(s, name, std::move(read->picture));
+    modified.Forget();
 }
 
 /// Whether the user can still think better of it after the question about the changes.
@@ -99,11 +99,8 @@ void Open(Session& s, Named named, AskName askName)
     const QString remembered = ReadRememberedPath(d).value_or(d.NomeFile);
     const std::optional<QString> name = askName(remembered);
     if (!name) return;
-    try {
-        OpenChosen(s, *name, answer, modified);
-    } catch (const Fault& error) {
-        s.remarks += QString::fromUtf8(error.what());
-    }
+    const std::optional<Fault> unopened = ErrorOf([&] { OpenChosen(s, *name, answer, modified); });
+    if (unopened) s.remarks += QString::fromUtf8(unopened->what());
     GoToFolder(d.CartellaAvvio);
 }
 

@@ -24,6 +24,7 @@ Surface SurfaceOf(const QImage& image)
 {
     constexpr QRgb Shown = 0xFF000000 | static_cast<QRgb>(Background);
     QImage opaque(image.size(), QImage::Format_RGBX8888);
+    if (opaque.isNull()) throw std::bad_alloc();
     opaque.fill(Shown);
     QPainter(&opaque).drawImage(0, 0, image);
     Surface surface(opaque.width(), opaque.height());

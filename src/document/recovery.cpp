@@ -97,6 +97,11 @@ void TellLost(Session& s, const QString& ofPicture, const QString& reason, const
             ofPicture + ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(copy));
 }
 
+QString OfPicture(const RecoveryNote& note)
+{
+    return " all'immagine «" + QFileInfo(note.picture).fileName() + "»";
+}
+
 /// The noted copy, if it is the picture that was noted. Throws PictureError.
 Surface ReadNotedPicture(const RecoveryNote& note)
 {
@@ -111,12 +116,17 @@ Surface ReadNotedPicture(const RecoveryNote& note)
 
 void BringBack(Session& s, const RecoveryNote& note, Surface picture)
 {
+    const std::optional<Fault> unopened =
+        ErrorOf([&] { Estrai(s, note.picture, std::move(picture)); });
+    if (unopened) {
+        TellLost(s, OfPicture(note), QString::fromUtf8(unopened->what()), note.copy);
+        return;
+    }
     s.doc.NomeFile = note.picture;
     s.doc.FileAperto = note.picture;
     s.doc.open = true;
     s.doc.Zoom = 1;
     if (IsPasted(note.picture)) s.doc.pasted.append(note.picture);
-    Estrai(s, note.picture, std::move(picture));
     s.doc.Effetto = s.doc.NomeCorto;  // no note tells the last effect; "Ripristina" names one
     // How many is not noted; after the next one "Annulla" has to lead back here.
     s.doc.NumEffetti = s.doc.NumEffettiSalvato = 1;
@@ -139,19 +149,16 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
 
 void Offer(Session& s, const RecoveryNote& note)
 {
-    const QString ofPicture = " all'immagine «" + QFileInfo(note.picture).fileName() + "»";
     Surface picture;
-    try {
-        picture = ReadNotedPicture(note);
-    } catch (const PictureError& error) {
-        TellLost(s, ofPicture, QString::fromUtf8(error.what()), note.copy);
+    if (const std::optional<Fault> unread = ErrorOf([&] { picture = ReadNotedPicture(note); })) {
+        TellLost(s, OfPicture(note), QString::fromUtf8(unread->what()), note.copy);
         return;
     }
     const bool wanted =
         s.dialogs.Ask(BoxIcon::Exclamation, title::Notice,
                       "L'ultima volta Pixano si è chiuso in modo imprevisto con modifiche non "
                       "salvate" +
-                          ofPicture + ".\nVuoi recuperarle?");
+                          OfPicture(note) + ".\nVuoi recuperarle?");
     if (wanted)
         BringBack(s, note, std::move(picture));
     else

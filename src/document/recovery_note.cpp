@@ -42,8 +42,8 @@ std::optional<RecoveryNote> ReadRecoveryNote()
     try {
         const std::string text = ReadOwnFile(FileBytes(RecoveryNotePath()));
         lines = QByteArray::fromStdString(text).split('\n');
-    } catch (const Refusal&) {
-        return std::nullopt;
+    } catch (const std::exception&) {
+        return std::nullopt;  // it is refused, or memory is too short for it
     }
     // The last line end tells that the note is complete.
     constexpr qsizetype Lines = 5;

@@ -17,10 +17,10 @@ struct RecoveryNote {
 /// Where the note lies. Throws Fault FileAccess when there is no data folder.
 QString RecoveryNotePath();
 
-/// Whether there is something in the note's place. Throws Fault FileAccess.
+/// Whether there is something in the note's place.
 bool RecoveryNoteThere();
 
-/// The note; nothing when it is not there or not whole. Throws Fault FileAccess.
+/// The note; nothing when it is not there, not whole or not to be read.
 std::optional<RecoveryNote> ReadRecoveryNote();
 
 /// Replaces the note; when that fails the old one stays. Throws Fault FileAccess.

@@ -175,13 +175,14 @@ int RunAsOnlyInstance(Session& session, const Options& options)
 
 int RunOrTell(Dialogs& dialogs, const Options& options)
 {
-    try {
+    int status = 1;
+    const std::optional<Fault> fault = ErrorOf([&] {
         Session session(dialogs, ProgramControls());
-        return RunAsOnlyInstance(session, options);
-    } catch (const Fault& fault) {
-        dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault.what()) + '.');
-        return 1;
-    }
+        status = RunAsOnlyInstance(session, options);
+    });
+    if (fault)
+        dialogs.Tell(BoxIcon::Critical, title::Warning, QString::fromUtf8(fault->what()) + '.');
+    return status;
 }
 
 int StartProgram(int argc, char* argv[])

@@ -43,20 +43,16 @@ QString KeepUnsavedWork(const Session& s)
 /// Nobody goes back, forward or shows a preview any more: only what the next start offers stays.
 void RemoveNeedlessFiles(const Session& s)
 {
-    try {
-        const std::optional<RecoveryNote> note = ReadRecoveryNote();
-        // Where no note tells it, any of them may be all that is left of the work.
-        if (!note && (s.doc.Modificato == 1 || RecoveryNoteThere())) return;
-        QStringList names{file::Undo, file::Redo, file::SpareCopy};
-        if (s.doc.previewCopied) names += file::PreviewCopy;
-        for (const QString& name : names + s.doc.pasted) {
-            const QString path = NativePath(name);
-            const bool offered = note && (path == note->copy || path == note->picture);
-            const bool told = s.doc.Modificato == 1 && path == s.doc.canvasCopy;
-            if (!offered && !told) KillWorkingPicture(name);
-        }
-    } catch (const Fault&) {
-        return;  // the end was told, and is not told twice
+    const std::optional<RecoveryNote> note = ReadRecoveryNote();
+    // Where no note tells it, any of them may be all that is left of the work.
+    if (!note && (s.doc.Modificato == 1 || RecoveryNoteThere())) return;
+    QStringList names{file::Undo, file::Redo, file::SpareCopy};
+    if (s.doc.previewCopied) names += file::PreviewCopy;
+    for (const QString& name : names + s.doc.pasted) {
+        const QString path = NativePath(name);
+        const bool offered = note && (path == note->copy || path == note->picture);
+        const bool told = s.doc.Modificato == 1 && path == s.doc.canvasCopy;
+        if (!offered && !told) KillWorkingPicture(name);
     }
 }
 
@@ -109,7 +105,8 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
         return;
     }
     Tell(s, BoxIcon::Critical, sentence + '.' + KeepUnsavedWork(s) + "\n\nIl programma termina.");
-    RemoveNeedlessFiles(s);
+    // The end was told, and is not told twice.
+    ErrorOf([&] { RemoveNeedlessFiles(s); });
     EndProgram(s, 1);
 }
 
@@ -118,13 +115,7 @@ void EndByFault(Session& s, const QString& name, Fatal fatal, const Fault& fault
 void RunWithinCommand(Session& s, const QString& name, Fatal fatal,
                       const std::function<void()>& command)
 {
-    try {
-        command();
-    } catch (const Fault& fault) {
-        EndByFault(s, name, fatal, fault);
-    } catch (const std::bad_alloc&) {
-        EndByFault(s, name, fatal, Fault(FaultKind::OutOfMemory));
-    }
+    if (const std::optional<Fault> fault = ErrorOf(command)) EndByFault(s, name, fatal, *fault);
 }
 
 void RunCommand(Session& s, const QString& name, Fatal fatal, const std::function<void()>& command)

@@ -50,7 +50,7 @@ void ImageControl::Changed()
 void ImageControl::SetStretch(bool stretch)
 {
     stretch_ = stretch;
-    update();
+    Changed();
 }
 
 void ImageControl::paintEvent(QPaintEvent* event)

@@ -89,6 +89,19 @@ TEST(FirstFault, IsTheOneThatIsThrownWhenAllStepsAreDone)
     }
 }
 
+TEST(ErrorOf, IsTheOneThatAStepEndsIn)
+{
+    EXPECT_FALSE(ErrorOf([] {}));
+    const std::optional<Fault> full = ErrorOf([] { throw Fault(K::DiskFull, "Non c'è posto"); });
+    ASSERT_TRUE(full);
+    EXPECT_EQ(full->Kind(), K::DiskFull);
+    EXPECT_STREQ(full->what(), "Non c'è posto");
+    const std::optional<Fault> memory = ErrorOf([] { throw std::bad_alloc(); });
+    ASSERT_TRUE(memory);
+    EXPECT_EQ(memory->Kind(), K::OutOfMemory);
+    EXPECT_THROW(ErrorOf([] { throw 1; }), int);
+}
+
 TEST(FirstFault, MayBeThatThereIsNoMemory)
 {
     FirstFault first;

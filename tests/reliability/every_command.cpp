@@ -128,11 +128,14 @@ std::vector<GivenCommand> OpeningCommands()
         QApplication::clipboard()->setImage(image);
     };
     return {
-        {.name = "open", .give = opens, .scenes = {Scene::Opened}},
+        {.name = "open", .give = opens, .scenes = {Scene::Started, Scene::Opened}},
         {.name = "open, yes", .give = Answering(true, opens)},
         {.name = "open, no", .give = Answering(false, opens)},
         {.name = "drop, no", .give = Answering(false, drops)},
-        {.name = "paste", .give = pastes, .scenes = {Scene::Opened}, .before = copies},
+        {.name = "paste",
+         .give = pastes,
+         .scenes = {Scene::Started, Scene::Opened},
+         .before = copies},
         {.name = "paste, no", .give = Answering(false, pastes), .before = copies},
     };
 }

@@ -10,13 +10,12 @@
 namespace pixano::test {
 namespace {
 
-constexpr std::array DiskErrors{ENOSPC, EACCES, EIO, ENOENT, EMFILE};
-
 /// Which calls of a command fail, and how.
 struct Failure {
     long first;
     long last;
     int error;
+    unsigned only = Everything;
 };
 
 /// The command, given where the user has come; `failure` while it runs.
@@ -51,7 +50,7 @@ class Trial {
         BeginToFail({.first = failure.first,
                      .last = failure.last,
                      .error = failure.error,
-                     .only = Everything});
+                     .only = failure.only});
         command_.give(*desk_);
         const long calls = CountedCalls();
         EndFailing();
@@ -73,21 +72,30 @@ class Trial {
     Surface lastWhole_;
 };
 
-std::vector<Failure> EachInTurn(long calls)
+/// What runs short, how it is told, and one failure in how many is tried in the short form. Each
+/// command has its own part of them, so that together they try every place.
+struct Kind {
+    unsigned calls;
+    std::vector<int> errors;
+    long stride;
+};
+
+const Kind Disk{Everything, {ENOSPC, EACCES, EIO, ENOENT, EMFILE}, 127};
+const Kind Memory{Allocates, {ENOMEM}, 5};
+
+std::vector<Failure> EachInTurn(const Kind& kind, long calls)
 {
     std::vector<Failure> failures;
     for (long call = 1; call <= calls; ++call)
-        for (const int error : DiskErrors)
+        for (const int error : kind.errors)
             for (const long last : {call, LONG_MAX})
-                failures.push_back({call, last, error});
+                failures.push_back({call, last, error, kind.calls});
     return failures;
 }
 
-/// Each command has its own part in the short form, so that together they try every place.
-long Stride()
+bool IsLong()
 {
-    constexpr long Short = 127;
-    return qEnvironmentVariableIntValue("PIXANO_LONG") == 1 ? 1 : Short;
+    return qEnvironmentVariableIntValue("PIXANO_LONG") == 1;
 }
 
 class EveryFailure : public testing::TestWithParam<GivenCommand> {
@@ -95,29 +103,63 @@ class EveryFailure : public testing::TestWithParam<GivenCommand> {
     // Whatever waits, waits for ever: the signal ends the tests.
     void SetUp() override { alarm(1200); }
     void TearDown() override { alarm(0); }
+
+    static void Try(const Kind& kind)
+    {
+        long all = 0;
+        long tried = 0;
+        static long number = qEnvironmentVariableIntValue("PIXANO_SEED");
+        const GivenCommand& command = GetParam();
+        for (const Scene scene : command.scenes) {
+            const long calls = Trial(command, scene).Give({0, 0, EIO, kind.calls});
+            for (const Failure& failure : EachInTurn(kind, calls)) {
+                ++all;
+                if (!IsLong() && ++number % kind.stride != 0) continue;
+                ++tried;
+                SCOPED_TRACE("scene " + std::to_string(static_cast<int>(scene)) + ", call " +
+                             std::to_string(failure.first) + " of " + std::to_string(calls) +
+                             (failure.last == failure.first ? " alone" : " and all that follow") +
+                             ", error " + std::to_string(failure.error));
+                Trial(command, scene).Give(failure);
+            }
+        }
+        RecordProperty("all", std::to_string(all));
+        RecordProperty("tried", std::to_string(tried));
+    }
 };
 
-TEST_P(EveryFailure, LeavesTheDocumentTrueAndNothingLost)
+TEST_P(EveryFailure, OfFileWorkLeavesTheDocumentTrueAndNothingLost)
 {
-    long all = 0;
-    long tried = 0;
-    static long number = qEnvironmentVariableIntValue("PIXANO_SEED");
-    const GivenCommand& command = GetParam();
-    for (const Scene scene : command.scenes) {
-        const long calls = Trial(command, scene).Give({0, 0, EIO});
-        for (const Failure& failure : EachInTurn(calls)) {
-            ++all;
-            if (++number % Stride() != 0) continue;
-            ++tried;
-            SCOPED_TRACE("scene " + std::to_string(static_cast<int>(scene)) + ", call " +
-                         std::to_string(failure.first) + " of " + std::to_string(calls) +
-                         (failure.last == failure.first ? " alone" : " and all that follow") +
-                         ", error " + std::to_string(failure.error));
-            Trial(command, scene).Give(failure);
-        }
+    Try(Disk);
+}
+
+TEST_P(EveryFailure, OfMemoryLeavesTheDocumentTrueAndNothingLost)
+{
+    // Effects take theirs alike.
+    static int effects = 0;
+    const bool effect = GetParam().effect != nullptr;
+    if (IsLong() || !effect || ++effects % 10 == 0) Try(Memory);
+}
+
+class ShortMemory : public testing::Test {
+  protected:
+    /// What the step throws when there is none any more.
+    static std::optional<Fault> ErrorWithoutMemory(const std::function<void()>& step)
+    {
+        BeginToFail({.first = 1, .last = LONG_MAX, .only = Allocates});
+        std::optional<Fault> error = ErrorOf(step);
+        EndFailing();
+        return error;
     }
-    RecordProperty("all", std::to_string(all));
-    RecordProperty("tried", std::to_string(tried));
+};
+
+TEST_F(ShortMemory, LeavesAPictureWholeThatWasToBecomeALargerOne)
+{
+    const Surface small = Varied(40, 30);
+    const Surface large = Varied(80, 60);
+    Surface picture = small;
+    EXPECT_TRUE(ErrorWithoutMemory([&] { picture = large; }));
+    EXPECT_EQ(picture, small);
 }
 
 std::string NameOfCommand(const testing::TestParamInfo<GivenCommand>& info)

@@ -24,6 +24,7 @@ void Reach(Scene scene, Desk& desk)
     MakeFiles(desk);
     ConnectEvents(desk.session);
     desk.Start();
+    if (scene == Scene::Started) return;
     desk.Open(Folders::Path("a.bmp"));
     if (scene == Scene::Opened) return;
     desk.Apply("Specchio");

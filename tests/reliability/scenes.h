@@ -7,6 +7,7 @@ namespace pixano::test {
 
 /// How far the user has come when the command is given.
 enum class Scene {
+    Started,  ///< nothing is open
     Opened,   ///< a picture is open, as it was read
     Changed,  ///< it has two effects; nothing is saved
     Killed    ///< so it was when the last run was killed; the program is not started yet

@@ -97,6 +97,13 @@ void ExpectWindowsAgree(Desk& desk)
         Enabled(desk, entry::Redo, "SSCommand17");
     }
     EXPECT_EQ(desk.session.form10.cursor().shape(), Qt::ArrowCursor);
+    const Form1& menus = desk.session.form1;
+    for (int position = 0; const MenuEntry& entry : menus.Entries()) {
+        const QAction& control = menus.Control(position++);
+        if (entry.needs == Needs::Picture && control.objectName() != control::Salva) {
+            EXPECT_EQ(control.isEnabled(), desk.session.doc.open) << control.text().toStdString();
+        }
+    }
     const Form4& progress = desk.session.form4;
     if (progress.isVisible()) return;
     EXPECT_EQ(progress.Bar(), 0);
@@ -149,8 +156,9 @@ void ExpectTrueState(const GivenCommand& command, const Before& before, Desk& de
 
 void ExpectTheRestWorks(Desk& desk)
 {
-    if (desk.session.ending || !desk.session.doc.open) return;
+    if (desk.session.ending) return;
     desk.dialogs.told.clear();
+    if (!desk.session.doc.open) desk.Open(Folders::Path("a.bmp"));
     const Surface canvas = desk.Canvas();
     const Surface mirrored = Made(*FindEffect("Specchio"), canvas);
     const Surface opened = ReadPicture(desk.session.doc.FileAperto.toStdString()).picture;
@@ -165,6 +173,9 @@ void ExpectTheRestWorks(Desk& desk)
     desk.ClickEntry(entry::Orig);
     EXPECT_EQ(desk.Canvas(), opened);
     EXPECT_EQ(desk.session.doc.Modificato, 0);
+    const QString another = Folders::Path("b.bmp");
+    desk.Open(another);
+    EXPECT_EQ(desk.Canvas(), ReadPicture(another.toStdString()).picture);
     EXPECT_EQ(AllTold(desk), "");
 }
 

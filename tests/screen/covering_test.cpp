@@ -1,7 +1,10 @@
 // The small windows are never covered wholly by the large ones, nor what asks by them.
 #include "screen/desktop.h"
 
+#include <QGuiApplication>
 #include <QMessageBox>
+
+#include <xcb/xcb.h>
 
 namespace pixano::test {
 namespace {
@@ -12,6 +15,21 @@ class SmallWindows : public Desktop {
     {
         window.showMaximized();
         EXPECT_TRUE(Stays([&] { return window.width() > 1000; }));
+    }
+    /// Lets the display tell the order of the windows once more, as it is.
+    static void TellOrderAgain()
+    {
+        constexpr std::string_view Property = "_NET_CLIENT_LIST_STACKING";
+        xcb_connection_t* const display =
+            qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
+            xcb_intern_atom_reply(
+                display, xcb_intern_atom(display, 1, Property.size(), Property.data()), nullptr),
+            &std::free);
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
+        xcb_change_property(display, XCB_PROP_MODE_APPEND, root, atom->atom, XCB_ATOM_WINDOW, 32, 0,
+                            nullptr);
+        xcb_flush(display);
     }
     void ExpectNotCoveredBy(const QWidget& large)
     {
@@ -58,6 +76,20 @@ TEST_F(SmallWindows, AreNeverCoveredByTheCanvasThatIsRaised)
         ExpectNotCoveredBy(session.form2);
         EXPECT_TRUE(IsActive(session.form2));
     }
+}
+
+TEST_F(SmallWindows, AreNotCoveredThoughTheOrderWasOftenToldAgain)
+{
+    OpenSized(900, 700);
+    Maximise(session.form2);
+    Activate(session.form2);
+    ExpectNotCoveredBy(session.form2);
+    for (int i = 0; i < 4; ++i) {
+        TellOrderAgain();
+        QTest::qWait(TimeToAnswer);
+    }
+    Do("windowraise " + Id(session.form2));
+    ExpectNotCoveredBy(session.form2);
 }
 
 TEST_F(SmallWindows, ComeAlongWhereLessThanHalfOfThemWouldBeSeen)

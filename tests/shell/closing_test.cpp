@@ -129,14 +129,23 @@ TEST_F(Ending, GoesOnWhenTheSaveDialogIsCancelledAndTheCanvasAsksOnceMore)
 
 TEST_F(Ending, IsCalledOffByASaveThatFails)
 {
-    dialogs.answers = {true};
-    dialogs.saveNames.push_back(Path("manca/s.bmp"));
-    EXPECT_FALSE(session.form1.close());
-    EXPECT_EQ(dialogs.told.size(), 1U);
-    EXPECT_FALSE(session.ending.has_value());
-    EXPECT_TRUE(session.form1.isVisible());
-    EXPECT_TRUE(session.form2.isVisible());
-    EXPECT_EQ(session.doc.Modificato, 1);
+    // At the first question, and at the one that follows a cancelled save dialog.
+    for (const bool first : {true, false}) {
+        SCOPED_TRACE(first);
+        dialogs.told.clear();
+        dialogs.answers = {true};
+        dialogs.saveNames = {Path("manca/s.bmp")};
+        if (!first) {
+            dialogs.answers.push_front(true);
+            dialogs.saveNames.push_front(std::nullopt);
+        }
+        EXPECT_FALSE(session.form1.close());
+        EXPECT_EQ(dialogs.told.size(), 1U);
+        EXPECT_FALSE(session.ending.has_value());
+        EXPECT_TRUE(session.form1.isVisible());
+        EXPECT_TRUE(session.form2.isVisible());
+        EXPECT_EQ(session.doc.Modificato, 1);
+    }
     // Back and forth still work: the snapshots are there.
     ClickEntry(entry::Redo);
     EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));

@@ -15,12 +15,14 @@ enum Call : unsigned {
     Names = 16,    ///< gives it a name, or another one
     Changes = 32,  ///< its owner, its permissions, its size
     Deletes = 64,
-    Reads = 128,   ///< opens it for reading
-    Takes = 256,   ///< bytes from it
-    Looks = 512,   ///< what it is, or whether it may be used
-    Makes = 1024,  ///< a folder
+    Reads = 128,       ///< opens it for reading
+    Takes = 256,       ///< bytes from it
+    Looks = 512,       ///< what it is, or whether it may be used
+    Makes = 1024,      ///< a folder
+    Allocates = 2048,  ///< memory for a picture; not the file's, and fails by an exception
     /// What a save needs.
     AnyCall = 63,
+    /// What a command does to files.
     Everything = 2047,
     /// The calls that a signal may interrupt.
     Interruptible = AnyCall & ~Names
