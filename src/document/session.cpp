@@ -25,6 +25,7 @@ Session::Session(Dialogs& dialogBoxes, const Controls& controls, Timer timer)
 
 void EndProgram(Session& s, int status)
 {
+    s.beforeEnd();
     s.ending = status;
     for (QWidget* window :
          std::initializer_list<QWidget*>{&s.form10, &s.form9, &s.form4, &s.form2, &s.form1})

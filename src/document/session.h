@@ -60,6 +60,8 @@ struct Session {
     std::optional<Surface> redoPicture;
     /// Done when a command has ended.
     std::function<void()> afterCommand = [] {};
+    /// Done before the program ends, while its windows are still there.
+    std::function<void()> beforeEnd = [] {};
     /// The status that the program ends with, once it is to end.
     std::optional<int> ending;
 };

@@ -5,6 +5,7 @@
 #include "document/places.h"
 #include "document/recovery.h"
 #include "files/system_reason.h"
+#include "shell/answering.h"
 #include "shell/application.h"
 #include "shell/controls.h"
 #include "shell/events.h"
@@ -15,18 +16,15 @@
 #include "shell/start_up.h"
 #include "windows/file_names.h"
 #include "windows/screen_dialogs.h"
-#include "windows/window_operation.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
-#include <QTimer>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <memory>
 #include <string>
 
 namespace pixano {
@@ -75,26 +73,6 @@ void OpenFirst(Session& s, const QString& picture)
 QString PictureIn(const Options& options)
 {
     return options.picture.isEmpty() ? QString() : AbsolutePath(options.picture);
-}
-
-/// A second start is answered at once; what it wants opened waits for the command that runs, beside
-/// which none begins.
-void HearSecondStarts(Session& s, const SecondStarts& starts)
-{
-    const auto waiting = std::make_shared<QStringList>();
-    const auto openNext = [&s, waiting] {
-        // cppcheck-suppress knownConditionTrueFalse ; it is filled below
-        if (waiting->isEmpty() || s.ending) return;
-        // cppcheck-suppress containerOutOfBounds ; it is not empty here
-        RunCommand(s, "Apri", Fatal::None, [&] { OpenNamed(s, waiting->takeFirst()); });
-    };
-    s.afterCommand = [&s, openNext] { QTimer::singleShot(0, &s.form1, openNext); };
-    QObject::connect(&starts, &SecondStarts::Called, &s.form1, [=, &s](const QString& picture) {
-        QWidget* const asking = QApplication::activeModalWidget();
-        BringForward(asking != nullptr ? *asking : s.form1);
-        if (!picture.isEmpty()) waiting->append(picture);
-        openNext();
-    });
 }
 
 int RunSession(Session& session, const Options& options)

@@ -57,9 +57,23 @@ expect_title "$(basename "$picture")   $size"
 hand_over "altra figura.bmp"
 expect_title "altra figura.bmp   60x40"
 
-# Without a picture it comes forward, even where it is minimised; while it asks, what it asks does.
-xdotool windowminimize "$(window_titled "Pixano 2.3")"
+# Without a picture it comes forward, even where all its windows are minimised; while it asks, what it asks does.
+minimised() {
+    xprop -id "$1" WM_STATE | grep -q Iconic
+}
+brought_back() {
+    ! minimised "$1"
+}
+windows=()
+for title in "Pixano 2.3" "altra figura.bmp   60x40" "altra figura.bmp  (60 x 40) - 100%"; do
+    windows+=("$(window_titled "$title")")
+    xdotool windowminimize "${windows[-1]}"
+    wait_for minimised "${windows[-1]}" || fail "$title was not minimised"
+done
 hand_over
+for window in "${windows[@]}"; do
+    wait_for brought_back "$window" || fail "window $window stays minimised"
+done
 wait_for is_active "Pixano 2.3" || fail "the running program did not come forward, but $(active_title)"
 menus alt+f
 keys a

@@ -144,6 +144,26 @@ TEST_F(Starting, GoesOnThoughThePreviewOfThePictureBroughtBackHasNoFile)
     EXPECT_TRUE(dialogs.told[0].text.startsWith("L'anteprima mostra l'immagine com'è ora, ma "));
 }
 
+TEST_F(Starting, TellsWhatItNoLongerOpensWhereItEndsMeanwhile)
+{
+    const QString path = Made("b.bmp", Drawn({"xyz"}));
+    int handed = 0;
+    RunWith({}, [&] {
+        Open("a.bmp", Drawn({"abc"}));
+        Apply("Specchio");
+        dialogs.answers = {false};
+        dialogs.meanwhile = [&] {
+            for (; handed < 2; ++handed)
+                EXPECT_TRUE(HandOverMeanwhile(Data("."), path));
+        };
+        session.form1.close();
+    });
+    const ShownBox unopened{BoxIcon::Exclamation, "Attenzione!",
+                            "L'immagine «" + path +
+                                "» non è stata aperta, perché Pixano si chiude."};
+    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{unopened, unopened}));
+}
+
 // The main window, which takes no click meanwhile, would come before it.
 TEST_F(Starting, BringsForwardWhatAsksWhenItIsStartedAgain)
 {

@@ -1,0 +1,56 @@
+#include "shell/answering.h"
+
+#include "document/opening.h"
+#include "shell/run.h"
+#include "windows/window_operation.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <initializer_list>
+#include <memory>
+
+namespace pixano {
+namespace {
+
+/// With the windows that are minimised; the menus get the focus.
+void ComeForwardWithAll(Session& s)
+{
+    for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9, &s.form10}) {
+        if (!window->isMinimized()) continue;
+        ShowAgain(*window);
+        KeepFocus(s.form1, *window);
+    }
+    BringForward(s.form1);
+}
+
+}  // namespace
+
+void HearSecondStarts(Session& s, const SecondStarts& starts)
+{
+    const auto waiting = std::make_shared<QStringList>();
+    const auto openNext = [&s, waiting] {
+        // cppcheck-suppress knownConditionTrueFalse ; it is filled below
+        if (waiting->isEmpty() || s.ending) return;
+        // cppcheck-suppress containerOutOfBounds ; it is not empty here
+        RunCommand(s, "Apri", Fatal::None, [&] { OpenNamed(s, waiting->takeFirst()); });
+    };
+    s.afterCommand = [&s, openNext] { QTimer::singleShot(0, &s.form1, openNext); };
+    // Whoever handed a picture over was told that it would be opened.
+    s.beforeEnd = [&s, waiting] {
+        while (!waiting->isEmpty())
+            s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
+                           "L'immagine «" + waiting->takeFirst() +
+                               "» non è stata aperta, perché Pixano si chiude.");
+    };
+    QObject::connect(&starts, &SecondStarts::Called, &s.form1, [=, &s](const QString& picture) {
+        if (QWidget* const asking = QApplication::activeModalWidget())
+            BringForward(*asking);
+        else
+            ComeForwardWithAll(s);
+        if (!picture.isEmpty()) waiting->append(picture);
+        openNext();
+    });
+}
+
+}  // namespace pixano
