@@ -53,6 +53,9 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
         return;
     }
     const bool same = s.doc.open && name == s.doc.FileAperto;
+    // Who chooses it again expects it as it was.
+    if (same && s.form1.Enabled(control::Orig))
+        s.remarks += "L'immagine «" + name + "» è già aperta: «Originale» la riporta com'era";
     if (same && answer == Answer::No) {
         s.doc.NomeFile.clear();
         return;

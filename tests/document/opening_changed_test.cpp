@@ -164,6 +164,7 @@ TEST_F(ChangedPicture, IsNotReadAgainWhenTheSameIsChosenAfterSaving)
     Open(Path("a.bmp"));
     EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
     EXPECT_EQ(session.doc.Modificato, 0);
+    EXPECT_EQ(dialogs.told.size(), 1U);
 }
 
 }  // namespace

@@ -126,7 +126,7 @@ void Player::ModelOpened(const std::string& name, bool wasModified)
     }
     // Missing, broken, or on the canvas already: everything stays as it is.
     model.modified = wasModified;
-    if (!there || !same) ++told;
+    if (!there || !same || model.Enabled(entry::Orig)) ++told;
 }
 
 Player::Command Player::SaveSomewhere()
