@@ -124,10 +124,10 @@ class HostileFiles : public testing::TestWithParam<std::tuple<Format, int>> {
     double slowest = 0;
 };
 
-/// How many inputs there are for each format and shard: 120,000 or 6,000 altogether.
+/// How many inputs there are for each format and shard: 120,000 or 2,400 altogether.
 int Inputs()
 {
-    return IsLong() ? 5000 : 250;
+    return IsLong() ? 5000 : 100;
 }
 
 TEST_P(HostileFiles, AreReadOrRefused)
