@@ -1,5 +1,5 @@
 // The tests that need no windows.
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -7,6 +7,6 @@ int main(int argc, char* argv[])
 {
     // Tests become another user now and then, who must get into the folders that they make.
     umask(022);
-    testing::InitGoogleMock(&argc, argv);
+    testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -4,7 +4,7 @@
 
 #include "support/letters.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace pixano::batch::test {

@@ -1,6 +1,6 @@
 #include "batch/command_line.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace pixano::batch::test {

@@ -3,7 +3,7 @@
 
 #include "effects/catalogue.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::batch::test {
 namespace {

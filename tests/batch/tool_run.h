@@ -5,7 +5,7 @@
 #include "support/letters.h"
 #include "support/temporary_folder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 #include <string>

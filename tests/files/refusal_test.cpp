@@ -4,7 +4,7 @@
 #include "files/regular_file.h"
 #include "support/temporary_folder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 #include <array>

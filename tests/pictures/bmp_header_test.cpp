@@ -1,7 +1,7 @@
 // BMP files that are refused, and what is said of them.
 #include "pictures/bmp_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <climits>
 

@@ -2,7 +2,7 @@
 // end, and files that end within a run.
 #include "pictures/bmp_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::test {
 namespace {

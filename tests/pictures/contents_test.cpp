@@ -4,7 +4,7 @@
 #include "files/refusal.h"
 #include "pictures/picture_size.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::test {
 namespace {

@@ -3,7 +3,7 @@
 #include "pictures/byte_files.h"
 #include "pictures/jpeg_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <algorithm>
 #include <cerrno>

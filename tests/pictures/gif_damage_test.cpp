@@ -1,7 +1,7 @@
 // GIF files with frames of no pixels, codes of no meaning and bytes of no block.
 #include "pictures/gif_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::test::gif {
 namespace {

@@ -1,7 +1,7 @@
 // GIF files spelt out by hand: frames, transparency, interlace, damage.
 #include "pictures/gif_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::test::gif {
 namespace {

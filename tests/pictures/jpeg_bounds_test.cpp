@@ -1,7 +1,7 @@
 // JPEG files that ask for too much, and their refusal.
 #include "pictures/jpeg_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <algorithm>
 

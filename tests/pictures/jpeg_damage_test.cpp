@@ -1,7 +1,7 @@
 // Damaged JPEG files: none is shown without a word, none of the sound ones with one.
 #include "pictures/jpeg_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <algorithm>
 #include <string>

@@ -1,7 +1,7 @@
 // JPEG files of every kind against libjpeg's own decoding, and cut ones.
 #include "pictures/jpeg_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::test {
 namespace {

@@ -2,7 +2,7 @@
 #include "pictures/bmp_maker.h"
 #include "pictures/byte_files.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <malloc.h>
 #include <sys/socket.h>

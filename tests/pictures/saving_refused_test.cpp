@@ -2,7 +2,7 @@
 #include "pictures/small_picture.h"
 #include "support/hindrances.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <csignal>
 

@@ -1,7 +1,7 @@
 // Saving: the exact bytes, the permissions, and links that are kept.
 #include "pictures/small_picture.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -6,7 +6,7 @@
 #include "pictures/gif_maker.h"
 #include "pictures/jpeg_maker.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <csignal>
 #include <thread>

@@ -80,7 +80,7 @@ struct Kind {
     long stride;
 };
 
-const Kind Disk{Everything, {ENOSPC, EACCES, EIO, ENOENT, EMFILE}, 127};
+const Kind Disk{Everything, {ENOSPC, EACCES, EIO, ENOENT, EMFILE}, 251};
 const Kind Memory{Allocates, {ENOMEM}, 5};
 
 std::vector<Failure> EachInTurn(const Kind& kind, long calls)

@@ -5,7 +5,7 @@
 #include "support/effect_run.h"
 #include "support/temporary_folder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <filesystem>
 #include <fstream>

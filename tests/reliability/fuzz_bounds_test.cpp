@@ -5,7 +5,7 @@
 #include "reliability/fuzz_bounds.h"
 #include "reliability/fuzz_kinds.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace pixano::test {
 namespace {

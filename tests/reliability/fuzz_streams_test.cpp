@@ -6,7 +6,7 @@
 #include "reliability/fuzz_bounds.h"
 #include "reliability/fuzz_kinds.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <csignal>
 

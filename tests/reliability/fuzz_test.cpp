@@ -5,7 +5,7 @@
 #include "reliability/fuzz_mutation.h"
 #include "reliability/fuzz_time.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <algorithm>
 #include <filesystem>

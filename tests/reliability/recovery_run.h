@@ -7,7 +7,7 @@
 #include "reliability/knowledge.h"
 #include "reliability/tampering.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <set>
 #include <string>

@@ -4,7 +4,7 @@
 #include "support/program.h"
 #include "support/temporary_folder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <climits>
 

@@ -4,7 +4,7 @@
 #include "pictures/byte_files.h"
 #include "reliability/preload/failing_calls.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <climits>
 #include <cstdio>

@@ -8,7 +8,7 @@
 
 #include <QString>
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 #include <optional>
 

@@ -67,7 +67,7 @@ class OneSequence {
 TEST(Sequences, EveryCommandDoesWhatTheModelSays)
 {
     const bool longForm = qEnvironmentVariableIntValue("PIXANO_LONG") == 1;
-    const int sequences = longForm ? 10000 : 250;
+    const int sequences = longForm ? 10000 : 150;
     constexpr int Commands = 25;
     const int first = qEnvironmentVariableIntValue("PIXANO_SEED");
     int given = 0;

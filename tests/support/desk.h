@@ -25,7 +25,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace pixano::test {
