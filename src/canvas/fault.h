@@ -46,7 +46,7 @@ class Fault : public std::exception {
 
 /// Does the step; the run-time error that it ended in, that of memory too short for it too.
 template <typename Step>
-std::optional<Fault> ErrorOf(Step step)
+std::optional<Fault> ErrorOf(const Step& step)
 {
     try {
         step();
@@ -63,7 +63,7 @@ class FirstFault {
   public:
     /// Does the step; its error is kept for `Throw` unless an earlier one is.
     template <typename Step>
-    void Try(Step step)
+    void Try(const Step& step)
     {
         try {
             step();

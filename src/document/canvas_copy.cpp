@@ -60,11 +60,7 @@ void SecureCanvas(Session& s)
 void ForgetCanvasCopy(Session& s)
 {
     s.doc.notedCopy.clear();
-    try {
-        RemoveRecoveryNote();
-    } catch (const Fault&) {
-        return;
-    }
+    RemoveRecoveryNote();
 }
 
 }  // namespace pixano

@@ -28,25 +28,39 @@ Surface ShowWorkingPicture(Session& s, const QString& name)
     return before;
 }
 
-/// Writes the canvas where "Ripristina" finds it. False when it has to be kept in memory.
-bool SaveForRedo(Session& s)
+/// Writes the canvas where "Ripristina" finds it; why not, when it has to be kept in memory.
+std::optional<Fault> SaveForRedo(Session& s)
 {
     s.redoPicture.reset();
-    try {
-        SaveWorkingPicture(s.work.Picture1, file::Redo);
-        return true;
-    } catch (const Fault& fault) {
-        s.remarks +=
-            QString::fromUtf8(fault.what()) +
-            ". L'immagine resta in memoria: «Ripristina» la riporta finché Pixano è aperto";
-        return false;
-    }
+    return ErrorOf([&] { SaveWorkingPicture(s.work.Picture1, file::Redo); });
 }
 
-/// What the canvas showed before, or shows still, is kept for "Ripristina".
-void KeepForRedo(Session& s, std::optional<Surface> before)
+/// What the canvas showed before, or shows still, is kept for "Ripristina", whose file could not be
+/// written.
+void KeepForRedo(Session& s, std::optional<Surface> before, const Fault& unwritten)
 {
-    s.redoPicture = before ? std::move(*before) : s.work.Picture1;
+    const bool kept =
+        !ErrorOf([&] { s.redoPicture = before ? std::move(*before) : s.work.Picture1; });
+    s.remarks += QString::fromUtf8(unwritten.what()) +
+                 (kept ? ". L'immagine resta in memoria: «Ripristina» la riporta finché Pixano è "
+                         "aperto"
+                       : ". Nemmeno la memoria basta per conservare l'immagine: «Ripristina» non "
+                         "può riportarla");
+    if (kept) return;
+    s.form1.Enable(control::Redo, false);
+    s.form10.EnableHistory(
+        {.annulla = std::nullopt, .originale = std::nullopt, .ripristina = false});
+}
+
+/// The picture that the last step back led away from. Throws Fault.
+void ShowRedoPicture(Session& s)
+{
+    if (s.redoPicture) {
+        Show(s, *s.redoPicture);
+        s.doc.canvasCopy.clear();
+    } else {
+        ShowWorkingPicture(s, file::Redo);
+    }
 }
 
 /// The picture as it was opened, read again. Unsaved changes could not come back onto a picture of
@@ -95,13 +109,12 @@ void Undo_Click(Session& s)
     s.form1.Enable(control::Orig, true);
     s.form1.Enable(control::Redo, true);
     s.form10.EnableHistory({.annulla = false, .originale = true, .ripristina = true});
-    const bool kept = d.InOriginale != 0 || SaveForRedo(s);
+    const std::optional<Fault> unwritten = d.InOriginale == 0 ? SaveForRedo(s) : std::nullopt;
     d.InOriginale = 0;
     d.Annullato = 1;
-    FirstFault passedOver;
     std::optional<Surface> before;
-    passedOver.Try([&] { before = ShowWorkingPicture(s, d.FileUndo); });
-    if (!kept) passedOver.Try([&] { KeepForRedo(s, std::move(before)); });
+    ErrorOf([&] { before = ShowWorkingPicture(s, d.FileUndo); });  // without it the canvas stays
+    if (unwritten) KeepForRedo(s, std::move(before), *unwritten);
     s.form2.setWindowTitle(EffectCaption(s));
     d.NomeSalvato.clear();
 }
@@ -109,6 +122,9 @@ void Undo_Click(Session& s)
 void Redo_Click(Session& s)
 {
     Document& d = s.doc;
+    // Where memory is short the picture is still there, and so stays the way to it.
+    const std::optional<Fault> unread = ErrorOf([&] { ShowRedoPicture(s); });
+    if (unread && unread->Kind() == FaultKind::OutOfMemory) throw Fault(*unread);
     d.NumEffetti = d.NumEffettiSalvato;
     d.Modificato = 1;
     s.form1.Enable(control::Salva, true);
@@ -118,12 +134,7 @@ void Redo_Click(Session& s)
     s.form10.EnableHistory({.annulla = d.NumEffetti > 1 ? Switch(true) : std::nullopt,
                             .originale = true,
                             .ripristina = false});
-    if (s.redoPicture) {
-        Show(s, *s.redoPicture);
-        d.canvasCopy.clear();
-    } else {
-        ShowWorkingPicture(s, file::Redo);
-    }
+    if (unread) throw Fault(*unread);
     s.form2.setWindowTitle(EffectCaption(s));
     d.InOriginale = 0;
     d.Annullato = 0;
@@ -140,7 +151,7 @@ void Orig_Click(Session& s)
     s.form10.EnableHistory({.annulla = d.NumEffetti > 1 ? Switch(true) : std::nullopt,
                             .originale = false,
                             .ripristina = true});
-    const bool kept = d.Annullato != 0 || SaveForRedo(s);
+    const std::optional<Fault> unwritten = d.Annullato == 0 ? SaveForRedo(s) : std::nullopt;
     d.InOriginale = 1;
     d.Annullato = 0;
     d.NumEffettiSalvato = d.NumEffetti;
@@ -153,11 +164,10 @@ void Orig_Click(Session& s)
                d.Modificato == 0 ? std::optional(std::move(picture)) : std::nullopt);
     });
     if (unread) {
-        s.remarks += QString::fromUtf8(unread->what());
+        s.remarks += WhyUnread(*unread, d.FileAperto);
         Estrai(s, d.FileAperto, std::nullopt);
     }
-    FirstFault passedOver;
-    if (!kept) passedOver.Try([&] { KeepForRedo(s, std::move(before)); });
+    if (unwritten) KeepForRedo(s, std::move(before), *unwritten);
     s.form2.setWindowTitle(PictureCaption(s));
     if (!unread) d.Modificato = 0;
 }

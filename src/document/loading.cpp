@@ -83,6 +83,14 @@ void Estrai(Session& s, const QString& Percorso, std::optional<Surface> picture)
     s.form1.Enable(control::Salva, false);
 }
 
+QString WhyUnread(const Fault& fault, const QString& name)
+{
+    // Memory was too short for what the windows make of it; the readers name what they read.
+    return fault.Kind() == FaultKind::OutOfMemory
+               ? "Impossibile leggere «" + name + "»: la memoria non basta"
+               : QString::fromUtf8(fault.what());
+}
+
 void Carica(Session& s, Surface picture)
 {
     // A little wider and higher than the picture itself: kept exactly.

@@ -45,6 +45,15 @@ void OpenAsNew(Session& s, const QString& name, Surface picture)
     s.redoPicture.reset();
 }
 
+/// Who chooses a changed picture again expects to see it as it was.
+void RemarkOpenAlready(Session& s, const QString& name, Answer answer)
+{
+    const bool canGoBack = s.form1.Enabled(control::Orig);
+    if (answer == Answer::NotAsked && !canGoBack) return;
+    s.remarks += "L'immagine «" + name + "» è già aperta, e non viene letta un'altra volta" +
+                 (canGoBack ? ": per questo c'è «Originale»" : "");
+}
+
 /// What follows once the name is known. Throws PictureError.
 void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpened& modified)
 {
@@ -53,9 +62,7 @@ void OpenChosen(Session& s, const QString& name, Answer answer, ModifiedUntilOpe
         return;
     }
     const bool same = s.doc.open && name == s.doc.FileAperto;
-    // Who chooses it again expects it as it was.
-    if (same && s.form1.Enabled(control::Orig))
-        s.remarks += "L'immagine «" + name + "» è già aperta: «Originale» la riporta com'era";
+    if (same) RemarkOpenAlready(s, name, answer);
     if (same && answer == Answer::No) {
         s.doc.NomeFile.clear();
         return;
@@ -103,7 +110,7 @@ void Open(Session& s, Named named, AskName askName)
     const std::optional<QString> name = askName(remembered);
     if (!name) return;
     const std::optional<Fault> unopened = ErrorOf([&] { OpenChosen(s, *name, answer, modified); });
-    if (unopened) s.remarks += QString::fromUtf8(unopened->what());
+    if (unopened) s.remarks += WhyUnread(*unopened, *name);
     GoToFolder(d.CartellaAvvio);
 }
 

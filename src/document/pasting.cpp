@@ -64,10 +64,12 @@ void OpenPasted(Session& s)
         OpenNamed(s, LocalFile(urls.front()));
     else if (!image.isNull())
         OpenNamed(s, KeepAsFile(s, image));
+    else if (urls.size() > 1)
+        s.remarks += "Negli appunti c'è più di un file: Pixano ne apre uno alla volta";
+    else if (data != nullptr && data->hasImage())
+        s.remarks += "L'immagine negli appunti non si può leggere";
     else
-        s.remarks += urls.size() > 1
-                         ? "Negli appunti c'è più di un file: Pixano ne apre uno alla volta"
-                         : "Negli appunti non c'è un'immagine";
+        s.remarks += "Negli appunti non c'è un'immagine";
 }
 
 bool IsPasted(const QString& path)

@@ -21,12 +21,12 @@ namespace pixano {
 namespace {
 
 /// A name that nothing bears yet, in that folder.
-QString AsideName(const QString& folder)
+QString AsideName(const QString& folder, const QString& ending = ".bmp")
 {
     const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss-zzz");
-    QString name = folder + "/recupero-" + stamp + ".bmp";
+    QString name = folder + "/recupero-" + stamp + ending;
     for (int n = 2; QFileInfo::exists(name); ++n)
-        name = folder + "/recupero-" + stamp + '-' + QString::number(n) + ".bmp";
+        name = folder + "/recupero-" + stamp + '-' + QString::number(n) + ending;
     return name;
 }
 
@@ -75,26 +75,30 @@ QString PutAside(const QString& copy, const Surface& picture)
     }
 }
 
-/// Renames what is left of the working pictures, lest the next effect replace it; says where it is.
-QString KeepRemains(const QString& copy)
+/// Renames what is left, `noted` and the working pictures, lest the next effect replace it; says
+/// where it is.
+QString KeepRemains(const QStringList& noted)
 {
     QStringList kept;
-    for (const QString& path : {copy, NativePath(file::Undo), NativePath(file::Redo)}) {
+    QStringList paths = noted;
+    for (const QString& working : {file::SpareCopy, file::Undo, file::Redo})
+        paths += NativePath(working);
+    for (const QString& path : paths) {
         const QFileInfo remains(path);
         if (!IsOurs(path) || !remains.isFile() || remains.isSymLink() || remains.size() == 0)
             continue;
-        const QString aside = AsideName(DataFolder());
+        const QString aside = AsideName(DataFolder(), path == RecoveryNotePath() ? ".txt" : ".bmp");
         if (QFile::rename(path, aside)) kept += aside;
     }
     return kept.isEmpty() ? QString() : "\nQuel che ne resta è qui:\n«" + kept.join("»\n«") + "».";
 }
 
-void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QString& copy)
+void TellLost(Session& s, const QString& ofPicture, const QString& reason, const QStringList& noted)
 {
     s.dialogs.Tell(
         BoxIcon::Exclamation, title::Warning,
         "L'ultima volta Pixano si è chiuso in modo imprevisto con modifiche non salvate" +
-            ofPicture + ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(copy));
+            ofPicture + ", ma non è possibile recuperarle.\n" + reason + '.' + KeepRemains(noted));
 }
 
 QString OfPicture(const RecoveryNote& note)
@@ -119,7 +123,7 @@ void BringBack(Session& s, const RecoveryNote& note, Surface picture)
     const std::optional<Fault> unopened =
         ErrorOf([&] { Estrai(s, note.picture, std::move(picture)); });
     if (unopened) {
-        TellLost(s, OfPicture(note), QString::fromUtf8(unopened->what()), note.copy);
+        TellLost(s, OfPicture(note), QString::fromUtf8(unopened->what()), {note.copy});
         return;
     }
     s.doc.NomeFile = note.picture;
@@ -151,7 +155,7 @@ void Offer(Session& s, const RecoveryNote& note)
 {
     Surface picture;
     if (const std::optional<Fault> unread = ErrorOf([&] { picture = ReadNotedPicture(note); })) {
-        TellLost(s, OfPicture(note), QString::fromUtf8(unread->what()), note.copy);
+        TellLost(s, OfPicture(note), QString::fromUtf8(unread->what()), {note.copy});
         return;
     }
     const bool wanted =
@@ -174,7 +178,7 @@ void OfferRecovery(Session& s)
         Offer(s, *note);
     else if (RecoveryNoteThere())
         TellLost(s, QString(), "Il file «" + RecoveryNotePath() + "» non si può leggere",
-                 AbsolutePath(file::PreviewCopy));
+                 {AbsolutePath(file::PreviewCopy), RecoveryNotePath()});
     else
         RemovePasted();  // nobody had made anything of them
 }

@@ -14,7 +14,7 @@ struct RecoveryNote {
     int height = 0;
 };
 
-/// Where the note lies. Throws Fault FileAccess when there is no data folder.
+/// Where the note lies.
 QString RecoveryNotePath();
 
 /// Whether there is something in the note's place.
@@ -26,7 +26,7 @@ std::optional<RecoveryNote> ReadRecoveryNote();
 /// Replaces the note; when that fails the old one stays. Throws Fault FileAccess.
 void WriteRecoveryNote(const RecoveryNote& note);
 
-/// Takes the note away if it is there. Throws Fault FileAccess.
+/// Takes the note away if it is there and can be deleted.
 void RemoveRecoveryNote();
 
 }  // namespace pixano

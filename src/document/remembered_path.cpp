@@ -2,10 +2,10 @@
 
 #include "document/places.h"
 #include "files/own_file.h"
-#include "files/refusal.h"
 #include "files/value_text.h"
 #include "windows/file_names.h"
 
+#include <exception>
 #include <string>
 
 namespace pixano {
@@ -24,7 +24,7 @@ std::optional<QString> ReadRememberedPath(const Document& doc)
     std::string kept;
     try {
         kept = ReadOwnFile(FileOf(doc));
-    } catch (const Refusal&) {
+    } catch (const std::exception&) {
         return std::nullopt;
     }
     std::string_view rest = kept;
@@ -38,7 +38,7 @@ void RememberPath(const Document& doc, const QString& path)
     if (doc.CartellaAvvio.isEmpty()) return;
     try {
         ReplaceOwnFile(FileOf(doc), '"' + FileBytes(path) + "\"\r\n");
-    } catch (const Refusal&) {
+    } catch (const std::exception&) {
         return;
     }
 }

@@ -26,6 +26,7 @@ class Refusal : public std::runtime_error {
     static FaultKind KindOf(int error)
     {
         if (error == ENOENT) return FaultKind::FileNotFound;
+        if (error == ENOMEM) return FaultKind::OutOfMemory;
         const bool full = error == ENOSPC || error == EDQUOT || error == EFBIG;
         return full ? FaultKind::DiskFull : FaultKind::FileAccess;
     }
@@ -46,7 +47,7 @@ auto TellRefusal(std::string_view verb, const std::string& name, Step step)
     } catch (const Refusal& refusal) {
         throw Error(refusal.Kind(), sentence(refusal.what()));
     } catch (const std::bad_alloc&) {
-        throw Error(FaultKind::FileAccess, sentence(SystemReason(ENOMEM)));
+        throw Error(FaultKind::OutOfMemory, sentence(SystemReason(ENOMEM)));
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include <initializer_list>
 #include <memory>
+#include <utility>
 
 namespace pixano {
 namespace {
@@ -17,7 +18,8 @@ namespace {
 void ComeForwardWithAll(Session& s)
 {
     for (QWidget* const window : std::initializer_list<QWidget*>{&s.form2, &s.form9, &s.form10}) {
-        if (!window->isMinimized()) continue;
+        // One that was closed while it was minimised still says so.
+        if (!window->isVisible() || !window->isMinimized()) continue;
         ShowAgain(*window);
         KeepFocus(s.form1, *window);
     }
@@ -26,7 +28,7 @@ void ComeForwardWithAll(Session& s)
 
 }  // namespace
 
-void HearSecondStarts(Session& s, const SecondStarts& starts)
+void HearSecondStarts(Session& s, SecondStarts& starts)
 {
     const auto waiting = std::make_shared<QStringList>();
     const auto openNext = [&s, waiting] {
@@ -37,17 +39,23 @@ void HearSecondStarts(Session& s, const SecondStarts& starts)
     };
     s.afterCommand = [&s, openNext] { QTimer::singleShot(0, &s.form1, openNext); };
     // Whoever handed a picture over was told that it would be opened.
-    s.beforeEnd = [&s, waiting] {
-        while (!waiting->isEmpty())
+    s.beforeEnd = [&s, &starts, waiting] {
+        while (!waiting->isEmpty()) {
+            QStringList unopened = std::exchange(*waiting, {});
+            unopened.removeDuplicates();
             s.dialogs.Tell(BoxIcon::Exclamation, title::Warning,
-                           "L'immagine «" + waiting->takeFirst() +
-                               "» non è stata aperta, perché Pixano si chiude.");
+                           "Prima di chiudersi Pixano non ha aperto:\n«" + unopened.join("»,\n«") +
+                               "».");
+        }
+        starts.StopListening();
     };
     QObject::connect(&starts, &SecondStarts::Called, &s.form1, [=, &s](const QString& picture) {
         if (QWidget* const asking = QApplication::activeModalWidget())
             BringForward(*asking);
-        else
+        else if (picture.isEmpty())
             ComeForwardWithAll(s);
+        else
+            BringForward(s.form1);  // the opening does the rest
         if (!picture.isEmpty()) waiting->append(picture);
         openNext();
     });

@@ -7,7 +7,8 @@
 namespace pixano {
 
 /// A second start is answered at once; what it wants opened waits for the command that runs, beside
-/// which none begins. Where the program ends by that command, the user is told.
-void HearSecondStarts(Session& s, const SecondStarts& starts);
+/// which none begins. Where the program ends by that command, the user is told, and further starts
+/// are heard no more.
+void HearSecondStarts(Session& s, SecondStarts& starts);
 
 }  // namespace pixano

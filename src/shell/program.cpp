@@ -146,7 +146,7 @@ int RunAsOnlyInstance(Session& session, const Options& options)
         return 1;
     }
     RemoveUnfinishedFiles(folder);
-    const SecondStarts starts(folder);
+    SecondStarts starts(folder);
     HearSecondStarts(session, starts);
     return RunSession(session, options);
 }

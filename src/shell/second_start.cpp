@@ -123,7 +123,13 @@ SecondStarts::SecondStarts(const QString& folder)
 
 SecondStarts::~SecondStarts()
 {
-    if (heard_) unlinkat(folder_.Number(), SocketName, 0);
+    StopListening();
+}
+
+void SecondStarts::StopListening()
+{
+    unlinkat(folder_.Number(), SocketName, 0);
+    heard_.reset();
 }
 
 void SecondStarts::Answer()

@@ -28,6 +28,8 @@ class SecondStarts : public QObject {
     ~SecondStarts() override;
     SecondStarts(const SecondStarts&) = delete;
     SecondStarts& operator=(const SecondStarts&) = delete;
+    /// From now on nobody is heard.
+    void StopListening();
 
   signals:
     /// Another start wants that picture opened; empty when the program is only to come forward.

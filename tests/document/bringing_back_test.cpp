@@ -23,7 +23,7 @@ class BringingBack : public AfterAKill {
         EXPECT_EQ(box.text.left(beginning.size()), beginning);
         return box.text.mid(beginning.size());
     }
-    QStringList Aside() const { return QDir(Data("")).entryList({"recupero-*.bmp"}); }
+    QStringList Aside() const { return QDir(Data("")).entryList({"recupero-*"}); }
     /// The rest of the box names all that was put aside, a line each.
     void ExpectAsideNamedIn(const QString& rest)
     {
@@ -180,7 +180,9 @@ TEST_F(BringingBack, TellsOfANoteThatIsNotWhole)
         Write(Data("recupero.txt"), note);
         EXPECT_FALSE(ReadRecoveryNote()) << note;
     }
+    Write(Data("elabor.tmp"), "una copia");
     Offer();
+    EXPECT_EQ(ContentsAside(), (std::set<std::string>{"~ab", "cba", "una copia", nameless}));
     ExpectAsideNamedIn(ToldAfter(Unexpectedly + ", ma non è possibile recuperarle.\nIl file «" +
                                  Data("recupero.txt") + "» non si può leggere"));
 }

@@ -32,7 +32,25 @@ TEST_F(Program, KeepsThePictureAndItsChangesWhenTheSameIsChosenAfterNo)
     EXPECT_EQ(dialogs.told,
               (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
                                       "L'immagine «" + Path("a.bmp") +
-                                          "» è già aperta: «Originale» la riporta com'era."}}));
+                                          "» è già aperta, e non viene letta un'altra volta: per "
+                                          "questo c'è «Originale»."}}));
+}
+
+TEST_F(Program, TellsThatAChangedPictureIsNotReadAgainThoughThereIsNoWayBackToIt)
+{
+    Open("a.bmp", Drawn({"abc"}));
+    Apply("Specchio");
+    QFile::remove(Path("a.bmp"));
+    ClickEntry(entry::Orig);
+    ASSERT_FALSE(Enabled(entry::Orig));
+    Made("a.bmp", Drawn({"abc"}));
+    dialogs.told.clear();
+    dialogs.answers = {false};
+    Open(Path("a.bmp"));
+    EXPECT_EQ(dialogs.told,
+              (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
+                                      "L'immagine «" + Path("a.bmp") +
+                                          "» è già aperta, e non viene letta un'altra volta."}}));
 }
 
 TEST_F(Program, GoesBackToTheOpenedPictureAfterTheSameWasChosenAgain)

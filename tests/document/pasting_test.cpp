@@ -115,25 +115,19 @@ TEST_F(Pasting, OpensAFile)
     EXPECT_TRUE(Exists(Path("due parole.bmp")));
 }
 
-TEST_F(Pasting, TellsThatAFileIsNoPicture)
+TEST_F(Pasting, TellsThatAFileIsNoPictureOrHasGone)
 {
     Write("testo.txt", "niente figure");
-    CopyFiles({QUrl::fromLocalFile(Path("testo.txt"))});
-    Paste();
-    ASSERT_EQ(dialogs.told.size(), 1U);
-    EXPECT_EQ(dialogs.told[0].title, "Attenzione!");
-    EXPECT_TRUE(dialogs.told[0].text.contains(Path("testo.txt")))
-        << dialogs.told[0].text.toStdString();
-    EXPECT_FALSE(session.doc.open);
-}
-
-TEST_F(Pasting, TellsThatAFileHasGone)
-{
-    CopyFiles({QUrl::fromLocalFile(Path("andata.bmp"))});
-    Paste();
-    EXPECT_EQ(dialogs.told,
-              (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
-                                      "File " + Path("andata.bmp") + " non trovato!"}}));
+    const ShownBox none{BoxIcon::Exclamation, "Attenzione!",
+                        "Impossibile leggere «" + Path("testo.txt") +
+                            "»: non è un'immagine BMP, JPEG o GIF."};
+    const ShownBox gone{BoxIcon::Exclamation, "Attenzione!",
+                        "File " + Path("andata.bmp") + " non trovato!"};
+    for (const char* const name : {"testo.txt", "andata.bmp"}) {
+        CopyFiles({QUrl::fromLocalFile(Path(name))});
+        Paste();
+    }
+    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{none, gone}));
 }
 
 TEST_F(Pasting, SaysThatItDoesNothingWithAnythingElse)
@@ -147,6 +141,12 @@ TEST_F(Pasting, SaysThatItDoesNothingWithAnythingElse)
         {[] { QApplication::clipboard()->clear(); }, none},
         {[] { QApplication::clipboard()->setText("file:///tmp/a.bmp"); }, none},
         {[] { CopyFiles({QUrl("https://example.org/a.bmp")}); }, none},
+        {[] {
+             auto* const broken = new QMimeData;
+             broken->setData("application/x-qt-image", "niente");
+             QApplication::clipboard()->setMimeData(broken);
+         },
+         "L'immagine negli appunti non si può leggere."},
         {[two] { CopyFiles(two); },
          "Negli appunti c'è più di un file: Pixano ne apre uno alla volta."},
     };

@@ -40,7 +40,7 @@ constexpr Reason Reasons[] = {
     {ELOOP, "i collegamenti non portano a nessun file", K::FileAccess},
     {EMFILE, "ci sono troppi file aperti", K::FileAccess},
     {ENFILE, "ci sono troppi file aperti", K::FileAccess},
-    {ENOMEM, "la memoria non basta", K::FileAccess},
+    {ENOMEM, "la memoria non basta", K::OutOfMemory},
     {EPIPE, "chi riceve i dati ha smesso di leggere", K::FileAccess},
     {EBADF, "il canale è chiuso", K::FileAccess},
     {EIO, "il disco non risponde come dovrebbe", K::FileAccess},
@@ -76,7 +76,7 @@ TEST(Refusal, TellsAReasonOfItsOwnAndThatMemoryIsShort)
     EXPECT_EQ(own.Kind(), K::FileAccess);
     const Fault memory = ToldOf([] { throw std::bad_alloc(); });
     EXPECT_STREQ(memory.what(), "Impossibile salvare «a.bmp»: la memoria non basta");
-    EXPECT_EQ(memory.Kind(), K::FileAccess);
+    EXPECT_EQ(memory.Kind(), K::OutOfMemory);
 }
 
 /// What is said of `path` when it is opened; empty when it is.

@@ -123,7 +123,7 @@ std::vector<GivenCommand> OpeningCommands()
     const auto drops = [](Desk& d) { emit d.session.drops.Dropped(Folders::Path("b.bmp")); };
     const auto pastes = [](Desk& d) { emit d.session.form1.Pasted(); };
     const auto copies = [](Desk&) {
-        QImage image(5, 3, QImage::Format_RGB32);
+        QImage image(40, 30, QImage::Format_RGB32);
         image.fill(Qt::red);
         QApplication::clipboard()->setImage(image);
     };

@@ -141,27 +141,6 @@ TEST_P(EveryFailure, OfMemoryLeavesTheDocumentTrueAndNothingLost)
     if (IsLong() || !effect || ++effects % 10 == 0) Try(Memory);
 }
 
-class ShortMemory : public testing::Test {
-  protected:
-    /// What the step throws when there is none any more.
-    static std::optional<Fault> ErrorWithoutMemory(const std::function<void()>& step)
-    {
-        BeginToFail({.first = 1, .last = LONG_MAX, .only = Allocates});
-        std::optional<Fault> error = ErrorOf(step);
-        EndFailing();
-        return error;
-    }
-};
-
-TEST_F(ShortMemory, LeavesAPictureWholeThatWasToBecomeALargerOne)
-{
-    const Surface small = Varied(40, 30);
-    const Surface large = Varied(80, 60);
-    Surface picture = small;
-    EXPECT_TRUE(ErrorWithoutMemory([&] { picture = large; }));
-    EXPECT_EQ(picture, small);
-}
-
 std::string NameOfCommand(const testing::TestParamInfo<GivenCommand>& info)
 {
     std::string name = info.param.name;

@@ -45,7 +45,8 @@ class Player {
 
     Command OpenSomething();
     std::string ChosenName();
-    void ModelOpened(const std::string& name, bool wasModified);
+    /// `asked`: what is to become of the changes.
+    void ModelOpened(const std::string& name, bool wasModified, bool asked);
     Command MenuEffect();
     Command PaletteEffect();
     Command History();

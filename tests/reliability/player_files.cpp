@@ -95,8 +95,9 @@ std::string Player::ChosenName()
 Player::Command Player::OpenSomething()
 {
     std::string text = "open";
-    bool modified = model.modified;
-    if (modified) {
+    const bool asked = model.modified;
+    bool modified = asked;
+    if (asked) {
         const bool save = Chance(50);
         dialogs_.answers.push_back(save);
         text += save ? " (yes" : " (no";
@@ -112,11 +113,11 @@ Player::Command Player::OpenSomething()
     }
     const std::string name = ChosenName();
     dialogs_.openNames.push_back(QString::fromStdString(name));
-    ModelOpened(name, modified);
+    ModelOpened(name, modified, asked);
     return Clicked(entry::Apri, text + " " + name);
 }
 
-void Player::ModelOpened(const std::string& name, bool wasModified)
+void Player::ModelOpened(const std::string& name, bool wasModified, bool asked)
 {
     const bool there = model.files.contains(name);
     const bool same = model.isOpen && name == model.opened;
@@ -126,7 +127,7 @@ void Player::ModelOpened(const std::string& name, bool wasModified)
     }
     // Missing, broken, or on the canvas already: everything stays as it is.
     model.modified = wasModified;
-    if (!there || !same || model.Enabled(entry::Orig)) ++told;
+    if (!there || !same || asked || model.Enabled(entry::Orig)) ++told;
 }
 
 Player::Command Player::SaveSomewhere()

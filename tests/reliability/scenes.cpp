@@ -6,7 +6,7 @@ void MakeFiles(Desk& desk)
 {
     WriteWorkingBitmap(Varied(EnoughForAll.width, EnoughForAll.height),
                        Folders::Path("a.bmp").toStdString());
-    WriteWorkingBitmap(Varied(7, 5), Folders::Path("b.bmp").toStdString());
+    WriteWorkingBitmap(Varied(40, 30), Folders::Path("b.bmp").toStdString());
     WriteBytes(Folders::Path("valori.tip").toStdString(), "1\r\n2\r\n3\r\n4\r\n5\r\n");
     desk.session.programFolder = QDir::currentPath();
 }

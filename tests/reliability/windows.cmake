@@ -52,7 +52,8 @@ if(NOT PIXANO_SANITIZED)
   add_dependencies(recovery_test pixano-victim)
   set_tests_properties(recovery_test PROPERTIES LABELS "reliability;windows")
   # Each call fails while a command is given.
-  pixano_reliability_tests(every_failure_test every_failure_test.cpp every_command.cpp scenes.cpp true_state.cpp)
+  pixano_reliability_tests(every_failure_test every_failure_test.cpp short_memory_test.cpp every_command.cpp scenes.cpp
+                           true_state.cpp)
   target_link_libraries(every_failure_test PRIVATE failing_calls)
   pixano_long_form(every_failure_test)
 endif()

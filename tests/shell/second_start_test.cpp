@@ -45,6 +45,14 @@ TEST_F(SecondStart, IsHeardThoughAKilledRunLeftItsSocketWhichAnEndedOneDoesNot)
     EXPECT_EQ(folder_.Names(), std::set<std::string>{});
 }
 
+TEST_F(SecondStart, IsHeardNoMoreByOneThatStoppedListening)
+{
+    SecondStarts starts(place_);
+    starts.StopListening();
+    EXPECT_FALSE(IsHeard("/foto.bmp"));
+    EXPECT_EQ(folder_.Names(), std::set<std::string>{});
+}
+
 TEST_F(SecondStart, HearsNoNameThatIsNoPathFromTheRoot)
 {
     const SecondStarts starts(place_);

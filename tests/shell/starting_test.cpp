@@ -146,22 +146,42 @@ TEST_F(Starting, GoesOnThoughThePreviewOfThePictureBroughtBackHasNoFile)
 
 TEST_F(Starting, TellsWhatItNoLongerOpensWhereItEndsMeanwhile)
 {
-    const QString path = Made("b.bmp", Drawn({"xyz"}));
-    int handed = 0;
+    const QString first = Made("b.bmp", Drawn({"xyz"}));
+    const QString second = Made("c.bmp", Drawn({"xyz"}));
+    const QString late = Made("d.bmp", Drawn({"xyz"}));
+    // While it asks, while it tells of the first ones, and no more.
+    std::deque<QStringList> handed{{first, second, first}, {late}};
     RunWith({}, [&] {
         Open("a.bmp", Drawn({"abc"}));
         Apply("Specchio");
         dialogs.answers = {false};
         dialogs.meanwhile = [&] {
-            for (; handed < 2; ++handed)
-                EXPECT_TRUE(HandOverMeanwhile(Data("."), path));
+            if (handed.empty()) return;
+            for (const QString& picture : handed.front())
+                EXPECT_TRUE(HandOverMeanwhile(Data("."), picture));
+            handed.pop_front();
         };
         session.form1.close();
+        EXPECT_FALSE(Exists(Data("pixano.socket"))) << "nobody is heard any more";
     });
-    const ShownBox unopened{BoxIcon::Exclamation, "Attenzione!",
-                            "L'immagine «" + path +
-                                "» non è stata aperta, perché Pixano si chiude."};
-    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{unopened, unopened}));
+    const auto box = [](const QString& pictures) {
+        return ShownBox{BoxIcon::Exclamation, "Attenzione!",
+                        "Prima di chiudersi Pixano non ha aperto:\n«" + pictures + "»."};
+    };
+    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{box(first + "»,\n«" + second), box(late)}));
+}
+
+TEST_F(Starting, BringsBackNoWindowThatWasClosedWhileItWasMinimised)
+{
+    RunWith({}, [&] {
+        Open("a.bmp", Drawn({"abc"}));
+        session.form10.showMinimized();
+        session.form9.showMinimized();
+        session.form2.close();
+        EXPECT_TRUE(HandOverMeanwhile(Data("."), {}));
+        EXPECT_FALSE(session.form2.isVisible() || session.form9.isVisible());
+        EXPECT_FALSE(session.form10.isMinimized() && session.form10.isVisible());
+    });
 }
 
 // The main window, which takes no click meanwhile, would come before it.
