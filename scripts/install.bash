@@ -13,7 +13,7 @@ test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
-    clang-format clang-tidy cppcheck
+    clang-format clang-tidy cppcheck lld
     bash-completion parallel fonts-urw-base35
     mutter qt6-wayland weston
 )
