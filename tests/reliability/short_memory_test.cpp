@@ -60,16 +60,41 @@ TEST_F(ShortMemory, LeavesAPictureWholeThatWasToBecomeALargerOne)
     EXPECT_EQ(picture, small);
 }
 
-TEST_F(ShortMemory, NamesThePictureThatIsNotOpened)
+// One call after another fails: to read the picture, and to show it.
+TEST_F(ShortMemory, NamesThePictureThatIsNotOpenedAndOpensNothingHalf)
 {
-    Reach(Scene::Started, desk_);
-    const QString name = Folders::Path("b.bmp");
-    WithoutMemory([&] { desk_.Open(name); });
-    EXPECT_EQ(Told(), QStringList{"Impossibile leggere «" + name + "»: " + Short + '.'});
-    EXPECT_FALSE(desk_.session.doc.open);
-    desk_.Open(name);
-    EXPECT_EQ(Told(), QStringList());
-    EXPECT_TRUE(desk_.session.doc.open);
+    // Larger than what is open, whose memory would do for it.
+    const QString name = Folders::Path("grande.bmp");
+    WriteWorkingBitmap(Varied(80, 60), FileBytes(name));
+    for (const Scene scene : {Scene::Started, Scene::Changed}) {
+        int unopened = 0;
+        bool reached = true;
+        for (long call = 1; reached; ++call) {
+            SCOPED_TRACE("call " + std::to_string(call));
+            Desk desk;
+            Reach(scene, desk);
+            const QString before = desk.session.doc.FileAperto;
+            desk.dialogs.answers = {false};
+            BeginToFail({.first = call, .last = call, .only = Allocates});
+            desk.Open(name);
+            reached = CountedCalls() >= call;
+            EndFailing();
+            if (desk.dialogs.told.empty()) continue;
+            ++unopened;
+            ASSERT_EQ(desk.dialogs.told.size(), 1U);
+            EXPECT_EQ(desk.dialogs.told[0].text,
+                      "Impossibile leggere «" + name + "»: " + Short + '.');
+            EXPECT_EQ(desk.session.doc.FileAperto, before);
+            EXPECT_EQ(desk.session.doc.open, scene == Scene::Changed);
+            EXPECT_EQ(desk.session.doc.Modificato, scene == Scene::Changed ? 1 : 0);
+            desk.dialogs.told.clear();
+            desk.dialogs.answers = {false};
+            desk.Open(name);
+            EXPECT_TRUE(desk.dialogs.told.empty());
+            EXPECT_EQ(desk.session.doc.FileAperto, name);
+        }
+        EXPECT_GE(unopened, 2);
+    }
 }
 
 TEST_F(ShortMemory, NamesTheOpenedPictureThatIsNotReadAgain)
