@@ -33,6 +33,11 @@ QMargins FrameOf(const QWidget& window)
     return frame;
 }
 
+QRect FramedGeometry(const QWidget& window)
+{
+    return window.geometry().marginsAdded(KnownFrame(window));
+}
+
 QMargins RoomForFrame(const QWidget& window)
 {
     return FrameOf(window) | UsualFrame;

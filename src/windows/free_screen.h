@@ -15,6 +15,10 @@ inline constexpr QMargins UsualFrame(5, 30, 5, 5);
 /// are, or as common ones.
 QMargins FrameOf(const QWidget& window);
 
+/// Where the window lies with its frame, as far as that is there. The toolkit's own answer does not
+/// hear of a frame that a window manager puts around a window which comes back.
+QRect FramedGeometry(const QWidget& window);
+
 /// What to leave for the window's frame: the same before it is there and after, and in no case less
 /// than common ones take.
 QMargins RoomForFrame(const QWidget& window);

@@ -7,6 +7,7 @@
 #include <QRegion>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <numeric>
@@ -25,7 +26,14 @@ QRect InsideOnScreen(const QWidget& window)
 {
     const QRect screen = window.screen()->virtualGeometry();
     const QRect inside = window.geometry() & screen;
-    return inside.isEmpty() ? window.frameGeometry() & screen : inside;
+    return inside.isEmpty() ? FramedGeometry(window) & screen : inside;
+}
+
+/// Moves the window with its frame. The widget would not move to where it believes to be already,
+/// before it has heard of its frame.
+void PlaceFrame(const QWidget& window, QPoint place)
+{
+    window.windowHandle()->setFramePosition(place);
 }
 
 int AreaOf(const QRegion& region)
@@ -60,7 +68,7 @@ void NeverCovered::RaiseCovered() const
         const QWidget* highest = nullptr;
         for (const QWidget* const larger : large_) {
             if (!IsOnScreen(*larger) || !stacking_.IsAbove(*larger, *window)) continue;
-            seen -= larger->frameGeometry();
+            seen -= FramedGeometry(*larger);
             if (highest == nullptr || stacking_.IsAbove(*larger, *highest)) highest = larger;
         }
         if (2 * AreaOf(seen) >= AreaOf(whole)) continue;
@@ -74,18 +82,20 @@ void NeverCovered::LeaveTitleFree(const QWidget& maximised)
 {
     QRect title = maximised.screen()->availableGeometry();
     title.setHeight(FrameOf(maximised).top());
-    for (QWidget* const window : small_)
-        if (IsOnScreen(*window) && window->frameGeometry().intersects(title)) {
-            const QPoint below(window->x(), title.bottom() + 1);
-            givenWay_.push_back({window, window->pos(), below});
-            window->move(below);
-        }
+    for (QWidget* const window : small_) {
+        const QRect framed = FramedGeometry(*window);
+        if (!IsOnScreen(*window) || !framed.intersects(title)) continue;
+        const QPoint below(framed.x(), title.bottom() + 1);
+        givenWay_.push_back({window, framed.topLeft(), below});
+        PlaceFrame(*window, below);
+    }
 }
 
 void NeverCovered::ReturnToPlaces()
 {
     for (const GivenWay& moved : std::exchange(givenWay_, {}))
-        if (moved.window->pos() == moved.to) moved.window->move(moved.from);
+        if (FramedGeometry(*moved.window).topLeft() == moved.to)
+            PlaceFrame(*moved.window, moved.from);
 }
 
 void NeverCovered::LeaveTitlesFree()
