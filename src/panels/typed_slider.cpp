@@ -12,7 +12,7 @@
 namespace pixano {
 namespace {
 
-constexpr qsizetype Longest = 16;
+constexpr qsizetype MostLetters = 16;
 
 bool IsDigit(QChar letter)
 {
@@ -52,7 +52,7 @@ void TypedSlider::keyPressEvent(QKeyEvent* event)
     const QString text = command ? QString() : event->text();
     const QChar letter = text.size() == 1 ? text[0] : QChar();
     if (IsDigit(letter) || (IsSeparator(letter) && !text_.isEmpty())) {
-        if (text_.size() < Longest) Take(text_ + letter);
+        if (text_.size() < MostLetters) Take(text_ + letter);
     } else if (event->key() == Qt::Key_Backspace) {
         Take((text_.isEmpty() ? QString::number(value()) : text_).chopped(1));
     } else {

@@ -140,17 +140,6 @@ TEST_P(SmallFileOfALargePicture, IsRefusedWhereMemoryIsShort)
 INSTANTIATE_TEST_SUITE_P(Bounds, SmallFileOfALargePicture, testing::ValuesIn(Larges),
                          [](const auto& tried) { return std::string(tried.param.name); });
 
-TEST(SlowJpeg, IsReadOrRefusedInBoundedTime)
-{
-    // The most work that is done for a file of this format: 8 thousand million pixels scanned.
-    constexpr double Longest = 60;
-    const int side = IsLong() ? 8192 : 2048;
-    const double before = SecondsUsed();
-    EXPECT_EQ(WithScans(side, side, IsLong() ? 120 : 60).Refusal(), "");
-    EXPECT_THAT(WithScans(side, side, 600).Refusal(), HasSubstr("troppi strati"));
-    EXPECT_LT(SecondsUsed() - before, Longest);
-}
-
 TEST(FilesToChange, CanBeReadWhole)
 {
     // The last ones of two formats are damaged already.
