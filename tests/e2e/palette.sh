@@ -16,6 +16,12 @@ cp "$photo" "$sandbox/foto.jpg"
 saved=$sandbox/risultato.bmp
 preview="foto.jpg  (${width} x ${height}) -"
 
+# How many buttons after $1 the button $2 comes, in the order of the tab key.
+buttons_between() {
+    awk -F '"' -v from="$1" -v to="$2" '/^    \{"/ { ++row } $2 == from { start = row } $2 == to { end = row }
+        END { if (!start || !end) exit 1; print end - start }' "$(dirname "$0")/../panels/expected_buttons.h"
+}
+
 # Presses a key that many times.
 repeat() {
     local pressed
@@ -41,8 +47,9 @@ place=$(xwininfo -id "$(window_titled "Strumenti")" | awk '/Absolute/ { print $N
     fail "the palette stands at $place with a frame of $left and $top"
 shot palette-1-aperta
 
-# While the history is off, the keyboard starts at the first reflection; "Vetro" comes 16 buttons later.
-repeat Tab 16
+# While the history is off, the keyboard starts at the first reflection.
+vetro=SSCommand6
+repeat Tab "$(buttons_between SSCommand7 $vetro)"
 keys space
 wait_for is_active "Vetro" || fail "no slider window, but $(active_title)"
 shot palette-2-cursore
@@ -55,9 +62,9 @@ expect_title "$preview 100%"
 [ "$(sed -n 3p "$sandbox/folder/valori.tip")" = $'6200\r' ] || fail "the strength was not kept"
 shot palette-4-vetro
 
-# The two picture buttons are the last ones, seven and eight buttons after "Vetro".
+# The two picture buttons are the last ones.
 focus "Strumenti"
-repeat Tab 7
+repeat Tab "$(buttons_between $vetro Command1)"
 keys space
 expect_title "$preview 130%"
 shot palette-5-ingrandita
@@ -69,18 +76,18 @@ for scale in 100 70 40 40; do
 done
 shot palette-6-ridotta
 
-# "Mix Verticale", six buttons back.
+mix=SSCommand19
 focus "Strumenti"
-repeat shift+Tab 6
+repeat shift+Tab "$(buttons_between $mix Command2)"
 keys space
 expect_title "Mix Verticale   $size"
 expect_title "$preview 40%"
 shot palette-7-mix
 
-# "Annulla", the first button: twenty back, as "Ripristina" is off.
+# "Annulla", the first button: one less than stand between, as "Ripristina" is off.
 [ ! -e "$XDG_DATA_HOME/pixano/temp2.bml" ] || fail "there is a picture to go forward to already"
 focus "Strumenti"
-repeat shift+Tab 20
+repeat shift+Tab "$(($(buttons_between SSCommand15 $mix) - 1))"
 keys space
 wait_for test -s "$XDG_DATA_HOME/pixano/temp2.bml" || fail "\"Annulla\" does nothing"
 shot palette-8-annullata

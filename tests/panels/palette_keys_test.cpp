@@ -47,7 +47,9 @@ TEST_F(PaletteKeys, WalkDownAColumnAndUpAgain)
     EXPECT_EQ(Walk({Up, Up}), (QStringList{"SSCommand22", "SSCommand20"}));
     // Where the rows differ, to what lies nearest.
     StartFrom("SSCommand26");
-    EXPECT_EQ(Walk({Down, Up, Up}), (QStringList{"SSCommand1", "SSCommand26", "SSCommand14"}));
+    EXPECT_EQ(Walk({Down}), QStringList{"SSCommand1"});
+    StartFrom("SSCommand10");
+    EXPECT_EQ(Walk({Up, Down}), (QStringList{"SSCommand17", "SSCommand10"}));
 }
 
 TEST_F(PaletteKeys, WalkAlongARowAndStayAtItsEnds)

@@ -73,4 +73,19 @@ done < <(
 )
 effects=$(grep -c '\.run = ' src/effects/catalogue.h)
 [[ $(grep -c '<a id="' docs/guida.md) -eq $effects ]] || complain "The guide does not describe all $effects effects"
+# Some say how many in words.
+in_italian=([46]=quarantasei quarantasette quarantotto quarantanove cinquanta cinquantuno cinquantadue)
+in_english=([46]=forty-six forty-seven forty-eight forty-nine fifty fifty-one fifty-two)
+while IFS=: read -r file text; do
+    text=${text/ITALIAN/${in_italian[effects]:?"$0 knows no word for $effects"}}
+    text=${text/ENGLISH/${in_english[effects]}}
+    tr -s '\n ' ' ' <"$file" | grep -qF -- "$text" || complain "$file: not \"$text\""
+done <<'TEXTS'
+docs/guida.md:tutti e ITALIAN,
+debian/control:any of ENGLISH effects
+packaging/man/pixano.1:its ENGLISH effects
+packaging/man/it/pixano.1:fra i suoi ITALIAN:
+packaging/org.example.pixano.metainfo.xml:any of ENGLISH effects
+packaging/org.example.pixano.metainfo.xml:fra i suoi ITALIAN:
+TEXTS
 exit "$failed"
