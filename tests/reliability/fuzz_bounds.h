@@ -20,7 +20,7 @@ inline constexpr double Pixels = double{Side} * Side;
 
 /// The memory that may be used beside the picture's. The address sanitizer keeps books on every
 /// piece.
-inline constexpr double Besides = MallocIsBounded ? 4 << 20 : 48 << 20;
+inline const double Besides = MallocIsBounded ? 4 << 20 : 48 << 20;
 
 /// The most memory that this process has used at once.
 inline double MemoryUsed()

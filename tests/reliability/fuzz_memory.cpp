@@ -36,6 +36,8 @@ void* Filled(void* memory, std::size_t count)
 #ifdef __SANITIZE_ADDRESS__
 
 // The sanitizer has taken malloc's place; what C++ asks for can still be answered here.
+const bool pixano::test::MallocIsBounded = false;
+
 void* operator new(std::size_t count)
 {
     void* const memory = Take(count) ? std::malloc(count) : nullptr;
@@ -66,6 +68,8 @@ void* AlignedMemory(std::size_t alignment, std::size_t count)
 }
 
 #else
+
+const bool pixano::test::MallocIsBounded = true;
 
 extern "C" {
 

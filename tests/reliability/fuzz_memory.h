@@ -9,11 +9,7 @@ namespace pixano::test {
 void FillFreshMemory(unsigned char byte);
 
 /// Whether the bound below holds for C libraries too, and not for C++ alone.
-#ifdef __SANITIZE_ADDRESS__
-inline constexpr bool MallocIsBounded = false;
-#else
-inline constexpr bool MallocIsBounded = true;
-#endif
+extern const bool MallocIsBounded;
 
 /// While this lives, so many bytes can be had and no more; what is given back does not count, nor
 /// do small pieces.

@@ -37,26 +37,24 @@ set(PLAYER player.cpp player_files.cpp model.cpp model_history.cpp difference.cp
 pixano_reliability_tests(sequences_test sequences_test.cpp ${PLAYER})
 pixano_long_form(sequences_test)
 
-# Killed, and started again. Not with the sanitizers: nothing may be loaded before theirs.
-if(NOT PIXANO_SANITIZED)
-  pixano_windowed(pixano-victim victim.cpp ${PLAYER})
-  pixano_reliability_tests(crash_test crash_test.cpp child.cpp knowledge.cpp)
-  target_compile_definitions(crash_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>"
-                                                FAILING_CALLS="$<TARGET_FILE_NAME:failing_calls>"
-                                                FAILING_CALLS_FOLDER="$<TARGET_FILE_DIR:failing_calls>")
-  add_dependencies(crash_test pixano-victim failing_calls)
-  pixano_long_form(crash_test)
-  # No one is killed here: every process comes to its end, and tells which lines it ran.
-  pixano_reliability_tests(recovery_test recovery_test.cpp recovery_tampered_test.cpp child.cpp knowledge.cpp)
-  target_compile_definitions(recovery_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>")
-  add_dependencies(recovery_test pixano-victim)
-  set_tests_properties(recovery_test PROPERTIES LABELS "reliability;windows")
-  # Each call fails while a command is given.
-  pixano_reliability_tests(every_failure_test every_failure_test.cpp short_memory_test.cpp every_command.cpp scenes.cpp
-                           true_state.cpp)
-  target_link_libraries(every_failure_test PRIVATE failing_calls)
-  pixano_long_form(every_failure_test)
-endif()
+# Killed, and started again.
+pixano_windowed(pixano-victim victim.cpp ${PLAYER})
+pixano_reliability_tests(crash_test crash_test.cpp child.cpp knowledge.cpp)
+target_compile_definitions(crash_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>"
+                                              FAILING_CALLS="$<TARGET_FILE_NAME:failing_calls>"
+                                              FAILING_CALLS_FOLDER="$<TARGET_FILE_DIR:failing_calls>")
+add_dependencies(crash_test pixano-victim failing_calls)
+pixano_long_form(crash_test)
+# No one is killed here: every process comes to its end, and tells which lines it ran.
+pixano_reliability_tests(recovery_test recovery_test.cpp recovery_tampered_test.cpp child.cpp knowledge.cpp)
+target_compile_definitions(recovery_test PRIVATE PIXANO_VICTIM="$<TARGET_FILE:pixano-victim>")
+add_dependencies(recovery_test pixano-victim)
+set_tests_properties(recovery_test PROPERTIES LABELS "reliability;windows")
+# Each call fails while a command is given.
+pixano_reliability_tests(every_failure_test every_failure_test.cpp short_memory_test.cpp every_command.cpp scenes.cpp
+                         true_state.cpp)
+target_link_libraries(every_failure_test PRIVATE failing_calls)
+pixano_long_form(every_failure_test)
 
 pixano_reliability_tests(working_files_test working_files_test.cpp disk_trouble_test.cpp working_commands.cpp)
 
