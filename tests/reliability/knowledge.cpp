@@ -35,10 +35,11 @@ Knowledge::State Knowledge::StateIn(const std::string& line)
 
 bool Knowledge::IsAside() const
 {
-    const QDir folder(dataFolder_, "recupero-*.bmp");
-    return std::ranges::any_of(folder.entryList(), [&](const QString& name) {
-        return good_.contains(ChecksumOfFile(folder.filePath(name)));
-    });
+    // What an error that ended the program has kept is not kept a second time.
+    const QDir folder(dataFolder_);
+    return std::ranges::any_of(
+        folder.entryList({"recupero-*.bmp", "lavoro-*.bmp"}),
+        [&](const QString& name) { return good_.contains(ChecksumOfFile(folder.filePath(name))); });
 }
 
 std::string Knowledge::Learn(const std::vector<std::string>& lines, int end)

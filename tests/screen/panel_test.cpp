@@ -84,6 +84,14 @@ class BesidePanel : public testing::WithParamInterface<Qt::Edge>, protected Pane
     }
 
     bool IsFree(const QWidget& window) const { return Free().contains(window.frameGeometry()); }
+    /// Where the toolkit chooses a place it leaves less for the sides of a frame than some have,
+    /// which are there for the mouse and not seen.
+    bool IsFreeButForItsSides(const QWidget& window) const
+    {
+        QRect seen = window.geometry();
+        seen.setTop(window.frameGeometry().top());
+        return Free().contains(seen);
+    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Edges, BesidePanel,
@@ -125,7 +133,7 @@ TEST_P(BesidePanel, StandsWhatAsksAndInforms)
         Activate(session.form1);
         const ModalSteps steps({[this](QDialog& dialog) {
             EXPECT_TRUE(ComesToHold([&] { return IsActive(dialog); }));
-            EXPECT_TRUE(Stays([&] { return IsFree(dialog); }))
+            EXPECT_TRUE(Stays([&] { return IsFreeButForItsSides(dialog); }))
                 << dialog.windowTitle().toStdString() << " begins at " << dialog.x() << ","
                 << dialog.y();
         }});
