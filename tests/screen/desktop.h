@@ -120,6 +120,15 @@ class Desktop : public Program {
         EXPECT_TRUE(found.hasMatch());
         return {found.captured(1).toInt(), found.captured(2).toInt()};
     }
+    /// Whether it stands below its screen's upper edge with its title, where it may have to be
+    /// brought, and the toolkit knows.
+    static bool IsPlaced(const QWidget& asking)
+    {
+        const QWindow& window = *asking.windowHandle();
+        return !window.frameMargins().isNull() &&
+               window.framePosition().y() >= window.screen()->availableGeometry().top() &&
+               OriginOf(asking) == window.position();
+    }
     static void ClickAt(QPoint place)
     {
         Do(QString("mousemove %1 %2 click 1").arg(place.x()).arg(place.y()));

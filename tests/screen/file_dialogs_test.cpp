@@ -124,6 +124,7 @@ TEST_F(FileDialogs, TakeTheFirstPressOnAButtonThoughNamesAreOffered)
                     EXPECT_TRUE(
                         ComesToHold([] { return QApplication::activePopupWidget() != nullptr; }));
                     Do("key p");
+                    EXPECT_TRUE(ComesToHold([&] { return IsPlaced(dialog); }));
                     const auto* const button = dialog.findChild<QDialogButtonBox*>()->button(which);
                     ClickAt(OriginOf(dialog) + button->mapTo(&dialog, button->rect().center()));
                     EXPECT_TRUE(ComesToHold([&] { return !dialog.isVisible(); }));
