@@ -3,8 +3,12 @@
 #include "windows/file_looks.h"
 #include "windows/screen_dialogs.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 namespace pixano::test {
@@ -65,6 +69,36 @@ TEST_F(RealFileDialog, LetsANameBeTypedThatIsAByteTooLong)
     EXPECT_EQ(screen.AskSaveName(QDir::currentPath(), {}), Path(QString(252, 'a') + ".bmp"));
 }
 
+TEST_F(RealFileDialog, TakesAPointOfTheFolderForNoExtension)
+{
+    QDir().mkdir("estate.2024");
+    const QString folder = Path("estate.2024");
+    for (const QString& name : {QString("\"senza\""), QString(252, 'a')}) {
+        Meanwhile([&](QFileDialog& dialog) { Type(dialog, name); });
+        EXPECT_EQ(screen.AskSaveName(folder, {}), folder + '/' + name + ".bmp");
+    }
+}
+
+TEST_F(RealFileDialog, TakesOnlyTheLeftButtonBesideTheNamesOffered)
+{
+    Meanwhile([](QFileDialog& dialog) {
+        auto* const names = dialog.findChild<QLineEdit*>("fileNameEdit")->completer()->popup();
+        const auto* const button =
+            dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
+        for (const auto which : {Qt::RightButton, Qt::MiddleButton, Qt::LeftButton}) {
+            EXPECT_TRUE(dialog.isVisible());
+            const QPointF place = button->mapToGlobal(button->rect().center());
+            QMouseEvent press(QEvent::MouseButtonPress, names->mapFromGlobal(place), place, which,
+                              which, Qt::NoModifier);
+            QApplication::sendEvent(names, &press);
+            QCoreApplication::processEvents();
+        }
+        EXPECT_FALSE(dialog.isVisible());
+        if (dialog.isVisible()) dialog.reject();
+    });
+    EXPECT_EQ(screen.AskOpenName(QDir::currentPath()), std::nullopt);
+}
+
 TEST_F(RealFileDialog, TakesBlanksForNoName)
 {
     for (const QString& blanks : {QString(" "), QString("   ")}) {
@@ -100,6 +134,7 @@ TEST_F(RealFileDialog, NamesTheKindsOfFilesInItalian)
                                      {"a.jpeg", "Immagine JPEG"},
                                      {"A.JPG", "Immagine JPEG"},
                                      {"a.gif", "Immagine GIF"},
+                                     {"estate.2024.gif", "Immagine GIF"},
                                      {"a.txt", "File TXT"},
                                      {"senza", "File"},
                                      {".", "Cartella"}})
