@@ -73,6 +73,23 @@ TEST_F(MenusLeft, CloseWhenTheKeysOfACommandArePressed)
     }
 }
 
+TEST_F(MenusLeft, CloseWhenTheKeysThatHaveNoEntryArePressed)
+{
+    OpenSized(300, 200);
+    for (QWidget* const window : std::initializer_list<QWidget*>{&session.form1, &session.form9}) {
+        SCOPED_TRACE(window->objectName().toStdString());
+        dialogs.told.clear();
+        LetTheFocusSettle();
+        Activate(*window);
+        Do("key alt+e");
+        EXPECT_TRUE(ComesToHold([this] { return IsOpen("Effetti"); }));
+        Do("key ctrl+v");
+        EXPECT_TRUE(ComesToHold([this] { return dialogs.told.size() == 1; }));
+        EXPECT_TRUE(Stays([] { return QApplication::activePopupWidget() == nullptr; }));
+        EXPECT_FALSE(session.form1.menuBar()->hasFocus());
+    }
+}
+
 TEST_F(MenusLeft, ObeyTheKeysAgainAfterAnEntryOfTheBarWasChosen)
 {
     OpenSized(300, 200);

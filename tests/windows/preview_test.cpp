@@ -92,6 +92,20 @@ TEST_F(Preview, HasBarsWhileTheUserHasMadeItSmaller)
     EXPECT_EQ(bars(), std::pair(false, false));
 }
 
+TEST_F(Preview, KeepsTheMiddleOfAPictureThatHadRoomToSpare)
+{
+    image_.SetPicture(Surface(60, 40));
+    window_.SetInside(QSize(60, 40));
+    window_.show();
+    window_.resize(300, 200);
+    window_.Stretch(QSize(6000, 4000));
+    for (const QScrollBar* const bar :
+         {window_.horizontalScrollBar(), window_.verticalScrollBar()}) {
+        EXPECT_GT(bar->maximum(), 1000);
+        EXPECT_NEAR(bar->value(), bar->maximum() / 2, 1);
+    }
+}
+
 TEST_F(Preview, IsHeldByAHandWhileTheMouseIsPressed)
 {
     window_.show();
