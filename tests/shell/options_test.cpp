@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <map>
 #include <vector>
 
 namespace pixano::test {
@@ -142,6 +143,26 @@ TEST(ProgramOptions, PreferXWhereItIsToBeHadAndNobodyAskedForAnotherPlatform)
     qputenv("QT_QPA_PLATFORM", platform);
     EXPECT_FALSE(PrefersX({"pixano"}));
     qputenv("DISPLAY", display);
+}
+
+TEST(ProgramOptions, NameTheScreenWhereTheEnvironmentDoesNot)
+{
+    const std::array variables{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    std::map<const char*, QByteArray> before;
+    for (const char* const variable : variables) {
+        before[variable] = qgetenv(variable);
+        qunsetenv(variable);
+    }
+    EXPECT_TRUE(ScreenIsMissing({"pixano", "a.bmp"}));
+    for (const char* const option : {"-platform", "--platform", "-display", "--display"})
+        EXPECT_FALSE(ScreenIsMissing({"pixano", option, "x"})) << option;
+    for (const char* const variable : variables) {
+        qputenv(variable, "x");
+        EXPECT_FALSE(ScreenIsMissing({"pixano"})) << variable;
+        qunsetenv(variable);
+    }
+    for (const auto& [variable, value] : before)
+        if (!value.isNull()) qputenv(variable, value);
 }
 
 }  // namespace

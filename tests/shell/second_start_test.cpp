@@ -1,9 +1,13 @@
 // What a second start hands over arrives letter for letter.
 #include "shell/handing_over.h"
+#include "support/hindrances.h"
 #include "support/temporary_folder.h"
 #include "windows/file_names.h"
 
 #include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace pixano::test {
 namespace {
@@ -59,6 +63,22 @@ TEST_F(SecondStart, HearsNoNameThatIsNoPathFromTheRoot)
     int called = 0;
     QObject::connect(&starts, &SecondStarts::Called, [&] { ++called; });
     EXPECT_FALSE(IsHeard("foto.bmp"));
+    EXPECT_EQ(called, 0);
+}
+
+// Root gets by the rights of the socket.
+TEST_F(SecondStart, HearsNoOtherUser)
+{
+    if (geteuid() != 0) GTEST_SKIP() << "only root can become another user";
+    const pid_t other = fork();
+    if (other == 0) _exit(HandOver(place_, "/foto.bmp") ? 1 : 0);
+    const OrdinaryUser user{folder_.Path()};
+    const SecondStarts starts(place_);
+    int called = 0;
+    QObject::connect(&starts, &SecondStarts::Called, [&] { ++called; });
+    int status = -1;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return waitpid(other, &status, WNOHANG) == other; }));
+    EXPECT_EQ(status, 0);
     EXPECT_EQ(called, 0);
 }
 

@@ -150,7 +150,7 @@ TEST_F(Starting, TellsWhatItNoLongerOpensWhereItEndsMeanwhile)
     const QString second = Made("c.bmp", Drawn({"xyz"}));
     const QString late = Made("d.bmp", Drawn({"xyz"}));
     // While it asks, while it tells of the first ones, and no more.
-    std::deque<QStringList> handed{{first, second, first}, {late}};
+    std::deque<QStringList> handed{{first, second, first, second}, {late}};
     RunWith({}, [&] {
         Open("a.bmp", Drawn({"abc"}));
         Apply("Specchio");
