@@ -123,6 +123,21 @@ TEST_F(MenusLeft, ObeyTheKeysAgainAfterAnEntryOfTheBarWasChosen)
     }
 }
 
+TEST_F(MenusLeft, GiveNoFocusBackOnceAThirdWindowWasUsed)
+{
+    OpenSized(30, 20);
+    Activate(session.form9);
+    // To an entry without a menu.
+    for (const char* const key : {"F10", "Left"}) {
+        Do(QString("key ") + key);
+        QTest::qWait(50);
+    }
+    EXPECT_TRUE(ComesToHold([this] { return session.form1.menuBar()->hasFocus(); }));
+    EXPECT_TRUE(ComesToHold([] { return QApplication::activePopupWidget() == nullptr; }));
+    Activate(session.form10);
+    EXPECT_TRUE(StaysOnceAnswered([this] { return IsActive(session.form10); }));
+}
+
 TEST_F(MenusLeft, GiveTheFocusBackWhenNoneOfTheirEntriesIsChosen)
 {
     OpenSized(30, 20);
