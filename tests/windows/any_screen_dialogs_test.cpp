@@ -101,7 +101,7 @@ TEST_F(AnyScreen, HoldsAMessageOfManyWords)
 {
     ScreenDialogs screen;
     WhileShown<QMessageBox>([](QMessageBox& box) { ExpectOnScreen(box); });
-    screen.Tell(BoxIcon::Exclamation, "Attenzione!", QString("parole ").repeated(60) + '.');
+    screen.Tell(BoxIcon::Exclamation, "Attenzione!", QString("parole ").repeated(100) + '.');
 }
 
 }  // namespace
