@@ -1,5 +1,6 @@
 // The history of work that a run before this one had begun.
 #include "document/after_a_kill.h"
+#include "document/working_pictures.h"
 
 namespace pixano::test {
 namespace {
@@ -39,6 +40,24 @@ TEST_F(WorkBroughtBack, MayHaveSidesThatAnEffectHasMadeEven)
     Offer();
     EXPECT_TRUE(dialogs.told.empty());
     EXPECT_EQ(session.work.Picture1, before);
+}
+
+// Its file is the program's own, and goes in the end.
+TEST_F(WorkBroughtBack, IsNotSavedWhereAPastedPictureLies)
+{
+    {
+        StartedDesk killed;
+        const QString pasted = Data("appunti-120000-000.bmp");
+        SaveWorkingPicture(Drawn({"abc"}), pasted);
+        killed.Open(pasted);
+        killed.Apply("Specchio");
+    }
+    dialogs.answers = {true};
+    Offer();
+    EXPECT_EQ(CanvasLetters(), (Letters{"cba"}));
+    dialogs.saveNames = {std::nullopt};
+    ClickEntry(entry::Salva);
+    EXPECT_EQ(dialogs.saveFolders, std::vector<QString>{QDir::currentPath()});
 }
 
 }  // namespace

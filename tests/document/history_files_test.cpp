@@ -182,13 +182,17 @@ TEST_F(DamagedHistory, NamesTheOpenedPictureThatHasGoneThoughItWasSavedUnderAnot
 
 TEST_F(DamagedHistory, KeepsTheChangesWhenTheOpenedPictureNowHasAnotherSize)
 {
-    Made("a.bmp", Drawn({"xy"}));
-    ClickEntry(entry::Orig);
-    EXPECT_EQ(dialogs.told, (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!",
-                                                    "L'immagine nel file «" + Path("a.bmp") +
-                                                        "» ora ha un'altra misura."}}));
-    EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
-    EXPECT_EQ(session.doc.Modificato, 1);
+    const QString why = "L'immagine nel file «" + Path("a.bmp") + "» ora ha un'altra misura.";
+    for (const Letters& other : {Letters{"xy"}, Letters{"abc", "xyz"}}) {
+        Made("a.bmp", Drawn(other));
+        ClickEntry(entry::Orig);
+        EXPECT_EQ(dialogs.told,
+                  (std::vector<ShownBox>{{BoxIcon::Exclamation, "Attenzione!", why}}));
+        EXPECT_EQ(CanvasLetters(), (Letters{"~ab"}));
+        EXPECT_EQ(session.doc.Modificato, 1);
+        dialogs.told.clear();
+        ClickEntry(entry::Redo);
+    }
 }
 
 TEST_F(DamagedHistory, LoadsAnOpenedPictureOfAnotherSizeWhenAllWasSaved)

@@ -106,15 +106,15 @@ TEST_F(Saving, AsksForAnotherNameAsOftenAsTheAnswerIsNo)
     Write("s.bmp", "vecchio");
     Write("t.bmp", "vecchio");
     dialogs.answers = {false, false, true};
-    dialogs.saveNames = {Path("s.bmp"), Path("t.bmp"), Path("s.bmp")};
+    dialogs.saveNames = {Path("s.jpg"), Path("t.bmp"), Path("s.bmp")};
     ClickEntry(entry::Salva);
     EXPECT_EQ(dialogs.asked,
               (std::vector<ShownBox>{MayReplace(Path("s.bmp")), MayReplace(Path("t.bmp")),
                                      MayReplace(Path("s.bmp"))}));
-    // The name that was not taken stands there to be changed.
+    // The name that was not taken stands there to be changed, as it was chosen.
     const QString folder = QDir::currentPath();
     EXPECT_EQ(dialogs.saveFolders, (std::vector<QString>{folder + '/', folder, folder}));
-    EXPECT_EQ(dialogs.saveBeginnings, (std::vector<QString>{"", "s.bmp", "t.bmp"}));
+    EXPECT_EQ(dialogs.saveBeginnings, (std::vector<QString>{"", "s.jpg", "t.bmp"}));
     EXPECT_EQ(Kept(Path("s.bmp")), (Letters{"cba"}));
     EXPECT_EQ(Bytes("t.bmp"), "vecchio");
 }
