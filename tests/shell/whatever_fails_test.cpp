@@ -107,6 +107,18 @@ TEST_F(WhateverFails, ACanvasWithoutAnyCopyIsToldOfAfterEveryEffect)
     }
 }
 
+TEST_F(WhateverFails, ACopyThatNoNoteNamesIsNotToldToBeSafe)
+{
+    QDir().mkdir("elabor.tmp");
+    QDir().mkpath(Data("recupero.txt/dentro"));
+    Apply("Specchio");
+    ASSERT_EQ(dialogs.told.size(), 1U);
+    const std::string told = dialogs.told[0].text.toStdString();
+    EXPECT_THAT(told, testing::EndsWith("Una copia dell'immagine modificata è nel file «" +
+                                        Data("elabor.tmp").toStdString() + "»."));
+    EXPECT_THAT(told, testing::Not(testing::HasSubstr("al sicuro")));
+}
+
 TEST_F(WhateverFails, AFullDiskEndsOnlyTheCommandInTheEffectsThatMayEndTheProgram)
 {
     int count = 0;
