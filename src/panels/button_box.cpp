@@ -44,12 +44,11 @@ void WidenToCaptions(const QWidget& box)
         button->setMinimumWidth(widest + BesideCaption);
 }
 
-void ForgetSizes(QWidget& box)
+void ForgetSizes(const QWidget& box)
 {
+    // Of a button's new size the box's layout hears, its rows do not.
     for (QObject* const row : box.layout()->children())
         static_cast<QLayout*>(row)->invalidate();
-    box.layout()->invalidate();
-    box.updateGeometry();
 }
 
 }  // namespace pixano

@@ -18,6 +18,6 @@ void LayInRows(QWidget& box, int perRow, int margin);
 void WidenToCaptions(const QWidget& box);
 
 /// What the toolkit remembers of the sizes in a window that is not shown would be the old ones.
-void ForgetSizes(QWidget& box);
+void ForgetSizes(const QWidget& box);
 
 }  // namespace pixano
