@@ -20,7 +20,7 @@ bool TakeCopy(QDropEvent& event)
 {
     const bool taken =
         event.possibleActions().testFlag(Qt::CopyAction) && !DraggedFile(event).isEmpty();
-    event.setDropAction(taken ? Qt::CopyAction : Qt::IgnoreAction);
+    event.setDropAction(Qt::CopyAction);
     event.setAccepted(taken);
     return taken;
 }

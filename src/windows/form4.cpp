@@ -100,7 +100,7 @@ void Form4::RepaintBar()
 void Form4::ShowFull()
 {
     SetBar(static_cast<float>(bar_->maximum()));
-    if (isVisible() && painted_ != bar_->maximum()) RepaintBar();
+    if (painted_ != bar_->maximum()) RepaintBar();
 }
 
 void Form4::closeEvent(QCloseEvent* event)

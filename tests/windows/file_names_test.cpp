@@ -84,6 +84,9 @@ TEST(FileNames, OfFoldersAndWhatIsInThem)
     EXPECT_FALSE(FileExists(FileName(odd + "/a.bmp")));
     std::filesystem::create_symlink("nowhere", folder / "link");
     EXPECT_FALSE(FileExists(FileName(folder / "link")));
+    WriteBytes(folder / "a.bmp", "");
+    EXPECT_TRUE(FileExists(FileName(folder / "a.bmp")));
+    EXPECT_FALSE(FileExists(FileName(folder / "a.bmp/b.bmp")));
 }
 
 TEST(FileNames, AreTakenForFilesWhereNobodyCanLook)

@@ -27,6 +27,12 @@ TEST_F(ProgressShown, LeavesTheNumberToTheTitle)
     EXPECT_FALSE(Bar().isTextVisible());
 }
 
+TEST_F(ProgressShown, IsWideEnoughForItsTitle)
+{
+    EXPECT_EQ(window.width(), 380);
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+}
+
 TEST_F(ProgressShown, CountsFromNoneToFourHundred)
 {
     EXPECT_EQ(Bar().minimum(), 0);
