@@ -21,17 +21,22 @@ class FileSizeLimit {
     explicit FileSizeLimit(rlim_t bytes)
     {
         // As the programs do.
-        std::signal(SIGXFSZ, SIG_IGN);
+        handler_ = std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &before_);
         const rlimit limit{bytes, before_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
     }
     FileSizeLimit(const FileSizeLimit&) = delete;
     FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
 
   private:
     rlimit before_{};
+    void (*handler_)(int) = SIG_DFL;
 };
 
 /// Whoever runs the tests is an ordinary user, who owns `paths` and all that is in them.
