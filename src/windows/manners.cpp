@@ -69,7 +69,7 @@ bool Manners::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-bool Manners::IsLeftOver(QWindow& window, const QMouseEvent& press)
+bool Manners::IsLeftOver(const QWindow& window, const QMouseEvent& press)
 {
     // The toolkit tells of a double click after the press itself.
     if (press.type() == QEvent::MouseButtonDblClick) return last_.leftOver;

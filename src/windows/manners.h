@@ -30,11 +30,11 @@ class Manners : public QObject {
 
   private:
     /// Whether the press belongs to the one before, which has closed its window.
-    bool IsLeftOver(QWindow& window, const QMouseEvent& press);
+    bool IsLeftOver(const QWindow& window, const QMouseEvent& press);
 
     /// The last press of a button of the mouse.
     struct Press {
-        QPointer<QWindow> window;
+        QPointer<const QWindow> window;
         quint64 time = 0;  ///< in milliseconds
         QPoint place;
         bool leftOver = false;
